@@ -1,0 +1,37 @@
+// conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--digest FILE]
+#include "crash.h"
+#include "options.h"
+#include "summary.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cinttypes>
+#include <cstdio>
+#include <stdexcept>
+
+int main(int argc, char **argv) {
+    using namespace zelmtest;
+    testing::InitGoogleTest(&argc, argv);
+    try {
+        parseOptions(argc, argv);
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 2;
+    }
+    installCrashHandler();
+    std::printf("seed %" PRIu64 ", %" PRIu64 " cases per function\n", options().seed, options().cases);
+    std::fflush(stdout);
+
+    const auto start = std::chrono::steady_clock::now();
+    int result = RUN_ALL_TESTS();
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+
+    std::printf("conformance: %zu functions, %" PRIu64 " calls, seed %" PRIu64 ", %.1f s\n",
+                summary().functionCount(), summary().calls(), options().seed, seconds.count());
+    if (!options().digest.empty() && !summary().writeDigest(options().digest)) {
+        std::fprintf(stderr, "cannot write %s\n", options().digest.c_str());
+        result = 1;
+    }
+    return result;
+}

@@ -1,0 +1,31 @@
+// The numbers that a case is made of, as bits of the element type.
+#pragma once
+
+#include "random.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace zelmtest {
+
+enum class Style {
+    Plain,     // about 1 in magnitude, both signs
+    Small,     // integers from -3 to 3: ties and exact zeros
+    Special,   // zeros, infinities, NaNs, denormals, limits
+    Mixed,     // plain with a few special ones
+    AnyBits,   // every bit pattern is as likely
+    Wide,      // magnitudes so far apart that quotients underflow and overflow
+    Threshold, // about 2^-23: at, below and above it
+};
+
+constexpr std::uint32_t styleCount = 7;
+
+// One number of 32 or 64 bits.
+std::uint64_t drawNumber(Random &random, Style style, bool wide64);
+
+// A square matrix, row by row, made to try pivoting: in `style`, or, for Threshold, a permuted triangular
+// matrix with one pivot at the threshold.
+void drawMatrix(Random &random, Style style, bool wide64, std::uint32_t n,
+                std::vector<std::uint64_t> &elements);
+
+} // namespace zelmtest

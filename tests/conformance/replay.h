@@ -1,0 +1,14 @@
+// A case as a C program that can be pasted into a file and run.
+#pragma once
+
+#include "arena.h"
+#include "case.h"
+
+#include <string>
+
+namespace zelmtest {
+
+// The memory of the case must lie in the arena as it was before the call.
+std::string replayProgram(const Case &theCase, const Arena &arena);
+
+} // namespace zelmtest

@@ -1,0 +1,46 @@
+// Runs a case by the model and by a callee on the same memory, and compares the status and every byte.
+#pragma once
+
+#include "case.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace zelmtest {
+
+// What is under test: the exported function, or a double of it.
+using Callee = std::function<ZelmStatus(const Case &, const std::vector<Value> &)>;
+
+struct Mismatch {
+    std::string what;
+};
+
+class Runner {
+public:
+    explicit Runner(Arena &arena) : arena_(arena) {}
+
+    // Makes, runs and compares one case.
+    std::optional<Mismatch> run(const Target &target, std::uint64_t seed, std::uint64_t number,
+                                const Callee &callee);
+
+    // The case that ran last; its memory lies in the arena as it was before the call.
+    const Case &last() const { return case_; }
+
+    // A hash of what all calls since the last take returned and wrote: statuses, elements of dst, pivotIndex.
+    // It does not depend on addresses, and every NaN counts as the same number.
+    std::uint64_t takeDigest();
+
+private:
+    std::optional<Mismatch> compare(ZelmStatus expected, ZelmStatus actual);
+    void acceptComputedNans();
+    std::string describe(const Window &window, std::size_t offset) const;
+    void digest(ZelmStatus status);
+
+    Arena &arena_;
+    Case case_;
+    zelmref::ComputedElements results_;
+    std::uint64_t digest_ = 0;
+};
+
+} // namespace zelmtest
