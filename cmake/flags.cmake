@@ -1,0 +1,42 @@
+# Every compiler and linker flag that the results or the shape of the library depend on, in one place.
+
+# Arithmetic, for the library and for everything that is compared with it bit for bit:
+# - SSE arithmetic on t7 too: x87 would round twice, and g++ uses it even with -msse3 unless told otherwise.
+# - No contraction into fused operations; no member of -ffast-math is ever used.
+# - Nothing newer than SSE3.
+add_library(zelm_arithmetic_flags INTERFACE)
+target_compile_options(zelm_arithmetic_flags INTERFACE -msse3 -mfpmath=sse -ffp-contract=off)
+if(ZELM_TARGET STREQUAL "t7")
+  target_compile_options(zelm_arithmetic_flags INTERFACE -march=pentium4 -mtune=generic)
+endif()
+
+add_library(zelm_warning_flags INTERFACE)
+target_compile_options(zelm_warning_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+
+if(ZELM_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The library itself: closed, so that it can be loaded anywhere and loads nothing.
+add_library(zelm_library_flags INTERFACE)
+target_link_libraries(zelm_library_flags INTERFACE zelm_arithmetic_flags zelm_warning_flags)
+target_compile_options(zelm_library_flags INTERFACE
+  -fPIC -fvisibility=hidden -fvisibility-inlines-hidden
+  # Square roots as instructions, not as calls that could set errno. No bit changes.
+  -fno-math-errno
+  -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables -fno-unwind-tables
+  -fno-stack-protector -U_FORTIFY_SOURCE -fno-plt -fno-ident -fno-threadsafe-statics)
+if(ZELM_TARGET STREQUAL "t7")
+  # Old callers come with a stack that is aligned to 4 bytes only; without this every kernel that spills vectors
+  # would crash for them. Only functions that need it realign.
+  target_compile_options(zelm_library_flags INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:-mincoming-stack-boundary=2> $<$<CXX_COMPILER_ID:Clang>:-mstack-alignment=4>)
+endif()
+# A sanitizer's runtime is a dependency, so the closed link holds in all builds but that one.
+if(NOT ZELM_SANITIZE)
+  target_link_options(zelm_library_flags INTERFACE
+    -nostdlib -Wl,-z,defs -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now -Wl,-Bsymbolic -Wl,--build-id=none
+    -Wl,--gc-sections)
+  target_compile_options(zelm_library_flags INTERFACE -ffunction-sections)
+endif()

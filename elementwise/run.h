@@ -1,0 +1,135 @@
+// A run of elements: dst[i] = op(a[i], b[i]) for i ascending, in whole packs wherever that can't be told from
+// the plain loop.
+#pragma once
+
+#include "frame/operands.h"
+#include "frame/pack.h"
+
+#include <numeric>
+
+namespace zelm::elementwise {
+
+using namespace zelm::frame;
+
+// The inputs of a run. `i` is the number of the element; `p` numbers the pack within a round of the loop.
+
+// Adjacent elements, read where they lie.
+template <typename T>
+struct Stream {
+    static constexpr unsigned period = 1;
+    Address start;
+    ZELM_INLINE T element(Address i) const { return load<T>(start + i * sizeof(T)); }
+    ZELM_INLINE Pack<T> pack(Address i, unsigned) const { return loadPack<T>(start + i * sizeof(T)); }
+    // Storing a pack of `to` would change elements of the same pack that the plain loop reads after storing
+    // others. At any greater distance, and behind the stream, packs in ascending order give what the plain
+    // loop gives.
+    ZELM_INLINE bool isCloselyBehind(Address to) const { return to - start - 1 < kPackBytes - 1; }
+};
+
+// One value for all elements.
+template <typename T>
+struct Same {
+    static constexpr unsigned period = 1;
+    T value;
+    ZELM_INLINE T element(Address) const { return value; }
+    ZELM_INLINE Pack<T> pack(Address, unsigned) const { return broadcast(value); }
+    static constexpr bool isCloselyBehind(Address) { return false; }
+};
+
+// An invariant vector of N elements, read once and held, over and over.
+template <typename T, unsigned N>
+struct Held : WithoutTable {
+    // In packs, after which the pattern meets itself again.
+    static constexpr unsigned period = N / std::gcd(N, kLanes<T>);
+    T pattern[period * kLanes<T>];
+    template <typename Vector>
+    ZELM_INLINE explicit Held(const Vector &vector) {
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            copyElement<T>(addressOf(&pattern[j]), vector.address(0, j, 0));
+#pragma GCC unroll 20
+        for (unsigned i = N; i < period * kLanes<T>; ++i)
+            copyElement<T>(addressOf(&pattern[i]), addressOf(&pattern[i - N]));
+    }
+    ZELM_INLINE const Held &object(std::uint32_t) const {
+        return *this;
+    }
+    ZELM_INLINE T element(Address i) const {
+        return pattern[i % N];
+    }
+    ZELM_INLINE Pack<T> pack(Address, unsigned p) const {
+        return loadPack<T>(addressOf(&pattern[p % period * kLanes<T>]));
+    }
+    static constexpr bool isCloselyBehind(Address) {
+        return false;
+    }
+};
+
+// A run of this size passes the caches anyway: storing past them saves reading the lines that it overwrites.
+constexpr Address kStreamingBytes = Address{8} << 20;
+
+template <typename Op, typename T, bool streaming, typename A, typename B>
+ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
+    constexpr unsigned period = std::lcm(A::period, B::period);
+    constexpr unsigned round = period < 3 ? 4 : period;
+    constexpr unsigned lanes = kLanes<T>;
+    for (; length - i >= round * lanes; i += round * lanes) {
+#pragma GCC unroll 8
+        for (unsigned p = 0; p < round; ++p) {
+            const Address at = i + p * lanes;
+            const Pack<T> result = Op::apply(a.pack(at, p), b.pack(at, p));
+            if constexpr (streaming)
+                streamPack(dst + at * sizeof(T), result);
+            else
+                storePack(dst + at * sizeof(T), result);
+        }
+    }
+    if constexpr (period == 1)
+        for (; length - i >= lanes; i += lanes)
+            storePack(dst + i * sizeof(T), Op::apply(a.pack(i, 0), b.pack(i, 0)));
+    return i;
+}
+
+template <typename Op, typename T, typename A, typename B>
+ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
+    Address i = 0;
+    if (length >= 2 * kLanes<T> && !a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
+        if (A::period == 1 && B::period == 1 && length * sizeof(T) >= kStreamingBytes &&
+            dst % sizeof(T) == 0) {
+            for (; (dst + i * sizeof(T)) % kPackBytes != 0; ++i)
+                store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+            i = runPacks<Op, T, true>(a, b, dst, i, length);
+            _mm_sfence();
+        } else {
+            i = runPacks<Op, T, false>(a, b, dst, i, length);
+        }
+    }
+    for (; i < length; ++i)
+        store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+}
+
+// The same for N elements, without a loop.
+template <typename Op, typename T, unsigned N, typename A, typename B>
+ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
+    constexpr unsigned lanes = kLanes<T>;
+    unsigned packed = 0;
+    if constexpr (N >= lanes) {
+        if (!a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
+            packed = N / lanes * lanes;
+#pragma GCC unroll 3
+            for (unsigned p = 0; p < N / lanes; ++p)
+                storePack(dst + p * kPackBytes, Op::apply(a.pack(p * lanes, p), b.pack(p * lanes, p)));
+        }
+    }
+    if (packed == 0) {
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    } else {
+#pragma GCC unroll 3
+        for (unsigned j = N / lanes * lanes; j < N; ++j)
+            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    }
+}
+
+} // namespace zelm::elementwise

@@ -1,0 +1,213 @@
+// When several objects may be computed at once.
+//
+// A group reads all its objects before it writes any, where the loop that it stands for reads object k+1
+// after writing object k. So a group runs only where that can't be seen: the objects of the destination lie
+// apart from each other and from every source. In doubt the answer is no, and the objects are done one by
+// one.
+#pragma once
+
+#include "frame/operands.h"
+
+namespace zelm::frame {
+
+// Bytes low to high-1. Wide enough that no sum of strides wraps where an address would.
+struct Range {
+    std::int64_t low, high;
+};
+
+ZELM_INLINE std::int64_t signedDistance(Address bytes) {
+    return static_cast<std::intptr_t>(bytes);
+}
+
+ZELM_INLINE std::int64_t span(Address stride) {
+    const std::int64_t bytes = signedDistance(stride);
+    return bytes < 0 ? -bytes : bytes;
+}
+
+ZELM_INLINE bool areDisjoint(const Range &a, const Range &b) {
+    return a.high <= b.low || b.high <= a.low;
+}
+
+// More objects than this are done one by one: the arithmetic on ranges would overflow.
+constexpr std::uint32_t kMostObjectsInRange = std::uint32_t{1} << 30;
+
+// A range that reaches over an end of the address space is unknown.
+ZELM_INLINE bool isKnown(const Range &range) {
+    constexpr std::int64_t end = sizeof(Address) == 4 ? std::int64_t{1} << 32 : std::int64_t{1} << 62;
+    return range.low >= 0 && range.high <= end;
+}
+
+ZELM_INLINE void extend(Range &range, std::int64_t by) {
+    if (by < 0)
+        range.low += by;
+    else
+        range.high += by;
+}
+
+ZELM_INLINE Range rangeFrom(Address start, std::int64_t bytes) {
+    const std::int64_t low = sizeof(Address) == 4 ? static_cast<std::int64_t>(start) : signedDistance(start);
+    return {low, low + bytes};
+}
+
+// ---- the bytes of an operand of `rows` rows of `columns` elements, over `count` objects
+
+template <typename Object>
+ZELM_INLINE Range rangeOfObject(const Object &object, unsigned rows, unsigned columns) {
+    Range range = rangeFrom(object.start, sizeof(typename Object::Element));
+    extend(range, signedDistance(object.rowStride) * (rows - 1));
+    extend(range, signedDistance(object.elemStride) * (columns - 1));
+    return range;
+}
+
+template <typename T>
+ZELM_INLINE Range rangeOfObject(const Table<T> &object, unsigned rows, unsigned columns) {
+    Range all = rangeFrom(object.position(0), sizeof(T));
+    for (unsigned e = 1; e < rows * columns; ++e) {
+        const Range one = rangeFrom(object.position(e), sizeof(T));
+        all.low = one.low < all.low ? one.low : all.low;
+        all.high = one.high > all.high ? one.high : all.high;
+    }
+    return all;
+}
+
+template <typename Array>
+ZELM_INLINE Range rangeOf(const Array &array, unsigned rows, unsigned columns, std::uint32_t count) {
+    Range range = rangeOfObject(array.object(0), rows, columns);
+    if constexpr (requires { array.objStride; })
+        extend(range, signedDistance(array.objStride) * (count - 1));
+    return range;
+}
+
+// ---- whether the elements of a destination are all distinct, inside an object and from object to object
+
+ZELM_INLINE bool areApart(std::int64_t objStride, std::uint32_t count, std::int64_t rowStride, unsigned rows,
+                          std::int64_t elemStride, unsigned columns, std::int64_t size) {
+    // Whole objects behind each other, whether dense or with gaps ...
+    const std::int64_t row = elemStride * (columns - 1) + size;
+    const std::int64_t object = rowStride * (rows - 1) + row;
+    if (elemStride >= size && (rows == 1 || rowStride >= row) && objStride >= object)
+        return true;
+    // ... or one plane per element position.
+    const std::int64_t plane = objStride * (count - 1) + size;
+    const std::int64_t rowOfPlanes = elemStride * (columns - 1) + plane;
+    return objStride >= size && elemStride >= plane && (rows == 1 || rowStride >= rowOfPlanes);
+}
+
+template <typename Array>
+ZELM_INLINE bool elementsAreApart(const Array &array, unsigned rows, unsigned columns, std::uint32_t count) {
+    return areApart(span(array.objStride), count, span(array.rowStride), rows, span(array.elemStride),
+                    columns, sizeof(typename Array::Element));
+}
+
+// One object of a list.
+template <typename Object>
+ZELM_INLINE bool elementsAreApart(const Object &object, unsigned rows, unsigned columns) {
+    return areApart(std::int64_t{1} << 62, 1, span(object.rowStride), rows, span(object.elemStride), columns,
+                    sizeof(typename Object::Element));
+}
+
+// A table's positions: no two closer than `bytes`.
+template <typename T>
+bool positionsAreApart(const Table<T> &object, unsigned entries, std::int64_t bytes) {
+    for (unsigned e = 1; e < entries; ++e) {
+        const std::int64_t at = rangeFrom(object.position(e), 0).low;
+        for (unsigned f = 0; f < e; ++f) {
+            const std::int64_t gap = at - rangeFrom(object.position(f), 0).low;
+            if (gap < bytes && -gap < bytes)
+                return false;
+        }
+    }
+    return true;
+}
+
+template <typename T>
+ZELM_INLINE bool tableElementsAreApart(const Table<T> &first, std::int64_t objStride, unsigned entries,
+                                       std::uint32_t count) {
+    const Range object = rangeOfObject(first, 1, entries);
+    const std::int64_t size = sizeof(T);
+    if (objStride >= object.high - object.low)
+        return positionsAreApart(first, entries, size);
+    return objStride >= size && positionsAreApart(first, entries, objStride * (count - 1) + size);
+}
+
+template <typename T>
+ZELM_INLINE bool elementsAreApart(const PackedTableArray<T> &array, unsigned rows, unsigned columns,
+                                  std::uint32_t count) {
+    return tableElementsAreApart(array.object(0), sizeof(T), rows * columns, count);
+}
+
+template <typename T>
+ZELM_INLINE bool elementsAreApart(const TableArray<T> &array, unsigned rows, unsigned columns,
+                                  std::uint32_t count) {
+    return tableElementsAreApart(array.object(0), span(array.objStride), rows * columns, count);
+}
+
+// ---- whether a source and the destination are the same elements, position by position
+
+template <typename S, typename D>
+constexpr bool coincide(const S &, const D &) {
+    return false;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const Dense<const T> &s, const Dense<T> &d) {
+    return s.start == d.start && s.rowStride == d.rowStride;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const Strided<const T> &s, const Strided<T> &d) {
+    return s.start == d.start && s.rowStride == d.rowStride && s.elemStride == d.elemStride;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const DenseArray<const T> &s, const DenseArray<T> &d) {
+    return s.start == d.start && s.objStride == d.objStride && s.rowStride == d.rowStride;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const StridedArray<const T> &s, const StridedArray<T> &d) {
+    return s.start == d.start && s.objStride == d.objStride && s.rowStride == d.rowStride &&
+           s.elemStride == d.elemStride;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const PackedTableArray<const T> &s, const PackedTableArray<T> &d) {
+    return s.table == d.table && s.shift == d.shift;
+}
+
+template <typename T>
+ZELM_INLINE bool coincide(const TableArray<const T> &s, const TableArray<T> &d) {
+    return s.table == d.table && s.shift == d.shift && s.objStride == d.objStride;
+}
+
+// Two operands in one structure: the same distance from object to object, apart inside it.
+ZELM_INLINE bool areInterleaved(const Range &a, const Range &b, Address objStrideA, Address objStrideB) {
+    if (objStrideA != objStrideB || signedDistance(objStrideA) <= 0)
+        return false;
+    // The first objects only: the ranges here are of one object each.
+    const std::int64_t stride = signedDistance(objStrideA);
+    const std::int64_t low = a.low < b.low ? a.low : b.low;
+    const std::int64_t high = a.high > b.high ? a.high : b.high;
+    return areDisjoint(a, b) && high - low <= stride;
+}
+
+// Whether groups of objects may write `d` where the one-by-one loop also reads `s`.
+template <typename S, typename D>
+ZELM_INLINE bool isUntouched(const S &s, unsigned sRows, unsigned sColumns, const D &d, unsigned rows,
+                             unsigned columns, std::uint32_t count) {
+    const Range source = rangeOf(s, sRows, sColumns, count), target = rangeOf(d, rows, columns, count);
+    if (!isKnown(source) || !isKnown(target))
+        return false;
+    if (areDisjoint(source, target))
+        return true;
+    if constexpr (requires {
+                      s.objStride;
+                      d.objStride;
+                  })
+        return areInterleaved(rangeOfObject(s.object(0), sRows, sColumns),
+                              rangeOfObject(d.object(0), rows, columns), s.objStride, d.objStride);
+    else
+        return false;
+}
+
+} // namespace zelm::frame

@@ -1,0 +1,327 @@
+"""The catalogue: the single source of every exported name and of its argument list.
+
+A row is an (operation, descriptor) pair. Rows, classes and argument orders stand here as data; nothing is said
+per exported name but the departures of single members. `generate.py` turns the catalogue into the headers, the
+exported functions, the list of exports, the machine-readable dump and the list that the tests enumerate.
+
+The argument order of a row is one string of words:
+
+    NAME:KIND         an operand; KIND is v, va (vector, array of vectors), m, ma (matrix, array of matrices), a T
+                      behind it for transposed use, `scalar` (one result per object) or `packed` (a plain packed
+                      buffer). An operand without `a` in an array row is invariant: the same for every object.
+                      `m+obj` is an invariant matrix whose list keeps an object stride that is never read.
+    scratch@runtime   an argument of the run-time form only
+    any other word    a by-value constant, a dimension, `count`, `pivotIndex` or `scratch`
+"""
+
+from dataclasses import dataclass, field
+
+TYPES = ("32f", "64f")
+LAYOUTS = ("", "S2", "P", "L", "PS2", "LS2")
+SINGLE_LAYOUTS = ("", "S2", "P")
+VECTOR_SIZES = ("", "3x1", "4x1", "5x1", "6x1")
+MATRIX_SIZES = ("", "3x3", "4x4", "5x5", "6x6")
+
+# class: (sizes, layouts)
+CLASSES = {
+    "SV": (VECTOR_SIZES, SINGLE_LAYOUTS),
+    "AV": (VECTOR_SIZES, LAYOUTS),
+    "SM": (MATRIX_SIZES, SINGLE_LAYOUTS),
+    "AM": (MATRIX_SIZES, LAYOUTS),
+    "cross, single": (("3x1",), SINGLE_LAYOUTS),
+    "cross, array": (("3x1",), LAYOUTS),
+    "copy": (("",), tuple(source + target for source in "SPL" for target in "SPL")),
+    "extract, single": (("",), ("S2", "P")),
+    "extract, array": (("",), ("S2", "PS2", "LS2")),
+    "identity": (("",), ("S", "P", "L")),
+}
+
+# The letters of Copy and LoadIdentity stand for the layouts in which every stride is given.
+LETTER_LAYOUT = {"S": "S2", "P": "PS2", "L": "LS2"}
+
+CONSTANTS = ("val", "scale", "scale1", "scale2")
+DIMENSIONS = ("len", "width", "height", "n", "src1Width", "src1Height", "src2Width", "src2Height", "src2Len")
+
+
+@dataclass(frozen=True)
+class Family:
+    """What all members of a family share: where it lives and what its header comment says."""
+
+    name: str
+    subsystem: str
+    title: str
+    statuses: tuple
+    overlap: str
+    notes: str = ""
+
+
+@dataclass(frozen=True)
+class Row:
+    family: str
+    operation: str
+    descriptor: str
+    cls: str
+    arguments: str
+    formula: str
+    # The function template that serves the row and, where the formula takes the operands in another order than
+    # the list, that order.
+    serves: str = ""
+    formula_order: tuple = ()
+    # Words that are signed in this row, each with the layouts in which they are.
+    signed: dict = field(default_factory=dict)
+
+    @property
+    def is_array(self):
+        return "count" in self.arguments.split()
+
+
+@dataclass(frozen=True)
+class Departure:
+    """A member that departs from its row: the function that serves it instead, and what a caller sees."""
+
+    serves: str
+    note: str
+
+
+OK, SIZE, NULL, DIV, POS = (
+    "ZELM_OK", "ZELM_ERR_SIZE", "ZELM_ERR_NULL_PTR", "ZELM_ERR_DIV_BY_ZERO", "ZELM_ERR_NOT_POS_DEF")
+PLAIN = (OK, NULL, SIZE)
+
+# The one place that says which families are built. A row of another family stands in the catalogue and in the
+# machine-readable dump, but it is neither declared in the headers nor exported.
+BUILT = ("vector-add-sub", "lu-decomposition", "lu-back-substitution")
+
+FAMILIES = {family.name: family for family in (
+    Family("vector-add-sub", "elementwise", "Addition and subtraction of vectors", PLAIN,
+           "dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and "
+           "inside it over elements, gives in ascending order.",
+           "Each element is one addition or subtraction, rounded to the element type. An invariant vector is read "
+           "once, before the first object, in the fixed-size standard and L forms (the departures named at their "
+           "prototypes aside), and anew for every object in all other forms."),
+    Family("matrix-add-sub", "elementwise", "Addition and subtraction of matrices", PLAIN,
+           "dst may be a source of the same addressing, for rows without T."),
+    Family("scaling", "elementwise", "Scaling by a constant", PLAIN,
+           "dst may be src of the same addressing, for rows without T."),
+    Family("saxpy-lcomb", "elementwise", "Scaled sums of vectors", PLAIN,
+           "dst may be a source; partial overlap gives what the ascending loop gives."),
+    Family("dot-product", "vector", "Dot product", PLAIN, "dst is written once per object."),
+    Family("cross-product", "vector", "Cross product", (OK, NULL),
+           "dst may be a source in the standard and L layouts."),
+    Family("l2-norm", "vector", "Euclidean length", PLAIN, "dst is written once per object."),
+    Family("frobenius-norm", "vector", "Frobenius norm", PLAIN, "dst is written once per object."),
+    Family("trace", "vector", "Trace", PLAIN, "dst must not lie on the diagonal of src."),
+    Family("matrix-vector-product", "products", "Product of a matrix and a vector", PLAIN,
+           "dst must overlap no source in the run-time forms."),
+    Family("matrix-product", "products", "Product of two matrices", PLAIN,
+           "dst must overlap no source in the run-time forms."),
+    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", PLAIN,
+           "dst must overlap no source."),
+    Family("determinant", "solvers", "Determinant", PLAIN, "dst must overlap neither src nor scratch."),
+    Family("inverse", "solvers", "Inverse", PLAIN + (DIV,), "dst must not overlap src."),
+    Family("lu-decomposition", "solvers", "LU decomposition", PLAIN + (DIV,),
+           "dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided "
+           "for.",
+           "Gaussian elimination with partial pivoting (Golub and Van Loan, Matrix Computations, section 3.4): "
+           "P*A = L*U. Rows of dst stay in the order of A's rows; pivotIndex[i] is the row of dst that plays row i "
+           "of P*A. With r = pivotIndex[i], dst[r][j] holds L[i][j] for j < i (its unit diagonal is not stored) and "
+           "U[i][j] for j >= i. pivotIndex has n entries per object, dense in every layout, those of object k at "
+           "pivotIndex + k*n. A pivot p with not (|p| >= 2^-23), in both element types, ends the call with "
+           "ZELM_ERR_DIV_BY_ZERO: earlier objects are complete, the failing one stands as the elimination left it, "
+           "later ones are untouched."),
+    Family("lu-back-substitution", "solvers", "LU back substitution", PLAIN,
+           "dst may be src2 only where pivotIndex is the identity.",
+           "Solves A*x = b by forward and back substitution (Golub and Van Loan, Matrix Computations, section 3.1): "
+           "src1 and pivotIndex are as zelmLUDecomp_* left them, src2 is b and dst is x. All arithmetic is in the "
+           "element type. The diagonal is not tested: a zero on it gives infinities or NaN with ZELM_OK."),
+    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", PLAIN + (POS,),
+           "dst may be src of the same addressing."),
+    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution", PLAIN,
+           "dst may be src2 of the same addressing."),
+    Family("qr-decomposition", "solvers", "QR decomposition", PLAIN + (DIV,),
+           "dst may be src of the same addressing."),
+    Family("qr-back-substitution", "solvers", "QR back substitution", PLAIN,
+           "dst may be src2 of the same addressing."),
+    Family("transpose", "movement", "Transpose", PLAIN, "dst must not overlap src."),
+    Family("copy", "movement", "Copy between layouts", PLAIN, "src and dst must not overlap partly."),
+    Family("extract", "movement", "Extraction to a packed buffer", PLAIN, "src and dst must not overlap."),
+    Family("identity", "movement", "Identity matrices", PLAIN, "There is no source."),
+)}
+
+
+def operand_kinds(descriptor):
+    """The kinds of a descriptor's operands: "maTm" is "maT", "m"."""
+    kinds = []
+    for letter in descriptor:
+        if letter in "aT":
+            kinds[-1] += letter
+        else:
+            kinds.append(letter)
+    return kinds
+
+
+def _element(kind, name):
+    """The element of an operand in a formula."""
+    index = "[j]" if kind[0] == "v" else "[j][i]" if kind.endswith("T") else "[i][j]"
+    return name + "[k]" * ("a" in kind) + index
+
+
+def _vector_add_sub():
+    family = "vector-add-sub"
+    for op, sign, functor in (("Add", "+", "Addition"), ("Sub", "-", "Subtraction")):
+        single, array = f"vectorSingle<{functor}>", f"vectorArray<{functor}>"
+        reverse = ("val", "src", "dst")
+        yield Row(family, op, "vv", "SV", "src1:v src2:v dst:v len", f"dst[j] = src1[j] {sign} src2[j]", single)
+        yield Row(family, op, "vc", "SV", "src:v val dst:v len", f"dst[j] = src[j] {sign} val", single)
+        if op == "Sub":
+            yield Row(family, op, "cv", "SV", "src:v val dst:v len", "dst[j] = val - src[j]", single, reverse)
+        yield Row(family, op, "vav", "AV", "src1:va src2:v dst:va len count",
+                  f"dst[k][j] = src1[k][j] {sign} src2[j]", array)
+        yield Row(family, op, "vac", "AV", "src:va val dst:va len count", f"dst[k][j] = src[k][j] {sign} val", array)
+        yield Row(family, op, "vava", "AV", "src1:va src2:va dst:va len count",
+                  f"dst[k][j] = src1[k][j] {sign} src2[k][j]", array)
+        if op == "Sub":
+            yield Row(family, op, "vva", "AV", "src1:v src2:va dst:va len count",
+                      "dst[k][j] = src1[j] - src2[k][j]", array)
+            yield Row(family, op, "cva", "AV", "src:va val dst:va len count", "dst[k][j] = val - src[k][j]", array,
+                      reverse)
+
+
+def _matrix_add_sub():
+    single = ("mm", "mmT", "mTm", "mTmT")
+    array_first = ("mam", "mamT", "mama", "mamaT", "maTm", "maTmT", "maTma", "maTmaT")
+    invariant_first = ("mma", "mmaT", "mTma", "mTmaT")
+    for op, sign in (("Add", "+"), ("Sub", "-")):
+        for descriptor in single + array_first + (invariant_first if op == "Sub" else ()):
+            first, second = operand_kinds(descriptor)
+            target = "ma" if "a" in descriptor else "m"
+            yield Row("matrix-add-sub", op, descriptor, "AM" if target == "ma" else "SM",
+                      f"src1:{first} src2:{second} dst:{target} width height" + " count" * (target == "ma"),
+                      f"{_element(target, 'dst')} = {_element(first, 'src1')} {sign} {_element(second, 'src2')}")
+
+
+def _scaling():
+    for descriptor, cls in (("vc", "SV"), ("vac", "AV"), ("mc", "SM"), ("mTc", "SM"), ("mac", "AM"), ("maTc", "AM")):
+        source = operand_kinds(descriptor)[0]
+        target = source.rstrip("T")
+        dimensions = "len" if source[0] == "v" else "width height"
+        yield Row("scaling", "Mul", descriptor, cls,
+                  f"src:{source} val dst:{target} {dimensions}" + " count" * ("a" in source),
+                  f"{_element(target, 'dst')} = {_element(source, 'src')} * val")
+
+
+def _saxpy_lcomb():
+    for op, descriptors in (("Saxpy", ("vv", "vav", "vava", "vva")), ("LComb", ("vv", "vav", "vava"))):
+        for descriptor in descriptors:
+            first, second = operand_kinds(descriptor)
+            target = "va" if "a" in descriptor else "v"
+            scale1, scale2 = ("scale", "") if op == "Saxpy" else ("scale1", " scale2")
+            yield Row("saxpy-lcomb", op, descriptor, "AV" if target == "va" else "SV",
+                      f"src1:{first} {scale1} src2:{second}{scale2} dst:{target} len" + " count" * (target == "va"),
+                      f"{_element(target, 'dst')} = {_element(first, 'src1')} * {scale1} + {_element(second, 'src2')}"
+                      + " * scale2" * (op == "LComb"))
+
+
+def _vector_algebra():
+    for descriptor in ("vv", "vav", "vava"):
+        first, second = operand_kinds(descriptor)
+        array = "a" in descriptor
+        yield Row("dot-product", "DotProduct", descriptor, "AV" if array else "SV",
+                  f"src1:{first} src2:{second} dst:scalar len" + " count" * array,
+                  f"dst{'[k]' * array} = sum over j of {_element(first, 'src1')} * {_element(second, 'src2')}")
+    for descriptor in ("vv", "vav", "vava", "vva"):
+        first, second = operand_kinds(descriptor)
+        array = "a" in descriptor
+        yield Row("cross-product", "CrossProduct", descriptor, "cross, array" if array else "cross, single",
+                  f"src1:{first} src2:{second} dst:{'va' if array else 'v'}" + " count" * array, "dst = src1 x src2")
+    for kind, cls in (("v", "SV"), ("va", "AV")):
+        yield Row("l2-norm", "L2Norm", kind, cls, f"src:{kind} dst:scalar len" + " count" * (kind == "va"),
+                  f"dst{'[k]' * (kind == 'va')} = sqrt(sum over j of {_element(kind, 'src')}^2)")
+    for kind, cls in (("m", "SM"), ("ma", "AM")):
+        k, count = ("[k]", " count") if kind == "ma" else ("", "")
+        yield Row("frobenius-norm", "FrobNorm", kind, cls, f"src:{kind} width height dst:scalar{count}",
+                  f"dst{k} = sqrt(sum over i, j of {_element(kind, 'src')}^2)")
+        yield Row("trace", "Trace", kind, cls, f"src:{kind} n dst:scalar{count}", f"dst{k} = sum over i of src{k}[i][i]")
+
+
+def _products():
+    for descriptor in ("mv", "mTv", "mva", "mTva", "mav", "maTv", "mava", "maTva"):
+        first, second = operand_kinds(descriptor)
+        array = "a" in descriptor
+        yield Row("matrix-vector-product", "Mul", descriptor, "AM" if array else "SM",
+                  f"src1:{first} src1Width src1Height src2:{second} src2Len dst:{'va' if array else 'v'}"
+                  + " count" * array, "dst = src1 * src2")
+    for descriptor in ("mm", "mmT", "mTm", "mTmT", "mam", "mamT", "mama", "mamaT", "maTm", "maTmT", "maTma",
+                       "maTmaT", "mma", "mmaT", "mTma", "mTmaT"):
+        first, second = operand_kinds(descriptor)
+        array = "a" in descriptor
+        yield Row("matrix-product", "Mul", descriptor, "AM" if array else "SM",
+                  f"src1:{first} src1Width src1Height src2:{second} src2Width src2Height dst:{'ma' if array else 'm'}"
+                  + " count" * array, "dst = src1 * src2")
+    yield Row("gaxpy", "Gaxpy", "v", "SM", "src1:m src2:v src3:v dst:v width height", "dst = src1 * src2 + src3")
+    yield Row("gaxpy", "Gaxpy", "va", "AM", "src1:m src2:va src3:va dst:va width height count",
+              "dst[k] = src1 * src2[k] + src3[k]")
+
+
+def _solvers():
+    for kind, cls in (("m", "SM"), ("ma", "AM")):
+        k, count = ("[k]", " count") if kind == "ma" else ("", "")
+        yield Row("determinant", "Det", kind, cls, f"src:{kind} n scratch@runtime dst:scalar{count}",
+                  f"dst{k} = determinant of src{k}")
+        yield Row("inverse", "Invert", kind, cls, f"src:{kind} n scratch@runtime dst:{kind}{count}",
+                  f"dst{k} = inverse of src{k}")
+        yield Row("lu-decomposition", "LUDecomp", kind, cls, f"src:{kind} pivotIndex dst:{kind} n{count}",
+                  f"dst{k}, pivotIndex{k} = the factors L and U of src{k} and the order of their rows",
+                  "luDecompArray" if count else "luDecompSingle")
+        yield Row("cholesky-decomposition", "CholeskyDecomp", kind, cls, f"src:{kind} dst:{kind} n{count}",
+                  f"dst{k} = the factor L of src{k}", signed={"count": ("", "S2", "L", "LS2")} if count else {})
+        yield Row("qr-decomposition", "QRDecomp", kind, cls, f"src:{kind} scratch dst:{kind} width height{count}",
+                  f"dst{k} = R and the reflectors of src{k}")
+    for descriptor, cls in (("mv", "SM"), ("mva", "AM"), ("mava", "AM")):
+        matrix, vector = operand_kinds(descriptor)
+        kept = "m+obj" if descriptor == "mva" else matrix
+        k, count = ("[k]", " count") if "a" in descriptor else ("", "")
+        km = "[k]" * (matrix == "ma")
+        yield Row("lu-back-substitution", "LUBackSubst", descriptor, cls,
+                  f"src1:{kept} pivotIndex src2:{vector} dst:{vector} n{count}",
+                  f"dst{k} = x with A*x = src2{k}; src1{km} and pivotIndex{km} hold the LU factors of A",
+                  "luBackSubstArray" if count else "luBackSubstSingle")
+        yield Row("cholesky-back-substitution", "CholeskyBackSubst", descriptor, cls,
+                  f"src1:{matrix} src2:{vector} dst:{vector} n{count}",
+                  f"dst{k} = x with A*x = src2{k}; src1{km} holds the Cholesky factor of A",
+                  signed={"n": LAYOUTS, "count": LAYOUTS})
+        yield Row("qr-back-substitution", "QRBackSubst", descriptor, cls,
+                  f"src1:{kept} scratch src2:{vector} dst:{vector} width height{count}",
+                  f"dst{k} = x that minimises |A*x - src2{k}|; src1{km} holds the QR factors of A")
+
+
+def _movement():
+    for kind, cls in (("m", "SM"), ("ma", "AM")):
+        k, count = ("[k]", " count") if kind == "ma" else ("", "")
+        yield Row("transpose", "Transpose", kind, cls, f"src:{kind} width height dst:{kind}{count}",
+                  f"dst{k}[j][i] = src{k}[i][j]")
+    yield Row("copy", "Copy", "va", "copy", "src:va dst:va len count", "dst[k][j] = src[k][j]")
+    yield Row("copy", "Copy", "ma", "copy", "src:ma dst:ma width height count", "dst[k][i][j] = src[k][i][j]")
+    for kind in ("v", "m", "mT", "va", "ma", "maT"):
+        array = "a" in kind
+        dimensions = "len" if kind[0] == "v" else "width height"
+        yield Row("extract", "Extract", kind, "extract, array" if array else "extract, single",
+                  f"src:{kind} dst:packed {dimensions}" + " count" * array, "dst = the elements of src, packed")
+    yield Row("identity", "LoadIdentity", "ma", "identity", "dst:ma width height count",
+              "dst[k] = ones on a running diagonal, zeros elsewhere",
+              signed={"width": ("S", "P", "L"), "height": ("S", "P", "L")})
+
+
+ROWS = tuple(row for rows in (_vector_add_sub, _matrix_add_sub, _scaling, _saxpy_lcomb, _vector_algebra, _products,
+                              _solvers, _movement) for row in rows())
+
+
+def _departures():
+    for op, functor, descriptor in (("Add", "Addition", "vav"), ("Sub", "Subtraction", "vav"),
+                                    ("Sub", "Subtraction", "vva")):
+        for suffix in ("", "_L"):
+            yield (f"zelm{op}_{descriptor}_64f_6x1{suffix}",
+                   Departure(f"departures::vectorArrayReadAnew<{functor}>",
+                             "reads the invariant vector anew for every object"))
+
+
+DEPARTURES = dict(_departures())

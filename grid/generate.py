@@ -1,0 +1,424 @@
+#!/usr/bin/env python3
+"""Writes what follows from the catalogue.
+
+    generate.py headers DIR    the public headers DIR/zelm/<subsystem>.h
+    generate.py build DIR      into DIR: the exported functions (one unit per family and layout), sources.cmake,
+                               exports.txt, zelm-grid.json, grid_table.h and grid_table.cpp (for the tests)
+
+A file that would not change is left alone, so that nothing is rebuilt for it.
+"""
+
+import json
+import re
+import sys
+import textwrap
+from dataclasses import dataclass
+from pathlib import Path
+
+from catalogue import (BUILT, CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, LETTER_LAYOUT, ROWS, TYPES,
+                       operand_kinds)
+
+C_TYPE = {"32f": "float", "64f": "double"}
+WIDTH = 116
+
+
+@dataclass(frozen=True)
+class Argument:
+    name: str
+    kind: str  # pointer, table, shift, objStride, rowStride, elemStride, constant, dimension, count, pivotIndex, scratch
+    ctype: str
+    operand: str = ""
+    unread: bool = False
+
+
+@dataclass(frozen=True)
+class Operand:
+    """One operand of one member: its C arguments and the addressing type that they make."""
+
+    name: str
+    arguments: tuple
+    addressing: str  # a C++ expression over the arguments
+
+
+@dataclass(frozen=True)
+class Member:
+    row: object
+    type: str
+    size: str
+    layout: str
+
+    @property
+    def name(self):
+        parts = [f"zelm{self.row.operation}", self.row.descriptor, self.type, self.size, self.layout]
+        return "_".join(part for part in parts if part)
+
+    @property
+    def built(self):
+        return self.row.family in BUILT
+
+
+def members():
+    for row in ROWS:
+        sizes, layouts = CLASSES[row.cls]
+        for element_type in TYPES:
+            for layout in layouts:
+                for size in sizes:
+                    yield Member(row, element_type, size, layout)
+
+
+def operand_layout(member, name):
+    """The layout of one operand: Copy's token holds two letters, all other tokens hold for the whole call."""
+    letters = member.layout
+    if member.row.operation == "Copy":
+        letters = letters[1] if name == "dst" else letters[0]
+    return LETTER_LAYOUT.get(letters, member.layout) if member.row.operation in ("Copy", "LoadIdentity") \
+        else member.layout
+
+
+def make_operand(member, name, kind):
+    element = C_TYPE[member.type]
+    const = "" if name == "dst" else "const "
+    pointer = Argument(name, "pointer", f"{const}{element} *", name)
+    if kind in ("scalar", "packed"):
+        return Operand(name, (pointer,), name)
+
+    layout = operand_layout(member, name)
+    table = Argument(f"{name}Table", "table", f"{element} *const *" if name == "dst" else
+                     f"const {element} *const *", name)
+    shift = Argument(f"{name}Shift", "shift", "int32_t ", name)
+    obj, row, elem = (Argument(f"{name}{suffix}Stride", f"{suffix[0].lower()}{suffix[1:]}Stride", "int32_t ", name)
+                      for suffix in ("Obj", "Row", "Elem"))
+    rows = (row,) if kind[0] == "m" else ()
+    row_value = row.name if rows else "0"
+    unread = (Argument(obj.name, obj.kind, obj.ctype, name, unread=True),) if kind.endswith("+obj") else ()
+    T = f"{const}{element}"
+
+    if "a" in kind.split("+")[0]:
+        arguments, expression = {
+            "": ((pointer, obj, *rows), f"DenseArray<{T}>{{{name}, {obj.name}, {row_value}}}"),
+            "S2": ((pointer, obj, *rows, elem),
+                   f"StridedArray<{T}>{{{name}, {obj.name}, {row_value}, {elem.name}}}"),
+            "P": ((table, shift), f"PackedTableArray<{T}>{{{table.name}, {shift.name}}}"),
+            "PS2": ((table, shift, obj), f"TableArray<{T}>{{{table.name}, {shift.name}, {obj.name}}}"),
+            "L": ((table, shift, *rows), f"DenseList<{T}>{{{table.name}, {shift.name}, {row_value}}}"),
+            "LS2": ((table, shift, *rows, elem),
+                    f"StridedList<{T}>{{{table.name}, {shift.name}, {row_value}, {elem.name}}}"),
+        }[layout]
+    else:
+        dense = ((pointer, *unread, *rows), f"Dense<{T}>{{{name}, {row_value}}}")
+        strided = ((pointer, *unread, *rows, elem), f"Strided<{T}>{{{name}, {row_value}, {elem.name}}}")
+        scattered = ((table, shift), f"Table<{T}>{{{table.name}, {shift.name}}}")
+        arguments, expression = {"": dense, "L": dense, "S2": strided, "LS2": strided, "P": scattered,
+                                 "PS2": scattered}[layout]
+    return Operand(name, arguments, expression)
+
+
+def plan(member):
+    """The member's arguments in order, and what its wrapper passes on, each under the word of the row's list."""
+    arguments, passed = [], {}
+    element = C_TYPE[member.type]
+    for word in member.row.arguments.split():
+        base, _, runtime = word.partition("@")
+        if ":" in word:
+            name, kind = word.split(":")
+            operand = make_operand(member, name, kind)
+            arguments += operand.arguments
+            passed[name] = operand.addressing
+        elif runtime and member.size:
+            continue
+        elif base in DIMENSIONS:
+            if member.size:
+                passed["size"] = f"FixedSize<{member.size[0]}>{{}}"
+            else:
+                signed = member.layout in member.row.signed.get(base, ())
+                arguments.append(Argument(base, "dimension", "int32_t " if signed else "uint32_t "))
+                passed["size"] = f"RunTimeSize{{{base}}}"
+        elif base == "count":
+            signed = member.layout in member.row.signed.get(base, ())
+            arguments.append(Argument(base, "count", "int32_t " if signed else "uint32_t "))
+            passed[base] = base
+        elif base in CONSTANTS:
+            arguments.append(Argument(base, "constant", f"{element} "))
+            passed[base] = f"Constant<{element}>{{{base}}}"
+        elif base == "pivotIndex":
+            const = "" if member.row.operation == "LUDecomp" else "const "
+            arguments.append(Argument(base, "pivotIndex", f"{const}uint32_t *"))
+            passed[base] = base
+        elif base == "scratch":
+            arguments.append(Argument(base, "scratch", "void *" if runtime else f"{element} *"))
+            passed[base] = base
+        else:
+            raise ValueError(f"{member.name}: unknown word {word}")
+    return arguments, passed
+
+
+def call_text(head, texts, indent=""):
+    """`head(text, text, ...)`, broken between the texts where a line would be too long."""
+    unbroken = ", ".join(text.replace(" ", "\0") for text in texts)
+    lines = textwrap.wrap(f"{indent}{head}(".replace(" ", "\0") + unbroken + ")", WIDTH,
+                          subsequent_indent=indent + "        ", break_long_words=False, break_on_hyphens=False)
+    return "\n".join(lines).replace("\0", " ")
+
+
+def declaration(member, definition=False):
+    arguments, _ = plan(member)
+    texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}"
+             for a in arguments]
+    return call_text(("" if definition else "ZELM_API ") + f"ZelmStatus {member.name}", texts)
+
+
+def definition(member):
+    _, passed = plan(member)
+    row = member.row
+    departure = DEPARTURES.get(member.name)
+    order = [word for word in passed if word not in row.formula_order]
+    order = [*row.formula_order, *order]
+    serves = departure.serves if departure else row.serves
+    body = call_text(f"return {serves}", [passed[word] for word in order], "    ") + ";"
+    comment = f"    // A departure: {departure.note}.\n" if departure else ""
+    return f"{declaration(member, definition=True)}\n{{\n{comment}{body}\n}}\n"
+
+
+# ---- headers
+
+KIND_TEXT = {"v": "vector", "va": "array of vectors", "m": "matrix", "ma": "array of matrices"}
+STATUS_TEXT = {
+    "ZELM_OK": "the call completed",
+    "ZELM_ERR_NULL_PTR": "a pointer, a table or an entry of a table is null",
+    "ZELM_ERR_SIZE": "a dimension is zero (run-time form)",
+    "ZELM_ERR_DIV_BY_ZERO": "a pivot fails the threshold",
+    "ZELM_ERR_NOT_POS_DEF": "a pivot is not positive",
+}
+
+
+def row_comment(row):
+    family = FAMILIES[row.family]
+    words = row.arguments.split()
+    shapes = []
+    for word in words:
+        if ":" in word:
+            name, kind = word.split(":")
+            base = kind.split("+")[0].rstrip("T")
+            text = {"scalar": "one number per object, packed", "packed": "a packed buffer"}.get(base) \
+                or KIND_TEXT[base]
+            if row.is_array and base in ("v", "m"):
+                text += ", the same for every object"
+            shapes.append(f"{name}: {text}{' used transposed' if kind.endswith('T') else ''}")
+    if any(w in CONSTANTS for w in words):
+        shapes.append(", ".join(w for w in words if w in CONSTANTS) + ": by value")
+    if "pivotIndex" in words:
+        shared = row.is_array and not any(w.endswith(":ma") for w in words)
+        shapes.append("pivotIndex: n row numbers" + (" per object" if row.is_array and not shared else ""))
+    dimensions = [w for w in words if w in DIMENSIONS]
+    units = []
+    if dimensions:
+        units.append(", ".join(dimensions) + " in elements (a size in the name stands for "
+                     + ("it" if len(dimensions) == 1 else "them") + ")")
+    if row.is_array:
+        units.append("count in objects")
+    units.append("strides and shifts in bytes")
+    paragraphs = [
+        f"zelm{row.operation}_{row.descriptor}: {row.formula}",
+        "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
+        "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
+        "Overlap: " + family.overlap,
+    ]
+    return block_comment(paragraphs)
+
+
+def block_comment(paragraphs):
+    lines = []
+    for paragraph in paragraphs:
+        lines += textwrap.wrap(paragraph, WIDTH - 3, subsequent_indent="  ", break_long_words=False,
+                               break_on_hyphens=False)
+    return "/*\n" + "\n".join(f" * {line}" for line in lines) + "\n */\n"
+
+
+def header(subsystem, all_members):
+    guard = f"ZELM_{subsystem.upper()}_H"
+    out = [f"/* Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py. */\n",
+           f"#ifndef {guard}\n#define {guard}\n\n#include \"types.h\"\n\n",
+           "/* clang-format off */\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n"]
+    family, row = None, None
+    for member in all_members:
+        if member.row.family != family:
+            family = member.row.family
+            about = FAMILIES[family]
+            out.append("\n" + block_comment([f"==== {about.title} ====", *([about.notes] if about.notes else [])]))
+        if member.row is not row:
+            row = member.row
+            out.append("\n" + row_comment(row))
+        if member.name in DEPARTURES:
+            out.append(f"/* departs from its row: {DEPARTURES[member.name].note} */\n")
+        out.append(declaration(member) + ";\n")
+    out.append("\n#ifdef __cplusplus\n}\n#endif\n/* clang-format on */\n\n#endif\n")
+    return "".join(out)
+
+
+def write_headers(directory):
+    built = [m for m in members() if m.built]
+    subsystems = sorted({FAMILIES[m.row.family].subsystem for m in built})
+    return {directory / "zelm" / f"{subsystem}.h":
+            header(subsystem, [m for m in built if FAMILIES[m.row.family].subsystem == subsystem])
+            for subsystem in subsystems}
+
+
+# ---- the build tree
+
+def unit(family, unit_members):
+    subsystem = FAMILIES[family].subsystem
+    out = ["// Written by grid/generate.py from grid/catalogue.py.\n"
+           f"#include \"zelm/{subsystem}.h\"\n#include \"{subsystem}/{family.replace('-', '_')}.h\"\n\n"
+           f"using namespace zelm::frame;\nusing namespace zelm::{subsystem};\n"]
+    out += ["\n" + definition(m) for m in unit_members]
+    return "".join(out)
+
+
+def grid_json(all_members):
+    lines = []
+    for m in all_members:
+        family = FAMILIES[m.row.family]
+        arguments, _ = plan(m)
+        fixed = bool(m.size)
+        entry = {
+            "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
+            "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout, "built": m.built,
+            "formula": m.row.formula,
+            "arguments": [{"name": a.name, "operand": a.operand, "kind": a.kind, "type": a.ctype.strip(),
+                           **({"unread": True} if a.unread else {})} for a in arguments],
+            "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
+        }
+        if m.name in DEPARTURES:
+            entry["departure"] = DEPARTURES[m.name].note
+        lines.append(json.dumps(entry))
+    return '{"version": "4.1", "functions": [\n' + ",\n".join(lines) + "\n]}\n"
+
+
+TABLE_HEADER = """\
+// Written by grid/generate.py from grid/catalogue.py: every exported numeric function, callable by its number.
+#pragma once
+
+#include "zelm.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace zelmtest {
+
+enum class ArgumentKind {
+    Pointer,
+    Table,
+    Shift,
+    ObjStride,
+    RowStride,
+    ElemStride,
+    Constant,
+    Dimension,
+    Count,
+    PivotIndex,
+    Scratch
+};
+
+struct Argument {
+    const char *name;
+    const char *operand; // "src1", "dst", ...; empty for dimensions, count, constants, pivotIndex and scratch
+    ArgumentKind kind;
+};
+
+// pointer: Pointer, Table, PivotIndex, Scratch; word: Shift and strides; size: Dimension, Count; f32, f64: Constant.
+union Value {
+    void *pointer;
+    std::int32_t word;
+    std::uint32_t size;
+    float f32;
+    double f64;
+};
+
+struct Function {
+    const char *name, *operation, *descriptor, *type, *size, *layout;
+    const Argument *arguments;
+    std::size_t argumentCount;
+    // Calls `function`, which must have this member's prototype, with the values in the order of the arguments.
+    ZelmStatus (*call)(void (*function)(), const Value *values);
+};
+
+extern const Function functions[];
+extern const std::size_t functionCount;
+
+} // namespace zelmtest
+"""
+
+
+def value_expression(argument, index):
+    slot = f"v[{index}]"
+    return {
+        "pointer": f"static_cast<{argument.ctype.strip()}>({slot}.pointer)",
+        "table": f"static_cast<{argument.ctype.strip()}>({slot}.pointer)",
+        "pivotIndex": f"static_cast<{argument.ctype.strip()}>({slot}.pointer)",
+        "scratch": f"static_cast<{argument.ctype.strip()}>({slot}.pointer)",
+        "constant": f"{slot}.f32" if argument.ctype.startswith("float") else f"{slot}.f64",
+        "dimension": f"{slot}.word" if argument.ctype.startswith("int32") else f"{slot}.size",
+        "count": f"{slot}.word" if argument.ctype.startswith("int32") else f"{slot}.size",
+    }.get(argument.kind, f"{slot}.word")
+
+
+def grid_table(built):
+    """One caller per distinct argument list; each member's prototype is checked against its caller's type."""
+    callers, lists, entries, checks = {}, {}, [], []
+    for m in built:
+        arguments, _ = plan(m)
+        signature = ", ".join(a.ctype.strip() for a in arguments)
+        values = ", ".join(value_expression(a, i) for i, a in enumerate(arguments))
+        caller = callers.setdefault(signature, (f"call{len(callers)}", values))[0]
+        kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}'
+                          for a in arguments)
+        array = lists.setdefault(kinds, f"arguments{len(lists)}")
+        entries.append(f'    {{"{m.name}", "{m.row.operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
+                       f'"{m.layout}", {array}, {len(arguments)}, {caller}}},\n')
+        checks.append(f"static_assert(std::is_same_v<decltype({m.name}), ZelmStatus({signature})>);\n")
+    out = ["// Written by grid/generate.py from grid/catalogue.py.\n#include \"grid_table.h\"\n\n"
+           "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"]
+    out += [f"const Argument {array}[] = {{{kinds}}};\n" for kinds, array in lists.items()]
+    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n"
+            f"    return reinterpret_cast<ZelmStatus (*)({signature})>(f)({values});\n}}\n"
+            for signature, (caller, values) in callers.items()]
+    out += ["\n} // namespace\n\n", *checks, "\nconst Function functions[] = {\n", *entries, "};\n",
+            f"const std::size_t functionCount = {len(entries)};\n\n}} // namespace zelmtest\n"]
+    return "".join(out)
+
+
+def write_build(directory):
+    everything = list(members())
+    built = [m for m in everything if m.built]
+    files = {}
+    units = {}
+    for m in built:
+        units.setdefault((m.row.family, m.layout or "standard"), []).append(m)
+    for (family, layout), unit_members in units.items():
+        files[directory / f"{family.replace('-', '_')}_{layout}.cpp"] = unit(family, unit_members)
+    listed = "\n".join(f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files))
+    files[directory / "sources.cmake"] = f"set(ZELM_GENERATED_SOURCES\n{listed})\n"
+    exports = sorted([m.name for m in built] + ["zelmGetLibVersion"])
+    files[directory / "exports.txt"] = "\n".join(exports) + "\n"
+    files[directory / "zelm-grid.json"] = grid_json(everything)
+    files[directory / "grid_table.h"] = TABLE_HEADER
+    files[directory / "grid_table.cpp"] = grid_table(built)
+    return files
+
+
+def main(arguments):
+    if len(arguments) != 2 or arguments[0] not in ("headers", "build"):
+        print(__doc__, file=sys.stderr)
+        return 2
+    directory = Path(arguments[1])
+    files = write_headers(directory) if arguments[0] == "headers" else write_build(directory)
+    for path, text in files.items():
+        text = re.sub(r"[ \t]+$", "", text, flags=re.M)
+        if not path.exists() or path.read_text() != text:
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(text)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
