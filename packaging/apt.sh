@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by ./check and ./demo: installs the Debian packages that are still missing.
 
 # The superuser's prefix of a command: nothing as root, else sudo.
