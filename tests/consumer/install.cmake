@@ -1,5 +1,7 @@
 # Installs the build to a prefix and moves the prefix, as a package or an archive would: what is found in it afterwards
 # can't hang on the place where it was installed.
+cmake_minimum_required(VERSION 3.25)
+
 set(first ${PREFIX}.installed)
 file(REMOVE_RECURSE ${PREFIX} ${first})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${first} COMMAND_ERROR_IS_FATAL ANY)

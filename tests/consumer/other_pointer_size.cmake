@@ -1,4 +1,6 @@
 # A project of the other pointer size must be told that the installed library isn't for it, and must not link it.
+cmake_minimum_required(VERSION 3.25)
+
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(
   COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR} -G ${GENERATOR} -D CMAKE_PREFIX_PATH=${PREFIX}

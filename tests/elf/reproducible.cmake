@@ -1,5 +1,7 @@
 # Builds the library once more from a copy of its sources and compares the two files byte by byte. The copy is
 # refreshed and not made anew, so that a second run without changes builds nothing.
+cmake_minimum_required(VERSION 3.25)
+
 function(run)
   execute_process(COMMAND ${ARGV} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT status EQUAL 0)
