@@ -1,0 +1,214 @@
+#include "options.h"
+
+#include "text.h"
+
+#include <cmath>
+#include <filesystem>
+#include <getopt.h>
+#include <system_error>
+#include <vector>
+
+namespace terrain {
+
+const char *const helpText =
+    R"(usage: terrain [OPTION...] GRID
+
+Fits z = a x^2 + b xy + c y^2 + d x + e y + f by weighted least squares to the 5x5 neighbourhood of every cell of
+GRID, an elevation grid (Esri ASCII grid), and derives slope, aspect and curvature.
+
+Output:
+  --relief FILE            shaded relief as PNG (relief.png)
+  --curvature FILE         map of the curvature as PNG (curvature.png)
+  --slope-grid FILE        slope in degrees as Esri ASCII grid
+  --aspect-grid FILE       aspect in degrees clockwise from north, -1 where flat
+  --curvature-grid FILE    curvature in 1/m, positive where convex
+  --exaggeration X         heights are multiplied by X for the shading (2)
+  --progress               show progress also where there is no terminal
+
+Fit:
+  --curvature-kind KIND    mean, profile or tangential (mean)
+  --float 32|64            bits of the floats that the systems are solved in (64)
+  --weight-exponent N      weight 1/(1 + distance in cells)^N of a neighbour, N from 0 to 2 (1)
+
+Ground:
+  --geographic             the cell size is in degrees
+  --projected              the cell size is in metres
+  --cellsize METRES        take this cell size instead of the file's
+  Without these the cell size is in degrees if it is at most 0.1 and the grid lies within the range of longitudes
+  and latitudes.
+
+  --help                   print this
+  --version                print the version of the program's library
+
+Exit status: 0 done, 1 the output can't be written, 2 wrong input or options.
+)";
+
+namespace {
+
+enum Code : int {
+    relief = 1,
+    curvature,
+    slopeGrid,
+    aspectGrid,
+    curvatureGrid,
+    curvatureKind,
+    floatBits,
+    weightExponent,
+    exaggeration,
+    geographic,
+    projected,
+    cellSize,
+    progress,
+    help,
+    version
+};
+
+const option longOptions[] = {{"relief", required_argument, nullptr, relief},
+                              {"curvature", required_argument, nullptr, curvature},
+                              {"slope-grid", required_argument, nullptr, slopeGrid},
+                              {"aspect-grid", required_argument, nullptr, aspectGrid},
+                              {"curvature-grid", required_argument, nullptr, curvatureGrid},
+                              {"curvature-kind", required_argument, nullptr, curvatureKind},
+                              {"float", required_argument, nullptr, floatBits},
+                              {"weight-exponent", required_argument, nullptr, weightExponent},
+                              {"exaggeration", required_argument, nullptr, exaggeration},
+                              {"geographic", no_argument, nullptr, geographic},
+                              {"projected", no_argument, nullptr, projected},
+                              {"cellsize", required_argument, nullptr, cellSize},
+                              {"progress", no_argument, nullptr, progress},
+                              {"help", no_argument, nullptr, help},
+                              {"version", no_argument, nullptr, version},
+                              {nullptr, 0, nullptr, 0}};
+
+[[noreturn]] void wrongValue(const std::string &name, const std::string &expected) {
+    throw UsageError("--" + name + ": expected " + expected + ", found " + shown(optarg));
+}
+
+double numberWithin(const std::string &name, double low, double high, const std::string &expected) {
+    const std::optional<double> value = number(optarg);
+    if (!value || !(*value >= low && *value <= high)) {
+        wrongValue(name, expected);
+    }
+    return *value;
+}
+
+Curvature kindNamed(const std::string &name) {
+    if (name == "mean") {
+        return Curvature::Mean;
+    }
+    if (name == "profile") {
+        return Curvature::Profile;
+    }
+    if (name == "tangential") {
+        return Curvature::Tangential;
+    }
+    wrongValue("curvature-kind", "mean, profile or tangential");
+}
+
+void apply(int code, const std::string &name, Options &options) {
+    // Any size that a cell of a map can have; outside it, slopes would leave the range of 32-bit floats.
+    constexpr double smallest = 1e-6;
+    constexpr double largest = 1e9;
+    switch (code) {
+    case relief:
+        options.relief = optarg;
+        break;
+    case curvature:
+        options.curvature = optarg;
+        break;
+    case slopeGrid:
+        options.slopeGrid = optarg;
+        break;
+    case aspectGrid:
+        options.aspectGrid = optarg;
+        break;
+    case curvatureGrid:
+        options.curvatureGrid = optarg;
+        break;
+    case curvatureKind:
+        options.curvatureKind = kindNamed(optarg);
+        break;
+    case floatBits:
+        if (const std::string bits = optarg; bits != "32" && bits != "64") {
+            wrongValue(name, "32 or 64");
+        } else {
+            options.use32bit = bits == "32";
+        }
+        break;
+    case weightExponent:
+        options.weightExponent = numberWithin(name, 0, 2, "a number from 0 to 2");
+        break;
+    case exaggeration:
+        options.exaggeration = numberWithin(name, smallest, largest, "a positive number");
+        break;
+    case geographic:
+        options.unit = CellUnit::Degrees;
+        break;
+    case projected:
+        options.unit = CellUnit::Metres;
+        break;
+    case cellSize:
+        options.cellSize = numberWithin(name, smallest, largest, "a positive number of metres");
+        break;
+    case progress:
+        options.progress = Progress::Show::Always;
+        break;
+    case help:
+        options.action = Options::Action::Help;
+        break;
+    case version:
+        options.action = Options::Action::Version;
+        break;
+    }
+}
+
+// Two outputs of one name, or an output in the place of the input, would destroy one of them.
+void checkNames(const Options &options) {
+    std::vector<std::string> names = {options.input, options.relief, options.curvature};
+    for (const auto &grid : {options.slopeGrid, options.aspectGrid, options.curvatureGrid}) {
+        if (grid) {
+            names.push_back(*grid);
+        }
+    }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i].empty()) {
+            throw UsageError("expected the name of a file, found ''");
+        }
+        for (std::size_t j = 0; j < i; ++j) {
+            std::error_code ignored;
+            if (names[i] == names[j] || std::filesystem::equivalent(names[i], names[j], ignored)) {
+                throw UsageError("expected different files, found " + shown(names[i]) + " twice");
+            }
+        }
+    }
+}
+
+} // namespace
+
+Options parseOptions(int argc, char **argv) {
+    Options options;
+    opterr = 0; // one message, in our own words
+    int index = 0;
+    for (int code; (code = getopt_long(argc, argv, ":", longOptions, &index)) != -1;) {
+        if (code == '?' || code == ':') {
+            const std::string word = argv[optind - 1];
+            throw UsageError(code == '?' ? "expected an option that --help lists, found " + shown(word)
+                                         : word + ": expected a value behind it");
+        }
+        apply(code, longOptions[index].name, options);
+        if (options.action != Options::Action::Survey) {
+            return options;
+        }
+    }
+    if (argc - optind != 1) {
+        throw UsageError("expected one grid file, found " + std::to_string(argc - optind) + " (see --help)");
+    }
+    options.input = argv[optind];
+    if (options.cellSize && options.unit == CellUnit::Degrees) {
+        throw UsageError("expected one of --geographic and --cellsize, found both");
+    }
+    checkNames(options);
+    return options;
+}
+
+} // namespace terrain

@@ -1,0 +1,44 @@
+// The command line.
+#pragma once
+
+#include "derivatives.h"
+#include "ground.h"
+#include "progress.h"
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace terrain {
+
+struct Options {
+    enum class Action { Survey, Help, Version };
+    Action action = Action::Survey;
+
+    std::string input;
+    std::string relief = "relief.png";
+    std::string curvature = "curvature.png";
+    std::optional<std::string> slopeGrid;
+    std::optional<std::string> aspectGrid;
+    std::optional<std::string> curvatureGrid;
+
+    Curvature curvatureKind = Curvature::Mean;
+    bool use32bit = false;
+    double weightExponent = 1;
+    double exaggeration = 2;
+    std::optional<CellUnit> unit;
+    std::optional<double> cellSize; // metres
+    Progress::Show progress = Progress::Show::OnTerminal;
+};
+
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws UsageError.
+Options parseOptions(int argc, char **argv);
+
+extern const char *const helpText;
+
+} // namespace terrain

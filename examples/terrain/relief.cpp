@@ -1,0 +1,71 @@
+#include "relief.h"
+
+#include "normals.h"
+#include "palette.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace terrain {
+
+namespace {
+
+// From valleys to tops.
+constexpr std::array<Colour, 6> heightTints = {rgb(0x7fa382), rgb(0xa9bf8f), rgb(0xd9d3a4),
+                                               rgb(0xd0b188), rgb(0xb99378), rgb(0xe9e2da)};
+
+constexpr std::array<double, 3> unit(double east, double north, double up) {
+    return {east, north, up};
+}
+
+// Halfway up the sky in the north-west, where readers of maps expect the light to come from.
+const std::array<double, 3> sun = unit(-0.5, 0.5, std::sqrt(0.5));
+
+double brightness(const Vector3 &normal) {
+    const double light = normal[0] * sun[0] + normal[1] * sun[1] + static_cast<double>(normal[2]) * sun[2];
+    // The sky lights what the sun doesn't reach, and level ground keeps about its own colour.
+    constexpr double sky = 0.22;
+    return sky * normal[2] + 1.12 * std::max(light, 0.0);
+}
+
+struct Range {
+    double low = std::numeric_limits<double>::infinity();
+    double high = -std::numeric_limits<double>::infinity();
+};
+
+Range heightRange(const Grid &grid) {
+    Range range;
+    for (const double z : grid.elevation) {
+        if (!std::isnan(z)) {
+            range.low = std::min(range.low, z);
+            range.high = std::max(range.high, z);
+        }
+    }
+    return range;
+}
+
+} // namespace
+
+Image shadedRelief(const Grid &grid, const Layers &layers, double exaggeration) {
+    const Range range = heightRange(grid);
+    const double span = range.high > range.low ? range.high - range.low : 1;
+    Image image(grid.columns, grid.rows);
+    std::vector<Vector3> normals;
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+        const std::size_t first = row * grid.columns;
+        surfaceNormals(layers, first, grid.columns, static_cast<float>(exaggeration), normals);
+        for (std::size_t column = 0; column < grid.columns; ++column) {
+            const double light = brightness(normals[column]);
+            if (!std::isfinite(light)) {
+                image.set(first + column, blankColour);
+                continue;
+            }
+            const Colour tint = colourAt(heightTints, (grid.at(row, column) - range.low) / span);
+            image.set(first + column, {tint.red * light, tint.green * light, tint.blue * light});
+        }
+    }
+    return image;
+}
+
+} // namespace terrain
