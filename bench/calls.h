@@ -1,0 +1,66 @@
+// Calls through pointers, with argument lists put together from operands.
+#pragma once
+
+#include "library.h"
+
+#include "zelm.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <tuple>
+
+namespace zelmbench {
+
+template <class Arguments>
+struct SignatureOf;
+template <class... Arguments>
+struct SignatureOf<std::tuple<Arguments...>> {
+    using Type = ZelmStatus(Arguments...);
+};
+template <class Arguments>
+using Signature = typename SignatureOf<Arguments>::Type;
+
+inline std::tuple<std::uint32_t> countArgument(std::size_t count) {
+    return {static_cast<std::uint32_t>(count)};
+}
+
+// One call of a library function.
+template <class Arguments>
+std::function<void()> callOf(const std::string &name, Arguments arguments) {
+    auto *function = find<Signature<Arguments>>(name);
+    return [function, arguments] { benchmark::DoNotOptimize(std::apply(function, arguments)); };
+}
+
+// One call per object, with the arguments that argumentsOf(k) gives.
+template <class Function, class ArgumentsOf>
+std::function<void()> callPerObject(Function *function, std::size_t count, ArgumentsOf argumentsOf) {
+    // A compiler that knew a peer's function would inline it and measure no call.
+    Function *volatile hidden = function;
+    Function *const called = hidden;
+    return [called, count, argumentsOf] {
+        for (std::size_t k = 0; k < count; ++k) {
+            benchmark::DoNotOptimize(std::apply(called, argumentsOf(k)));
+        }
+    };
+}
+
+template <class ArgumentsOf>
+std::function<void()> callPerObject(const std::string &name, std::size_t count, ArgumentsOf argumentsOf) {
+    return callPerObject(find<Signature<decltype(argumentsOf(0))>>(name), count, argumentsOf);
+}
+
+// Single-object functions are called for this many objects in turn: few enough to stay in the nearest cache.
+inline constexpr std::size_t singles = 128;
+
+// The larger array size, or fewer objects where an operand would pass 200 MB.
+template <class T>
+constexpr std::size_t manyObjects(std::size_t elements) {
+    return std::min<std::size_t>(1000000, 200000000 / (elements * sizeof(T)));
+}
+
+} // namespace zelmbench

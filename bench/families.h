@@ -1,0 +1,9 @@
+// The rows of each family of functions, one file per family.
+#pragma once
+
+namespace zelmbench {
+
+void addVectorSumRows();
+void addLuRows();
+
+} // namespace zelmbench

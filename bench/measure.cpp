@@ -1,0 +1,99 @@
+#include "measure.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <utility>
+
+namespace zelmbench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Long enough that reading the clock and the first, colder call do not show.
+constexpr double shortestSample = 150e-6;
+
+double secondsOf(const Contender &contender, std::uint64_t runs) {
+    const auto start = Clock::now();
+    for (std::uint64_t run = 0; run < runs; ++run) {
+        contender.run();
+        benchmark::ClobberMemory();
+    }
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+std::uint64_t runsPerSample(const Contender &contender) {
+    std::uint64_t runs = 1;
+    while (secondsOf(contender, runs) < shortestSample) {
+        runs *= 2;
+    }
+    return runs;
+}
+
+void requireSameResults(const Comparison &comparison) {
+    std::vector<double> expected;
+    for (const Contender &contender : comparison.contenders) {
+        contender.run();
+        const std::vector<double> actual = contender.results();
+        if (expected.empty()) {
+            expected = actual;
+        }
+        if (actual.empty() || actual.size() != expected.size()) {
+            throw std::runtime_error("'" + contender.name + "' has no comparable results");
+        }
+        for (std::size_t i = 0; i < actual.size(); ++i) {
+            const double allowed = comparison.tolerance * std::max(1.0, std::abs(expected[i]));
+            if (!(std::abs(actual[i] - expected[i]) <= allowed)) {
+                throw std::runtime_error("'" + contender.name + "' differs at result " + std::to_string(i) +
+                                         ": " + std::to_string(actual[i]) + " for " +
+                                         std::to_string(expected[i]));
+            }
+        }
+    }
+}
+
+void measure(benchmark::State &state, const Comparison &comparison) {
+    requireSameResults(comparison);
+    const std::vector<Contender> &contenders = comparison.contenders;
+    std::vector<std::uint64_t> runs;
+    for (const Contender &contender : contenders) {
+        runs.push_back(runsPerSample(contender));
+    }
+    std::vector<double> fastest(contenders.size(), std::numeric_limits<double>::infinity());
+    for ([[maybe_unused]] auto iteration : state) {
+        for (std::size_t c = 0; c < contenders.size(); ++c) {
+            const double seconds = secondsOf(contenders[c], runs[c]) / static_cast<double>(runs[c]);
+            fastest[c] = std::min(fastest[c], seconds);
+            if (c == 0) {
+                state.SetIterationTime(seconds);
+            }
+        }
+    }
+    for (std::size_t c = 0; c < contenders.size(); ++c) {
+        state.counters[contenders[c].name] = fastest[c] * 1e9 / static_cast<double>(comparison.objects);
+    }
+    for (std::size_t c = 1; c < contenders.size(); ++c) {
+        state.counters["own/" + contenders[c].name] = fastest[0] / fastest[c];
+    }
+}
+
+} // namespace
+
+void addRow(const std::string &name, std::uint64_t objects, std::function<Comparison()> prepare) {
+    const auto run = [prepare = std::move(prepare)](benchmark::State &state) {
+        try {
+            measure(state, prepare());
+        } catch (const std::exception &error) {
+            state.SkipWithError(error.what());
+        }
+    };
+    // A row of many objects takes milliseconds a sample and varies little from one to the next.
+    const int samples = objects > 100000 ? 6 : 60;
+    benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(samples)->UseManualTime();
+}
+
+} // namespace zelmbench

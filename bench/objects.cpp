@@ -1,0 +1,36 @@
+#include "objects.h"
+
+#include <Eigen/LU>
+
+namespace zelmbench {
+
+namespace {
+constexpr std::size_t distinctObjects = 1000;
+}
+
+std::vector<double> randomValues(std::size_t elements, unsigned seed) {
+    std::mt19937 generator(seed);
+    std::uniform_real_distribution<double> uniform(-1.0, 1.0);
+    std::vector<double> values(distinctObjects * elements);
+    for (double &value : values) {
+        value = uniform(generator);
+    }
+    return values;
+}
+
+std::vector<double> wellConditionedMatrices(std::size_t n) {
+    std::mt19937 generator(static_cast<unsigned>(n));
+    std::uniform_real_distribution<double> uniform(-1.0, 1.0);
+    std::vector<double> values;
+    const auto order = static_cast<Eigen::Index>(n);
+    while (values.size() < distinctObjects * n * n) {
+        const Eigen::MatrixXd matrix =
+            Eigen::MatrixXd::NullaryExpr(order, order, [&] { return uniform(generator); });
+        if (matrix.partialPivLu().rcond() > 0.02) {
+            values.insert(values.end(), matrix.data(), matrix.data() + matrix.size());
+        }
+    }
+    return values;
+}
+
+} // namespace zelmbench
