@@ -571,23 +571,31 @@ private:
     void writePivots() {
         for (std::size_t p = 0; p < target_.signature.size(); ++p) {
             const Parameter &parameter = target_.signature[p];
-            if (parameter.kind != Kind::PivotIndex || target_.family->content != Content::Solving)
+            if (parameter.kind != Kind::PivotIndex)
                 continue;
             const std::uint32_t n = case_.call.dimension("n"),
                                 blocks = parameter.array ? case_.call.count() : 1;
             const std::uint32_t kind = random_.below(100);
             std::vector<std::uint32_t> rows(n);
             for (std::uint32_t k = 0; k < blocks; ++k) {
-                for (std::uint32_t i = 0; i < n; ++i)
-                    rows[i] = i;
-                if (kind >= 25)
-                    for (std::uint32_t i = n; i-- > 1;)
-                        std::swap(rows[i], rows[random_.below(i + 1)]);
-                if (kind >= 90) // not a permutation: used as it stands
-                    rows[random_.below(n)] = random_.below(n);
+                drawRows(kind, rows);
                 std::memcpy(reinterpret_cast<void *>(case_.call.passed[p].base + std::size_t{k} * n * 4),
                             rows.data(), std::size_t{n} * 4);
             }
+        }
+    }
+
+    // One object's row numbers, which a decomposition overwrites and a solver uses as they stand.
+    void drawRows(std::uint32_t kind, std::vector<std::uint32_t> &rows) {
+        const auto n = static_cast<std::uint32_t>(rows.size());
+        for (std::uint32_t i = 0; i < n; ++i)
+            rows[i] = target_.family->content == Content::Solving ? i : random_.below(1000);
+        if (kind >= 25)
+            for (std::uint32_t i = n; i-- > 1;)
+                std::swap(rows[i], rows[random_.below(i + 1)]);
+        if (kind >= 90 && target_.family->content == Content::Solving) { // not a permutation
+            const std::uint32_t place = random_.below(n);
+            rows[place] = random_.below(n);
         }
     }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstring>
+#include <sys/mman.h>
 
 namespace {
 
@@ -88,5 +89,67 @@ TEST(Addressing, AZeroCountReadsNoElement) {
     auto *const noTable = reinterpret_cast<float **>(std::uintptr_t{16});
     EXPECT_EQ(zelmAdd_vav_32f_3x1_L(noTable, 0, nowhere, noTable, 0, 0), ZELM_OK);
 }
+
+#ifdef __i386__
+
+// Four pages a quarter of the address space apart: steps of a quarter come back to the first after the
+// fourth.
+class AddressingWraps : public testing::Test {
+protected:
+    static constexpr std::int32_t quarter = 0x40000000;
+
+    void SetUp() override {
+        for (std::uintptr_t first = 0x10000000; first < 0x30000000 && !mapped_; first += 0x1000000)
+            mapped_ = map(first);
+        if (!mapped_)
+            GTEST_SKIP() << "the address space has no such places free";
+        for (std::uintptr_t k = 0; k < 4; ++k)
+            for (std::uintptr_t j = 0; j < 3; ++j)
+                object(k)[j] = static_cast<float>(10 * k);
+    }
+
+    void TearDown() override {
+        for (std::uintptr_t k = 0; mapped_ && k < 4; ++k)
+            munmap(object(k), 4096);
+    }
+
+    bool map(std::uintptr_t first) {
+        first_ = first;
+        for (std::uintptr_t k = 0; k < 4; ++k)
+            if (mmap(object(k), 4096, PROT_READ | PROT_WRITE,
+                     MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0) == MAP_FAILED) {
+                while (k-- > 0)
+                    munmap(object(k), 4096);
+                return false;
+            }
+        return true;
+    }
+
+    float *object(std::uintptr_t k) const { return reinterpret_cast<float *>(first_ + k % 4 * quarter); }
+
+    std::array<float, 4> lastElements() const {
+        return {object(0)[2], object(1)[2], object(2)[2], object(3)[2]};
+    }
+
+private:
+    std::uintptr_t first_ = 0;
+    bool mapped_ = false;
+};
+
+TEST_F(AddressingWraps, ObjectsCoincideAfterTheWholeAddressSpace) {
+    EXPECT_EQ(zelmAdd_vac_32f_3x1(object(0), quarter, 1, object(0), quarter, 6), ZELM_OK);
+    EXPECT_EQ(lastElements(), (std::array<float, 4>{2, 12, 21, 31}));
+    EXPECT_EQ(zelmSub_vac_32f(object(3), -quarter, 1, object(3), -quarter, 3, 6), ZELM_OK);
+    EXPECT_EQ(lastElements(), (std::array<float, 4>{1, 11, 19, 29}));
+}
+
+TEST_F(AddressingWraps, AResultFeedsTheNextObjectAcrossTheEnd) {
+    EXPECT_EQ(zelmAdd_vac_32f_3x1(object(0), quarter, 1, object(1), quarter, 9), ZELM_OK);
+    EXPECT_EQ(lastElements(), (std::array<float, 4>{8, 9, 6, 7}));
+    EXPECT_EQ(zelmAdd_vac_32f(object(0), quarter, 1, object(1), quarter, 3, 9), ZELM_OK);
+    EXPECT_EQ(lastElements(), (std::array<float, 4>{16, 17, 14, 15}));
+}
+
+#endif
 
 } // namespace
