@@ -4,16 +4,19 @@
 #include "memory_needed.h"
 #include "text.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstdio>
 #include <limits>
+#include <new>
 
 namespace terrain {
 
 namespace {
 
 constexpr const char *knownKeys =
-    "ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize or NODATA_value";
+    "ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize, NODATA_value";
 
 std::string lowered(std::string_view word) {
     std::string text(word);
@@ -52,7 +55,8 @@ std::optional<GridHeader::Field> &GridHeader::field(std::string_view key, std::s
     if (name == "nodata_value") {
         return noData_;
     }
-    throw InputError(file_, line, std::string("expected ") + knownKeys + ", found " + shown(key));
+    throw InputError(file_, line,
+                     std::string("expected ") + knownKeys + " or a row of numbers, found " + shown(key));
 }
 
 void GridHeader::take(std::string_view text, std::size_t line) {
@@ -93,18 +97,15 @@ void GridHeader::take(std::string_view text, std::size_t line) {
     }
 }
 
-void GridHeader::checkMemory() const {
-    const double needed = memoryNeeded(rows_->value, columns_->value);
-    const double available = memoryAvailable();
-    if (needed > available) {
-        constexpr double gibi = 1024.0 * 1024.0 * 1024.0;
-        char text[160];
-        std::snprintf(
-            text, sizeof text,
-            "expected a grid that fits into %.3g GiB of memory, %.15g rows of %.15g cells need %.3g GiB",
-            available / gibi, rows_->value, columns_->value, needed / gibi);
-        throw InputError(file_, std::max(rows_->line, columns_->line), text);
-    }
+void GridHeader::failForMemory() const {
+    constexpr double gibi = 1024.0 * 1024.0 * 1024.0;
+    char text[160];
+    std::snprintf(
+        text, sizeof text,
+        "expected a grid that fits into %.3g GiB of memory, %.15g rows of %.15g cells need %.3g GiB",
+        memoryAvailable() / gibi, rows_->value, columns_->value,
+        memoryNeeded(rows_->value, columns_->value) / gibi);
+    throw InputError(file_, std::max(rows_->line, columns_->line), text);
 }
 
 Grid GridHeader::grid(std::size_t line) const {
@@ -119,7 +120,10 @@ Grid GridHeader::grid(std::size_t line) const {
     require(west_, "xllcorner or xllcenter");
     require(south_, "yllcorner or yllcenter");
     require(cellSize_, "cellsize");
-    checkMemory();
+    // Asked before anything is allocated: a system may promise memory that it doesn't have.
+    if (memoryNeeded(rows_->value, columns_->value) > memoryAvailable()) {
+        failForMemory();
+    }
 
     constexpr double defaultNoData = -9999;
     Grid grid;
@@ -129,6 +133,11 @@ Grid GridHeader::grid(std::size_t line) const {
     grid.west = west_->value - (westIsCentre_ ? grid.cellSize / 2 : 0);
     grid.south = south_->value - (southIsCentre_ ? grid.cellSize / 2 : 0);
     grid.noData = noData_ ? noData_->value : defaultNoData;
+    try {
+        grid.elevation.reserve(grid.rows * grid.columns);
+    } catch (const std::bad_alloc &) {
+        failForMemory();
+    }
     return grid;
 }
 

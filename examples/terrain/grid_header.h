@@ -34,7 +34,7 @@ private:
         std::size_t line = 0;
     };
     std::optional<Field> &field(std::string_view key, std::size_t line);
-    void checkMemory() const;
+    [[noreturn]] void failForMemory() const;
 
     std::string file_;
     std::optional<Field> columns_, rows_, west_, south_, cellSize_, noData_;

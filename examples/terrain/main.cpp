@@ -11,10 +11,14 @@
 #include "report.h"
 #include "survey.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <exception>
 #include <memory>
 #include <new>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace terrain {
@@ -49,7 +53,13 @@ CellUnit unitOf(const Options &options, Grid &grid) {
         grid.cellSize = *options.cellSize;
         return CellUnit::Metres;
     }
-    return options.unit.value_or(guessUnit(grid));
+    const CellUnit unit = options.unit.value_or(guessUnit(grid));
+    const double farthest = std::max(std::fabs(grid.centre(0)), std::fabs(grid.centre(grid.rows - 1)));
+    if (unit == CellUnit::Degrees && farthest > 90 + grid.cellSize) {
+        throw InputError(options.input, "expected latitudes from -90 to 90 for --geographic, a row lies at " +
+                                            std::to_string(farthest));
+    }
+    return unit;
 }
 
 void run(const Options &options, Progress &progress) {
@@ -95,6 +105,15 @@ void run(const Options &options, Progress &progress) {
     printReport(options, grid, unit, survey, scale);
 }
 
+void survey(const Options &options) {
+    Progress progress(options.progress);
+    try {
+        run(options, progress);
+    } catch (const std::bad_alloc &) {
+        throw InputError(options.input, "expected a grid that fits into memory");
+    }
+}
+
 int complain(const char *text, int status) {
     std::fprintf(stderr, "terrain: %s\n", text);
     return status;
@@ -106,23 +125,21 @@ int main(int argc, char **argv) {
         switch (options.action) {
         case Options::Action::Help:
             std::fputs(helpText, stdout);
-            return 0;
+            break;
         case Options::Action::Version:
             printVersion();
-            return 0;
-        case Options::Action::Survey:
             break;
-        }
-        Progress progress(options.progress);
-        try {
-            run(options, progress);
-        } catch (const std::bad_alloc &) {
-            throw InputError(options.input, "expected a grid that fits into memory");
+        case Options::Action::Survey:
+            survey(options);
+            break;
         }
     } catch (const OutputError &error) {
         return complain(error.what(), outputFailed);
     } catch (const std::exception &error) {
         return complain(error.what(), inputWrong);
+    }
+    if (std::fflush(stdout) != 0) {
+        return complain("standard output: expected a place where the report can be written", outputFailed);
     }
     return 0;
 }

@@ -174,8 +174,11 @@ void checkNames(const Options &options) {
         if (names[i].empty()) {
             throw UsageError("expected the name of a file, found ''");
         }
+        std::error_code ignored;
+        if (std::filesystem::is_character_file(names[i], ignored)) {
+            continue; // /dev/null takes any number of files
+        }
         for (std::size_t j = 0; j < i; ++j) {
-            std::error_code ignored;
             if (names[i] == names[j] || std::filesystem::equivalent(names[i], names[j], ignored)) {
                 throw UsageError("expected different files, found " + shown(names[i]) + " twice");
             }

@@ -8,13 +8,18 @@
 
 namespace terrain {
 
-OutputFile::OutputFile(const std::string &name)
-    : name_(name), temporary_(name + "." + std::to_string(getpid()) + ".tmp") {
+OutputFile::OutputFile(const std::string &name) : name_(name) {
     std::error_code ignored;
-    if (std::filesystem::is_directory(name, ignored)) {
+    const std::filesystem::file_status status = std::filesystem::status(name, ignored);
+    if (std::filesystem::is_directory(status)) {
         throw OutputError(name, "expected the name of a file, found a directory");
     }
-    stream_ = std::fopen(temporary_.c_str(), "wbx");
+    if (std::filesystem::is_regular_file(status) || !std::filesystem::exists(status)) {
+        temporary_ = name + "." + std::to_string(getpid()) + ".tmp";
+        stream_ = std::fopen(temporary_.c_str(), "wbx");
+    } else {
+        stream_ = std::fopen(name.c_str(), "wb"); // a device or pipe must not be replaced
+    }
     if (stream_ == nullptr) {
         fail("written");
     }
@@ -24,7 +29,7 @@ OutputFile::~OutputFile() {
     if (stream_ != nullptr) {
         std::fclose(stream_);
     }
-    if (!isPublished_) {
+    if (!isPublished_ && !temporary_.empty()) {
         std::remove(temporary_.c_str());
     }
 }
@@ -39,7 +44,7 @@ void OutputFile::close() {
 }
 
 void OutputFile::publish() {
-    if (std::rename(temporary_.c_str(), name_.c_str()) != 0) {
+    if (!temporary_.empty() && std::rename(temporary_.c_str(), name_.c_str()) != 0) {
         fail("given its name");
     }
     isPublished_ = true;

@@ -13,7 +13,7 @@ public:
 };
 
 // Written beside its place under a temporary name; publish() gives it its own. Without that, the destructor
-// removes it.
+// removes it. A device or a pipe is written directly.
 class OutputFile {
 public:
     // Throws OutputError, as all members do when the file system refuses.
@@ -33,7 +33,7 @@ private:
     [[noreturn]] void fail(const char *action) const;
 
     std::string name_;
-    std::string temporary_;
+    std::string temporary_; // empty for a device or a pipe
     std::FILE *stream_ = nullptr;
     bool isPublished_ = false;
 };

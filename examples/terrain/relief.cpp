@@ -4,8 +4,10 @@
 #include "palette.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 namespace terrain {
 
@@ -15,18 +17,15 @@ namespace {
 constexpr std::array<Colour, 6> heightTints = {rgb(0x7fa382), rgb(0xa9bf8f), rgb(0xd9d3a4),
                                                rgb(0xd0b188), rgb(0xb99378), rgb(0xe9e2da)};
 
-constexpr std::array<double, 3> unit(double east, double north, double up) {
-    return {east, north, up};
-}
-
 // Halfway up the sky in the north-west, where readers of maps expect the light to come from.
-const std::array<double, 3> sun = unit(-0.5, 0.5, std::sqrt(0.5));
+constexpr std::array<double, 3> sun = {-0.5, 0.5, std::numbers::sqrt2 / 2};
 
 double brightness(const Vector3 &normal) {
     const double light = normal[0] * sun[0] + normal[1] * sun[1] + static_cast<double>(normal[2]) * sun[2];
     // The sky lights what the sun doesn't reach, and level ground keeps about its own colour.
-    constexpr double sky = 0.22;
-    return sky * normal[2] + 1.12 * std::max(light, 0.0);
+    constexpr double sky = 0.2;
+    constexpr double direct = 1.05;
+    return sky * normal[2] + direct * std::max(light, 0.0);
 }
 
 struct Range {

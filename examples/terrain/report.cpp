@@ -33,7 +33,7 @@ void printReport(const Options &options, const Grid &grid, CellUnit unit, const 
                 options.use32bit ? 32 : 64);
     std::printf("singular   %zu left out\n", survey.singular);
     std::printf("residual   %.4f m, weighted root mean square\n", survey.residual);
-    if (survey.seconds > 0) {
+    if (survey.solved > 0 && survey.seconds > 0) {
         std::printf("rate       %.0f systems per second (%.4f s in the library)\n",
                     static_cast<double>(survey.solved) / survey.seconds, survey.seconds);
     }

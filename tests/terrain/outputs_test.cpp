@@ -1,0 +1,179 @@
+// The files and the report.
+#include "sandbox.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <png.h>
+#include <regex>
+#include <set>
+#include <zelm.h>
+
+namespace {
+
+using terraintest::Sandbox;
+using Names = std::vector<std::string>;
+
+struct Picture {
+    unsigned width = 0;
+    unsigned height = 0;
+    std::vector<png_byte> pixels; // red, green, blue
+};
+
+Picture decode(const std::filesystem::path &file) {
+    png_image header{};
+    header.version = PNG_IMAGE_VERSION;
+    Picture picture;
+    if (png_image_begin_read_from_file(&header, file.c_str()) == 0) {
+        ADD_FAILURE() << header.message;
+        return picture;
+    }
+    header.format = PNG_FORMAT_RGB;
+    picture.pixels.resize(PNG_IMAGE_SIZE(header));
+    if (png_image_finish_read(&header, nullptr, picture.pixels.data(), 0, nullptr) == 0) {
+        ADD_FAILURE() << header.message;
+        return picture;
+    }
+    picture.width = header.width;
+    picture.height = header.height;
+    return picture;
+}
+
+int redMinusBlue(const Picture &picture, unsigned column, unsigned row) {
+    const std::size_t pixel = (std::size_t{row} * picture.width + column) * 3;
+    return picture.pixels[pixel] - picture.pixels[pixel + 2];
+}
+
+int brightness(const Picture &picture, unsigned column, unsigned row) {
+    const std::size_t pixel = (std::size_t{row} * picture.width + column) * 3;
+    return picture.pixels[pixel] + picture.pixels[pixel + 1] + picture.pixels[pixel + 2];
+}
+
+TEST(Outputs, RealGridGivesPicturesAndReport) {
+    const Sandbox sandbox;
+    const auto outcome = sandbox.run({TERRAIN_GRID});
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(sandbox.files(), (Names{"curvature.png", "relief.png"}));
+    for (const char *name : {"relief.png", "curvature.png"}) {
+        const Picture picture = decode(sandbox.path(name));
+        EXPECT_EQ(picture.width, 403u) << name;
+        EXPECT_EQ(picture.height, 344u) << name;
+        EXPECT_GT(std::set<png_byte>(picture.pixels.begin(), picture.pixels.end()).size(), 100u) << name;
+    }
+    const std::regex report(
+        "grid +344 rows of 403 cells, 0 without data\n"
+        "cell +0\\.000833333333 degrees, 74\\.\\d m west-east by 92\\.\\d m north-south [^\n]*\n"
+        "systems +138632 of 6x6 solved by LU in 64-bit float\n"
+        "singular +0 left out\n"
+        "residual +\\d\\.\\d+ m[^\n]*\n"
+        "rate +([1-9]\\d*) systems per second \\(\\d+\\.\\d+ s in the library\\)\n"
+        "slope +mean \\d+\\.\\d+ degrees, steepest [^\n]*\n"
+        "curvature +mean, full colour at [^\n]*\n"
+        "written +relief\\.png, curvature\\.png: 403 x 344 pixels\n");
+    EXPECT_TRUE(std::regex_match(outcome.output, report)) << outcome.output;
+}
+
+// A ridge from north to south: its western side lies in the light, its crest is convex, its foot concave.
+TEST(Outputs, PicturesShowTheGround) {
+    const Sandbox sandbox;
+    sandbox.write("ridge.asc", terraintest::gridText(11, 41, 10, [](double x, double) {
+                      return 60 * std::exp(-(x - 205) * (x - 205) / 5000);
+                  }));
+    ASSERT_EQ(sandbox.run({"ridge.asc"}).status, 0);
+    const Picture relief = decode(sandbox.path("relief.png"));
+    const Picture curvature = decode(sandbox.path("curvature.png"));
+    ASSERT_EQ(relief.pixels.size(), 3u * 41 * 11);
+    ASSERT_EQ(curvature.pixels.size(), 3u * 41 * 11);
+    EXPECT_GT(brightness(relief, 15, 5), brightness(relief, 25, 5) + 100);
+    EXPECT_GT(redMinusBlue(curvature, 20, 5), 50);
+    EXPECT_LT(redMinusBlue(curvature, 10, 5), -30);
+    EXPECT_LT(redMinusBlue(curvature, 30, 5), -30);
+}
+
+TEST(Outputs, ResidualIsThatOfTheFit) {
+    // Heights of +1 and -1 like a chessboard: no quadratic surface follows them. Equal weights, cells in the
+    // middle and at the edges; the bound is the root mean square of the heights themselves.
+    const Sandbox sandbox;
+    sandbox.write("board.asc", terraintest::gridText(20, 20, 2, [](double x, double y) {
+                      return (static_cast<int>(x / 2) + static_cast<int>(y / 2)) % 2 == 0 ? 1.0 : -1.0;
+                  }));
+    sandbox.write("bowl.asc",
+                  terraintest::gridText(20, 20, 2, [](double x, double y) { return x * x + y * y - x * y; }));
+    const auto residual = [&](const char *grid) {
+        const auto outcome = sandbox.run({"--weight-exponent", "0", grid});
+        std::smatch match;
+        const std::regex line("residual +([0-9.]+) m");
+        EXPECT_TRUE(std::regex_search(outcome.output, match, line)) << outcome.output;
+        return std::strtod(match.str(1).c_str(), nullptr);
+    };
+    EXPECT_GT(residual("board.asc"), 0.95);
+    EXPECT_LE(residual("board.asc"), 1);
+    EXPECT_EQ(residual("bowl.asc"), 0);
+}
+
+TEST(Outputs, CellSizeCanBeGiven) {
+    const Sandbox sandbox;
+    sandbox.write("plane.asc", terraintest::gridText(8, 8, 0.01, [](double x, double) { return 100 * x; }));
+    const auto slope = [&](std::vector<std::string> options) {
+        options.insert(options.end(), {"--slope-grid", "slope.asc", "plane.asc"});
+        EXPECT_EQ(sandbox.run(options).status, 0);
+        return terraintest::readGrid(sandbox.path("slope.asc")).at(4, 4);
+    };
+    EXPECT_NEAR(slope({"--cellsize", "1"}), 45, 1e-4);                         // 1 m over 1 m
+    EXPECT_NEAR(slope({"--projected"}), std::atan(100.0) * 57.29577951, 1e-4); // 1 m over 0.01 m
+    EXPECT_NEAR(slope({}), std::atan(1 / 1113.2) * 57.29577951, 1e-4);         // 1 m over 0.01 degrees
+    EXPECT_NEAR(slope({"--geographic"}), slope({}), 0);
+}
+
+TEST(Outputs, ProgressIsShownWhenAsked) {
+    const Sandbox sandbox;
+    const auto outcome = sandbox.run({"--progress", TERRAIN_GRID});
+    ASSERT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors.find("reading 10 %\nreading 20 %\n"), 0u) << outcome.errors;
+    EXPECT_NE(outcome.errors.find("fitting 50 %\n"), std::string::npos) << outcome.errors;
+    EXPECT_NE(outcome.errors.find("fitting 100 %\n"), std::string::npos) << outcome.errors;
+    EXPECT_LE(std::count(outcome.errors.begin(), outcome.errors.end(), '\n'), 20);
+}
+
+TEST(Outputs, PlaceThatCannotBeWrittenLeavesNothing) {
+    const Sandbox sandbox;
+    const auto outcome = sandbox.run({"--curvature", "none/curvature.png", TERRAIN_GRID});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "terrain: none/curvature.png: expected a place where a file can be written: "
+                              "No such file or directory\n");
+    EXPECT_EQ(sandbox.files(), Names{});
+}
+
+TEST(Outputs, FullDiskIsNoticed) {
+    const Sandbox sandbox;
+    const auto outcome = sandbox.run({"--curvature", "/dev/full", TERRAIN_GRID});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors.find("terrain: /dev/full: expected "), 0u) << outcome.errors;
+    EXPECT_EQ(sandbox.files(), Names{});
+}
+
+TEST(Outputs, DevicesAreNotReplaced) {
+    const Sandbox sandbox;
+    EXPECT_EQ(sandbox.run({"--relief", "/dev/null", "--curvature", "/dev/null", TERRAIN_GRID}).status, 0);
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    EXPECT_EQ(sandbox.files(), Names{});
+}
+
+TEST(Outputs, HelpAndVersion) {
+    const Sandbox sandbox;
+    const auto help = sandbox.run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.output.find("usage: terrain"), 0u);
+    const auto version = sandbox.run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    const ZelmLibVersion &library = *zelmGetLibVersion();
+    EXPECT_NE(version.output.find(std::string(library.fileName) + " " + library.versionText),
+              std::string::npos)
+        << version.output;
+    EXPECT_EQ(sandbox.files(), Names{});
+}
+
+} // namespace

@@ -1,0 +1,161 @@
+// The fit on the real grid against a solution by another way in extended precision: Householder QR of each
+// cell's own weighted equations, one per neighbour, without forming the normal equations.
+#include "sandbox.h"
+
+#include "lu_solver.h"
+#include "neighbourhood.h"
+#include "survey.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace terrain;
+using Real = long double;
+using Solution = std::array<Real, order>;
+
+struct Equations {
+    std::array<std::array<Real, order + 1>, neighbours> rows{}; // the terms, then the height
+    std::size_t count = 0;
+};
+
+// The weights are computed anew here, as 1 / (1 + distance in mean cells); their scale changes no solution.
+Equations equationsOf(const Grid &grid, std::size_t row, std::size_t column, const CellSize &size) {
+    Equations equations;
+    const Real meanCell = std::sqrt(Real{size.eastWest} * size.northSouth);
+    for (int north = -2; north <= 2; ++north) {
+        for (int east = -2; east <= 2; ++east) {
+            const auto r = static_cast<long>(row) - north;
+            const auto c = static_cast<long>(column) + east;
+            if (r < 0 || c < 0 || r >= static_cast<long>(grid.rows) || c >= static_cast<long>(grid.columns) ||
+                !grid.hasData(static_cast<std::size_t>(r), static_cast<std::size_t>(c))) {
+                continue;
+            }
+            const Real x = east;
+            const Real y = north;
+            const Real distance = std::hypot(x * size.eastWest, y * size.northSouth) / meanCell;
+            const Real root = std::sqrt(1 / (1 + distance));
+            const Real height = Real{grid.at(static_cast<std::size_t>(r), static_cast<std::size_t>(c))} -
+                                grid.at(row, column);
+            equations.rows[equations.count++] = {root * x * x, root * x * y, root * y * y, root * x,
+                                                 root * y,     root,         root * height};
+        }
+    }
+    return equations;
+}
+
+Solution leastSquares(Equations equations) {
+    auto &a = equations.rows;
+    const std::size_t count = equations.count;
+    for (std::size_t k = 0; k < order; ++k) {
+        Real norm2 = 0;
+        for (std::size_t i = k; i < count; ++i) {
+            norm2 += a[i][k] * a[i][k];
+        }
+        const Real alpha = a[k][k] > 0 ? -std::sqrt(norm2) : std::sqrt(norm2);
+        std::array<Real, neighbours> v{};
+        for (std::size_t i = k; i < count; ++i) {
+            v[i] = a[i][k];
+        }
+        v[k] -= alpha;
+        Real length2 = 0;
+        for (std::size_t i = k; i < count; ++i) {
+            length2 += v[i] * v[i];
+        }
+        for (std::size_t j = k; j <= order; ++j) {
+            Real product = 0;
+            for (std::size_t i = k; i < count; ++i) {
+                product += v[i] * a[i][j];
+            }
+            for (std::size_t i = k; i < count; ++i) {
+                a[i][j] -= 2 * product / length2 * v[i];
+            }
+        }
+    }
+    Solution x{};
+    for (std::size_t k = order; k-- > 0;) {
+        Real sum = a[k][order];
+        for (std::size_t j = k + 1; j < order; ++j) {
+            sum -= a[k][j] * x[j];
+        }
+        x[k] = sum / a[k][k];
+    }
+    return x;
+}
+
+struct Difference {
+    std::size_t systems = 0;
+    std::size_t singular = 0;
+    Real largest = 0; // metres, of any coefficient in cell units
+};
+
+template <class T>
+Difference compare(const Grid &grid) {
+    Difference difference;
+    Systems<T> systems;
+    std::vector<std::uint32_t> columns;
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+        const CellSize size = cellSizeAt(grid, row, CellUnit::Degrees);
+        assembleRow(grid, row, distanceWeights(size, 1), systems, columns);
+        solveByLu(systems);
+        for (std::size_t k = 0; k < systems.count(); ++k) {
+            ++difference.systems;
+            difference.singular += systems.isSingular[k];
+            const Solution expected = leastSquares(equationsOf(grid, row, columns[k], size));
+            for (std::size_t i = 0; i < order; ++i) {
+                const Real error = std::fabs(systems.solution[k * order + i] - expected[i]);
+                // Written so that a NaN is kept.
+                difference.largest = error <= difference.largest ? difference.largest : error;
+            }
+        }
+    }
+    return difference;
+}
+
+template <class T>
+void expectAgreement(Real bound) {
+    const Grid grid = terraintest::readGrid(TERRAIN_GRID);
+    const Difference difference = compare<T>(grid);
+    EXPECT_EQ(difference.systems, 344u * 403u);
+    EXPECT_EQ(difference.singular, 0u);
+    EXPECT_LE(difference.largest, bound);
+    std::printf("largest difference of a coefficient: %.3Lg m\n", difference.largest);
+}
+
+// The neighbourhoods' heights reach 200 m and the systems' condition is below 1e3 (it is worst in the grid's
+// corners, with 9 of 25 neighbours), so solutions may be wrong by 2e5 units of rounding: 2e-11 m and 1e-2 m.
+// What is found stays well below.
+TEST(Precision, RealGridIn64BitFloats) {
+    expectAgreement<double>(2e-11L);
+}
+
+TEST(Precision, RealGridIn32BitFloats) {
+    expectAgreement<float>(1e-2L);
+}
+
+TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
+    const Grid grid = terraintest::readGrid(TERRAIN_GRID);
+    Progress progress(Progress::Show::OnTerminal);
+    const Survey wide = surveyGrid(grid, {.unit = CellUnit::Degrees}, progress);
+    const Survey narrow = surveyGrid(grid, {.unit = CellUnit::Degrees, .use32bit = true}, progress);
+    EXPECT_EQ(wide.solved, narrow.solved);
+    EXPECT_NEAR(wide.residual, narrow.residual, 1e-6);
+    double slope = 0;
+    double curvature = 0;
+    for (std::size_t cell = 0; cell < grid.elevation.size(); ++cell) {
+        slope = std::max(slope, std::fabs(slopeDegrees(wide.layers.east[cell], wide.layers.north[cell]) -
+                                          slopeDegrees(narrow.layers.east[cell], narrow.layers.north[cell])));
+        curvature = std::max(curvature,
+                             std::fabs(double{wide.layers.curvature[cell]} - narrow.layers.curvature[cell]));
+    }
+    // A coefficient's bound of 1e-2 m over a cell of 70 m would allow 1e-2 degrees and 4e-6 per m.
+    EXPECT_LE(slope, 1e-2);
+    EXPECT_LE(curvature, 4e-6);
+    std::printf("largest differences: %.3g degrees of slope, %.3g per m of curvature\n", slope, curvature);
+}
+
+} // namespace

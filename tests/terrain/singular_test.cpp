@@ -1,0 +1,168 @@
+// Cells whose neighbours leave the surface undetermined are left out, and nothing else is.
+#include "sandbox.h"
+
+#include "lu_solver.h"
+#include "neighbourhood.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+namespace {
+
+using namespace terrain;
+
+const double absent = std::numeric_limits<double>::quiet_NaN();
+
+// The rank of the terms of the surface over the cells that are there, in whole numbers and so exact.
+std::size_t rankAt(const Grid &grid, std::size_t row, std::size_t column) {
+    std::vector<std::array<std::int64_t, order>> terms;
+    for (int north = -2; north <= 2; ++north) {
+        for (int east = -2; east <= 2; ++east) {
+            const auto r = static_cast<std::size_t>(static_cast<long>(row) - north);
+            const auto c = static_cast<std::size_t>(static_cast<long>(column) + east);
+            if (r < grid.rows && c < grid.columns && grid.hasData(r, c)) {
+                terms.push_back({east * east, east * north, north * north, east, north, 1});
+            }
+        }
+    }
+    // Elimination without fractions (Bareiss): each division leaves no remainder.
+    std::size_t rank = 0;
+    std::int64_t previous = 1;
+    for (std::size_t k = 0; k < order && rank < terms.size(); ++k) {
+        const auto start = terms.begin() + static_cast<std::ptrdiff_t>(rank);
+        const auto pivot = std::find_if(start, terms.end(), [&](const auto &term) { return term[k] != 0; });
+        if (pivot == terms.end()) {
+            continue;
+        }
+        std::iter_swap(start, pivot);
+        for (std::size_t i = rank + 1; i < terms.size(); ++i) {
+            for (std::size_t j = k + 1; j < order; ++j) {
+                terms[i][j] = (terms[rank][k] * terms[i][j] - terms[i][k] * terms[rank][j]) / previous;
+            }
+            terms[i][k] = 0;
+        }
+        previous = terms[rank][k];
+        ++rank;
+    }
+    return rank;
+}
+
+std::string count(const char *label, std::size_t number, const char *unit) {
+    return std::string(label) + std::to_string(number) + unit;
+}
+
+// Thinned out at random from nearly nothing in the west to nearly everything in the east, so that rows hold
+// singular cells alone, in runs, first and last.
+std::string thinnedPlane() {
+    std::mt19937 random(20);
+    return terraintest::gridText(60, 90, 10, [&](double x, double y) {
+        const bool isThere = random() % 900 < static_cast<unsigned>(x);
+        return isThere ? 500 + 0.3 * x - 0.4 * y : absent;
+    });
+}
+
+class SingularCells : public testing::TestWithParam<const char *> {};
+
+TEST_P(SingularCells, AreThoseThatLackNeighbours) {
+    const terraintest::Sandbox sandbox;
+    sandbox.write("plane.asc", thinnedPlane());
+    const auto outcome = sandbox.run({"--float", GetParam(), "--slope-grid", "slope.asc", "plane.asc"});
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    const Grid plane = terraintest::readGrid(sandbox.path("plane.asc"));
+    const Grid slope = terraintest::readGrid(sandbox.path("slope.asc"));
+    std::size_t solved = 0;
+    std::size_t singular = 0;
+    for (std::size_t row = 0; row < plane.rows; ++row) {
+        for (std::size_t column = 0; column < plane.columns; ++column) {
+            if (!plane.hasData(row, column)) {
+                ASSERT_FALSE(slope.hasData(row, column));
+                continue;
+            }
+            const bool isSolvable = rankAt(plane, row, column) == order;
+            ASSERT_EQ(slope.hasData(row, column), isSolvable) << "row " << row << ", column " << column;
+            solved += isSolvable;
+            singular += !isSolvable;
+            if (isSolvable) {
+                // Few neighbours make a system worse, in 32-bit floats by up to 1e-2 degrees.
+                ASSERT_NEAR(slope.at(row, column), 26.565051177,
+                            std::string(GetParam()) == "64" ? 1e-5 : 2e-2)
+                    << "row " << row << ", column " << column;
+            }
+        }
+    }
+    EXPECT_GT(solved, 1000u);
+    EXPECT_GT(singular, 300u);
+    EXPECT_NE(outcome.output.find(count("systems    ", solved, " of 6x6")), std::string::npos)
+        << outcome.output;
+    EXPECT_NE(outcome.output.find(count("singular   ", singular, " left out")), std::string::npos)
+        << outcome.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(Floats, SingularCells, testing::Values("64", "32"));
+
+TEST(Singular, IsolatedCellsGiveNothing) {
+    const terraintest::Sandbox sandbox;
+    sandbox.write("dots.asc", terraintest::gridText(9, 9, 10, [](double x, double y) {
+                      return std::fmod(x, 30) == 15 && std::fmod(y, 30) == 15 ? 100.0 : absent;
+                  }));
+    const auto outcome = sandbox.run({"dots.asc"});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_NE(outcome.output.find("systems    0 of"), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("singular   9 left out"), std::string::npos) << outcome.output;
+    EXPECT_NE(outcome.output.find("72 without data"), std::string::npos) << outcome.output;
+}
+
+// System k is (k + 1) times a permutation matrix, so that x[i] = b[permuted i] / (k + 1); a singular one has
+// a row of zeros in the place that only the last pivot meets, or in the first.
+template <class T>
+void expectSolvedAround(const std::vector<bool> &isSingular) {
+    Systems<T> systems;
+    systems.resize(isSingular.size());
+    for (std::size_t k = 0; k < isSingular.size(); ++k) {
+        const std::size_t shift = k % order;
+        for (std::size_t i = 0; i < order; ++i) {
+            const bool isZeroRow = isSingular[k] && i == (k % 2 == 0 ? order - 1 : 0);
+            systems.matrix[(k * order + i) * order + (i + shift) % order] =
+                isZeroRow ? T{0} : static_cast<T>(k + 1);
+            systems.rightSide[k * order + i] = static_cast<T>((i + 1) * (k + 1));
+        }
+    }
+    const double seconds = solveByLu(systems);
+    EXPECT_GE(seconds, 0);
+    for (std::size_t k = 0; k < isSingular.size(); ++k) {
+        ASSERT_EQ(systems.isSingular[k] != 0, isSingular[k]) << "system " << k << " of " << isSingular.size();
+        for (std::size_t i = 0; i < order && !isSingular[k]; ++i) {
+            ASSERT_EQ(systems.solution[k * order + (i + k % order) % order], static_cast<T>(i + 1))
+                << "system " << k << " of " << isSingular.size();
+        }
+    }
+}
+
+// All patterns of singular systems among up to seven, then long runs: every place where a stop can fall into
+// the groups that the library works in.
+TEST(Singular, SolverResumesBehindEachOfThem) {
+    for (std::size_t size = 0; size <= 7; ++size) {
+        for (unsigned pattern = 0; pattern < 1u << size; ++pattern) {
+            std::vector<bool> isSingular;
+            for (std::size_t k = 0; k < size; ++k) {
+                isSingular.push_back((pattern >> k & 1) != 0);
+            }
+            expectSolvedAround<double>(isSingular);
+            expectSolvedAround<float>(isSingular);
+        }
+    }
+    for (const std::size_t place : {0u, 1u, 63u, 64u, 100u}) {
+        std::vector<bool> isSingular(101);
+        isSingular[place] = true;
+        expectSolvedAround<double>(isSingular);
+        expectSolvedAround<float>(isSingular);
+    }
+    expectSolvedAround<double>(std::vector<bool>(40, true));
+}
+
+} // namespace
