@@ -54,7 +54,7 @@ TEST_P(Conformance, EqualsTheModel) {
                       << (mismatch ? mismatch->what
                                    : "(not when it is run again: the function keeps something)")
                       << "\n"
-                      << replayProgram(runner.last(), arena());
+                      << replayProgram(runner.last(), arena(), mismatch ? mismatch->element : 0);
     }
     EXPECT_TRUE(arena().intact()) << function.name << " wrote far outside of its operands";
 }

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <stdexcept>
+#include <string>
 
 namespace zelmtest {
 
@@ -12,9 +13,10 @@ const char *libraryPath() {
 }
 
 AnyFunction exported(const char *name) {
-    static void *const library = dlopen(libraryPath(), RTLD_NOW | RTLD_LOCAL);
+    static const std::string path = libraryPath();
+    static void *const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!library)
-        throw std::runtime_error(dlerror());
+        throw std::runtime_error("cannot load " + path);
     return reinterpret_cast<AnyFunction>(dlsym(library, name));
 }
 

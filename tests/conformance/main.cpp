@@ -1,5 +1,6 @@
 // conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--digest FILE]
 #include "crash.h"
+#include "library.h"
 #include "options.h"
 #include "summary.h"
 
@@ -15,6 +16,7 @@ int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     try {
         parseOptions(argc, argv);
+        exported("zelmGetLibVersion"); // one message if the library cannot be loaded, not one per function
     } catch (const std::exception &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 2;

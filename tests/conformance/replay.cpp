@@ -40,7 +40,7 @@ public:
         : case_(theCase), arena_(arena), is64_(theCase.target->cell.type == zelmref::Type::Float64),
           element_(is64_ ? "double" : "float") {}
 
-    std::string program() {
+    std::string program(zelmref::Address differing) {
         std::string arguments;
         std::string before;
         for (const zelmref::CArgument &argument :
@@ -59,13 +59,18 @@ public:
                                  case_.target->function->name, case_.seed, case_.number);
         text += "#include <math.h>\n#include <stdint.h>\n#include <stdio.h>\n#include <string.h>\n"
                 "#include \"zelm.h\"\n\n";
-        for (const Window &w : case_.windows)
-            text += print("static _Alignas(64) unsigned char slab%u[%zu];\n", static_cast<unsigned>(w.slab),
-                          w.end - origin(w));
+        for (const Window &w : case_.windows) {
+            const std::string slab = print("slab%u", static_cast<unsigned>(w.slab));
+            if (arguments.find(slab) != std::string::npos || before.find(slab) != std::string::npos)
+                text +=
+                    print("static _Alignas(64) unsigned char %s[%zu];\n", slab.c_str(), w.end - origin(w));
+        }
         text += "\nint main(void)\n{\n" + before + "    ZelmStatus status = ";
         text += std::string(case_.target->function->name) + "(\n        " + arguments + ");\n";
         text += "    printf(\"%d\\n\", (int)status);\n";
-        text += print("    return 0;\n}\n");
+        if (differing)
+            text += "    printf(\"%a\\n\", (double)*(" + element_ + " *)(" + place(differing) + "));\n";
+        text += "    return 0;\n}\n";
         return text;
     }
 
@@ -128,9 +133,9 @@ private:
         for (std::size_t e = 0; e < placement->entries.size(); ++e) {
             const auto entry = zelmref::readWord<std::uintptr_t>(passed.base + e * sizeof(void *));
             before += e % 4 == 0 ? "\n        " : " ";
-            before += entry ? "(uintptr_t)(" + place(entry + shift) + ") - (uintptr_t)(intptr_t)" +
-                                  word(passed.shift)
-                            : std::string("0");
+            before += !entry ? "0" : "(uintptr_t)(" + place(entry + shift) + ")";
+            if (entry && shift)
+                before += " - (uintptr_t)(intptr_t)" + word(passed.shift);
             before += ",";
         }
         before += placement->entries.empty() ? "0};\n" : "};\n";
@@ -178,8 +183,8 @@ private:
 
 } // namespace
 
-std::string replayProgram(const Case &theCase, const Arena &arena) {
-    return Writer(theCase, arena).program();
+std::string replayProgram(const Case &theCase, const Arena &arena, zelmref::Address differing) {
+    return Writer(theCase, arena).program(differing);
 }
 
 } // namespace zelmtest

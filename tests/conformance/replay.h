@@ -8,7 +8,8 @@
 
 namespace zelmtest {
 
-// The memory of the case must lie in the arena as it was before the call.
-std::string replayProgram(const Case &theCase, const Arena &arena);
+// The memory of the case must lie in the arena as it was before the call. The program prints the status and,
+// if `differing` is not 0, the element there.
+std::string replayProgram(const Case &theCase, const Arena &arena, zelmref::Address differing);
 
 } // namespace zelmtest

@@ -86,7 +86,7 @@ std::optional<Mismatch> Runner::compare(ZelmStatus expected, ZelmStatus actual) 
         std::size_t offset = w.begin;
         while (arena_.slab(w.slab)[offset] == arena_.expected(w.slab)[offset])
             ++offset;
-        return Mismatch{describe(w, offset)};
+        return describe(w, offset);
     }
     return std::nullopt;
 }
@@ -108,7 +108,7 @@ void Runner::acceptComputedNans() {
     }
 }
 
-std::string Runner::describe(const Window &window, std::size_t offset) const {
+Mismatch Runner::describe(const Window &window, std::size_t offset) const {
     const unsigned char *actual = arena_.slab(window.slab), *expected = arena_.expected(window.slab);
     const std::size_t size = zelmref::elementSize(case_.target->cell);
     const auto at = static_cast<std::int64_t>(offset);
@@ -123,18 +123,19 @@ std::string Runner::describe(const Window &window, std::size_t offset) const {
                     if (at < start || at >= start + static_cast<std::int64_t>(size))
                         continue;
                     const auto element = static_cast<std::size_t>(start);
-                    return case_.target->signature[o.parameter].name + ", object " + std::to_string(k) +
-                           ", row " + std::to_string(i) + ", column " + std::to_string(j) + ": before " +
-                           show(readBits(arena_.before(window.slab) + element, size), size) + ", expected " +
-                           show(readBits(expected + element, size), size) + ", actual " +
-                           show(readBits(actual + element, size), size);
+                    return {case_.target->signature[o.parameter].name + ", object " + std::to_string(k) +
+                                ", row " + std::to_string(i) + ", column " + std::to_string(j) + ": before " +
+                                show(readBits(arena_.before(window.slab) + element, size), size) +
+                                ", expected " + show(readBits(expected + element, size), size) + ", actual " +
+                                show(readBits(actual + element, size), size),
+                            reinterpret_cast<zelmref::Address>(actual + element)};
                 }
     }
     char text[160];
     std::snprintf(text, sizeof text,
                   "slab %u, offset 0x%zx: expected byte 0x%02x, actual 0x%02x, in no element",
                   static_cast<unsigned>(window.slab), offset, expected[offset], actual[offset]);
-    return text;
+    return {text};
 }
 
 std::uint64_t Runner::takeDigest() {

@@ -14,6 +14,7 @@ using Callee = std::function<ZelmStatus(const Case &, const std::vector<Value> &
 
 struct Mismatch {
     std::string what;
+    zelmref::Address element = 0; // the element that differs, if it is one
 };
 
 class Runner {
@@ -34,7 +35,7 @@ public:
 private:
     std::optional<Mismatch> compare(ZelmStatus expected, ZelmStatus actual);
     void acceptComputedNans();
-    std::string describe(const Window &window, std::size_t offset) const;
+    Mismatch describe(const Window &window, std::size_t offset) const;
     void digest(ZelmStatus status);
 
     Arena &arena_;
