@@ -28,7 +28,8 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/zelm.pc.in ${PROJECT_BINARY_DIR}/packag
 install(FILES ${PROJECT_BINARY_DIR}/packaging/zelm-${ZELM_TARGET}.pc DESTINATION ${ZELM_PKGCONFIG_DIR}
   COMPONENT zelm)
 
-# `cpack` in the build tree: a Debian package, i386 for t7 and amd64 for x64, which can be installed side by side.
+# `cpack` in the build tree: a Debian package, i386 for t7 and amd64 for x64. CMake 3.31 and newer mark them as
+# Multi-Arch: same, so that both can be installed side by side. The library goes in as it was tested, not stripped.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zelm)
 set(CPACK_PACKAGE_CONTACT "zelm maintainers <zelm@localhost>")
@@ -36,7 +37,6 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL zelm)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_MULTIARCH same)
