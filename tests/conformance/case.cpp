@@ -320,7 +320,8 @@ private:
         packTightly(source);
         lieLike(o, source);
         if (o.perObject)
-            std::rotate(o.entries.begin(), o.entries.begin() + move % o.objects, o.entries.end());
+            std::rotate(o.entries.begin(), o.entries.begin() + static_cast<std::ptrdiff_t>(move % o.objects),
+                        o.entries.end());
         else
             o.origin = source.origin + (back ? -1 : 1) * std::int64_t{move} * o.obj;
     }
