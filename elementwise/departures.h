@@ -1,22 +1,384 @@
-// The members of this subsystem that depart from their rows, each written out here and named in the
-// catalogue.
+// The members of this subsystem that depart from their rows, each written out here. The catalogue names them
+// and points their exported functions here.
 #pragma once
 
-#include "elementwise/vector_add_sub.h"
+#include "elementwise/elementwise.h"
+#include "frame/groups.h"
 
 namespace zelm::elementwise::departures {
 
-// zelmAdd_vav_64f_6x1, zelmSub_vav_64f_6x1, zelmSub_vva_64f_6x1 and their _L: the invariant vector isn't
+// zelm{Add,Sub}_vav_64f_6x1, zelmSub_vva_64f_6x1, zelmSub_{mma,mmaT}_32f_6x6,
+// zelmSub_{mma,mTma,mmaT,mTmaT}_64f_6x6, each with its _L, and zelmAdd_maTmT_64f_3x3: the invariant isn't
 // held, as in all other fixed-size standard and L forms, but read anew for every object. A caller sees it
 // where dst overlaps the invariant: what one object stores there, the next one reads.
-template <typename Op, typename A, typename B, typename D, typename Size>
-ZELM_INLINE ZelmStatus vectorArrayReadAnew(const A &a, const B &b, const D &d, Size size,
-                                           std::uint32_t count) {
-    const std::uint32_t n = size.value();
-    if (ZelmStatus status = checkArray(size.isZero(), count, tested(a, n), tested(b, n), tested(d, n));
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus invariantReadAnew(const A &a, const B &b, const D &d, Shape shape,
+                                         std::uint32_t count) {
+    return checkedArray<Op, Invariant::ReadAnew>(a, b, d, shape, count);
+}
+
+// ---- zelm{Add,Sub}_{mam,mamT}_32f_3x3 and their _L: software-pipelined. Object k+1 is read before object k
+// is stored, and the last object is finished after the loop, so that a count of 0 computes and stores object
+// 0 as a count of 1 does.
+
+struct NineFloats {
+    float element[9];
+};
+
+ZELM_INLINE NineFloats readObject(const Dense<const float> &object) {
+    NineFloats read;
+#pragma GCC unroll 9
+    for (unsigned e = 0; e < 9; ++e)
+        store(addressOf(&read.element[e]), object.get(e / 3, e % 3, 3));
+    return read;
+}
+
+template <typename Op, typename B>
+ZELM_INLINE void storeObject(const NineFloats &read, const B &held, const Dense<float> &d) {
+#pragma GCC unroll 9
+    for (unsigned e = 0; e < 9; ++e)
+        d.set(e / 3, e % 3, 3, Op::template apply<float>(read.element[e], held.elements[e]));
+}
+
+template <typename Op, typename B>
+ZELM_INLINE ZelmStatus pipelined(const DenseArray<const float> &a, const B &b, const DenseArray<float> &d,
+                                 FixedShape<3, 3> shape, std::uint32_t count) {
+    if (a.isNull() || b.isNull() || d.isNull())
+        return ZELM_ERR_NULL_PTR;
+    const auto held = hold<FixedShape<3, 3>>(b);
+    // Where nothing is stored that is read later, the order can't be seen.
+    if (count != 0 && count <= kMostObjectsInRange && isUntouched(a, 3, 3, d, 3, 3, count))
+        return denseArray<Op>(a, held, d, shape, count);
+    NineFloats read = readObject(a.object(0));
+    for (std::uint32_t k = 1; k < count; ++k) {
+        const NineFloats next = readObject(a.object(k));
+        storeObject<Op>(read, held, d.object(k - 1));
+        read = next;
+    }
+    storeObject<Op>(read, held, d.object(count == 0 ? 0 : count - 1));
+    return ZELM_OK;
+}
+
+// The lists also test src1Table[0] and dstTable[count-1] ahead of the loop, and in it src1Table[k] and
+// dstTable[k-1]. With a count of 0 the last entry of dstTable is the word before it.
+template <typename Op, typename B>
+ZELM_INLINE ZelmStatus pipelined(const DenseList<const float> &a, const B &b, const DenseList<float> &d,
+                                 FixedShape<3, 3>, std::uint32_t count) {
+    if (a.isNull() || b.isNull() || d.isNull())
+        return ZELM_ERR_NULL_PTR;
+    const Address last = load<Address>(addressOf(d.table) + (Address{count} - 1) * sizeof(Address));
+    if (a.entryIsNull(0) || last == 0)
+        return ZELM_ERR_NULL_PTR;
+    const auto held = hold<FixedShape<3, 3>>(b);
+    NineFloats read = readObject(a.object(0));
+    for (std::uint32_t k = 1; k < count; ++k) {
+        if (a.entryIsNull(k) || d.entryIsNull(k - 1))
+            return ZELM_ERR_NULL_PTR;
+        const NineFloats next = readObject(a.object(k));
+        storeObject<Op>(read, held, d.object(k - 1));
+        read = next;
+    }
+    storeObject<Op>(read, held, Dense<float>(last + d.shift, d.rowStride));
+    return ZELM_OK;
+}
+
+// The mamT members among them don't read src2RowStride: the rows of src2 lie at src1's row stride.
+template <typename Op, typename A, typename D>
+ZELM_INLINE ZelmStatus pipelinedAtFirstRowStride(const A &a, const Transposed<Dense<const float>> &b,
+                                                 const D &d, FixedShape<3, 3> shape, std::uint32_t count) {
+    return pipelined<Op>(a, Transposed(Dense<const float>(b.start, a.rowStride)), d, shape, count);
+}
+
+// ---- zelm{Add,Sub}_{mam,mama}_64f_5x5 and their _L: column 4 of src1 is read at src2's row stride.
+
+template <typename Op, typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus lastColumnAtSecondRowStride(const A &a, const B &b, const D &d, FixedShape<5, 5> shape,
+                                                   std::uint32_t count) {
+    if (a.rowStride == b.rowStride)
+        return checkedArray<Op, Invariant::Held>(a, b, d, shape, count);
+    if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    return objects<Op>(a, b, d, size, count);
+    const auto objects = [&](const auto &second) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) {
+            const auto first = a.object(k);
+            const auto other = second.object(k);
+            const auto result = d.object(k);
+            for (std::uint32_t i = 0; i < 5; ++i) {
+                for (std::uint32_t j = 0; j < 4; ++j)
+                    result.set(i, j, 5, Op::template apply<double>(first.get(i, j, 5), other.get(i, j, 5)));
+                const double last = load<double>(first.start + i * b.rowStride + 4 * sizeof(double));
+                result.set(i, 4, 5, Op::template apply<double>(last, other.get(i, 4, 5)));
+            }
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, a, second, d);
+    };
+    if constexpr (kIsInvariant<B>)
+        return objects(hold<FixedShape<5, 5>>(b));
+    else
+        return objects(b);
+}
+
+// ---- zelmSub_mTm_64f_6x6_S2: src2ElemStride isn't read; the elements of a row of src2 lie at src1's.
+
+template <typename Op>
+ZELM_INLINE ZelmStatus secondAtFirstElemStride(const Transposed<Strided<const double>> &a,
+                                               const Strided<const double> &b, const Strided<double> &d,
+                                               FixedShape<6, 6> shape) {
+    return single<Op>(a, Strided<const double>(b.start, b.rowStride, a.elemStride), d, shape);
+}
+
+// ---- zelmSub_mTmT_32f_6x6: row 3 of dst receives the values of row 2.
+
+template <typename Op, typename A, typename B>
+ZELM_INLINE ZelmStatus rowTwoInRowThree(const A &a, const B &b, const Dense<float> &d,
+                                        FixedShape<6, 6> shape) {
+    if (ZelmStatus status = checkSingle(false, a, b, d); status != kProceed)
+        return status;
+    whileTrue(
+        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+            const std::uint32_t from = i == 3 ? 2 : i;
+            d.set(i, j, 6, Op::template apply<float>(value(a, from, j, shape), value(b, from, j, shape)));
+            return true;
+        });
+    return ZELM_OK;
+}
+
+// ---- zelmSub_maTmaT_32f_6x6 and its _L: each result is the difference of the stored elements that this
+// table names, row and column, instead of those of the transposed place.
+
+struct StoredElement {
+    unsigned char row, column;
+};
+
+constexpr StoredElement kStoredElement[6][6] = {
+    {{0, 0}, {4, 0}, {0, 2}, {4, 2}, {0, 4}, {4, 4}}, {{1, 0}, {5, 0}, {1, 2}, {5, 2}, {1, 4}, {5, 4}},
+    {{2, 0}, {4, 1}, {2, 2}, {4, 3}, {2, 4}, {4, 5}}, {{2, 0}, {4, 1}, {2, 2}, {4, 3}, {2, 4}, {4, 5}},
+    {{0, 1}, {2, 1}, {0, 3}, {2, 3}, {0, 5}, {2, 5}}, {{1, 1}, {3, 1}, {1, 3}, {3, 3}, {1, 5}, {3, 5}},
+};
+
+template <typename Op, typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus byTableOfElements(const A &a, const B &b, const D &d, FixedShape<6, 6> shape,
+                                         std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
+        status != kProceed)
+        return status;
+    const auto one = [&](std::uint32_t k) {
+        const auto first = a.object(k);
+        const auto second = b.object(k);
+        const auto result = d.object(k);
+        whileTrue(
+            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+                const StoredElement from = kStoredElement[i][j];
+                result.set(i, j, 6,
+                           Op::template apply<float>(first.get(from.row, from.column, 6),
+                                                     second.get(from.row, from.column, 6)));
+                return true;
+            });
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, b, d);
+}
+
+// ---- zelm{Add,Sub}_{mam,mamT}_64f_3x3_L, zelmSub_{mma,mTma}_64f_3x3_L: the invariant is held in packed
+// form, two elements of a row in a register, where its pointer and row stride are multiples of 16, and one
+// element to a register otherwise. Each object is computed in packed form where its source, its destination
+// and their row strides are multiples of 16, and element by element otherwise. Where the two disagree, the
+// registers meet the wrong elements, and empty halves are zero.
+
+constexpr unsigned kPackedRegisters = 6, kRegisters = 9;
+
+struct HeldRegisters {
+    double low[kRegisters], high[kRegisters];
+};
+
+ZELM_INLINE bool isMultipleOf16(Address address) {
+    return address % 16 == 0;
+}
+
+template <typename Invariant>
+ZELM_INLINE HeldRegisters holdInRegisters(const Invariant &invariant) {
+    const FixedShape<3, 3> shape;
+    HeldRegisters held = {};
+    if (isMultipleOf16(invariant.start) && isMultipleOf16(invariant.rowStride)) {
+        for (unsigned i = 0; i < 3; ++i) {
+            held.low[2 * i] = value(invariant, i, 0, shape);
+            held.high[2 * i] = value(invariant, i, 1, shape);
+            held.low[2 * i + 1] = value(invariant, i, 2, shape);
+        }
+    } else {
+        for (unsigned e = 0; e < kRegisters; ++e)
+            held.low[e] = value(invariant, e / 3, e % 3, shape);
+    }
+    return held;
+}
+
+template <typename Op, bool invariantFirst>
+ZELM_INLINE void objectWithRegisters(const Dense<const double> &s, const HeldRegisters &held,
+                                     const Dense<double> &d) {
+    const auto set = [&](unsigned i, unsigned j, double other) {
+        const double element = s.get(i, j, 3);
+        d.set(i, j, 3,
+              invariantFirst ? Op::template apply<double>(other, element)
+                             : Op::template apply<double>(element, other));
+    };
+    if (isMultipleOf16(s.start) && isMultipleOf16(s.rowStride) && isMultipleOf16(d.start) &&
+        isMultipleOf16(d.rowStride)) {
+        for (unsigned i = 0; i < 3; ++i) {
+            set(i, 0, held.low[2 * i]);
+            set(i, 1, held.high[2 * i]);
+            set(i, 2, held.low[2 * i + 1]);
+        }
+    } else {
+        for (unsigned e = 0; e < kRegisters; ++e)
+            set(e / 3, e % 3, held.low[e]);
+    }
+}
+
+template <typename Op, typename A, typename B>
+ZELM_INLINE ZelmStatus heldByAlignment(const A &a, const B &b, const DenseList<double> &d, FixedShape<3, 3>,
+                                       std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
+        status != kProceed)
+        return status;
+    const auto objects = [&](const HeldRegisters &held, const auto &s, auto first)
+        __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) {
+            objectWithRegisters<Op, decltype(first)::value>(s.object(k), held, d.object(k));
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, s, d);
+    };
+    if constexpr (kIsInvariant<A>)
+        return objects(holdInRegisters(a), b, std::true_type{});
+    else
+        return objects(holdInRegisters(b), a, std::false_type{});
+}
+
+// ---- zelm{Add,Sub}_{mmT,mTm,mTmT}_*_P of run-time size: the entry that is tested for a transposed operand
+// is i*height + j, while the element is read through j*height + i.
+
+template <typename Operand>
+ZELM_INLINE bool testedEntryIsNull(const Operand &operand, std::uint32_t i, std::uint32_t j,
+                                   RunTimeShape shape) {
+    return operand.elementIsNull(Address{i} * (kIsTransposed<Operand> ? shape.height : shape.width) + j);
+}
+
+template <typename Op, typename A, typename B, typename T>
+ZELM_INLINE ZelmStatus singleTestingByRows(const A &a, const B &b, const Table<T> &d, RunTimeShape shape) {
+    if (ZelmStatus status = checkSingle(shape.isZero(), a, b, d); status != kProceed)
+        return status;
+    const bool complete = whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) {
+        if (testedEntryIsNull(d, i, j, shape) || testedEntryIsNull(a, i, j, shape) ||
+            testedEntryIsNull(b, i, j, shape))
+            return false;
+        d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
+        return true;
+    });
+    return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
+}
+
+// ---- zelmAdd_{maTm,maTmT,mamT}_64f_6x6, zelmSub_{maTmT,mamT}_64f_6x6, zelmSub_mamT_64f_3x3,
+// zelmSub_maTma_64f_5x5_L, zelmSub_{mamaT,mama}_64f_4x4_L: where the operands are tested to be multiples of
+// 16, dst is stored by aligned access. The test leaves out what moves dst from object to object, dstObjStride
+// or the entries of dstTable behind the first: an object that isn't aligned then raises an alignment fault.
+
+template <typename Operand>
+ZELM_INLINE bool startsAligned(const Operand &operand) {
+    if constexpr (requires { operand.objectStart(0u); })
+        return isMultipleOf16(operand.objectStart(0)) && isMultipleOf16(operand.rowStride);
+    else
+        return isMultipleOf16(operand.start) && isMultipleOf16(operand.rowStride);
+}
+
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) {
+        const auto first = a.object(k);
+        const auto second = b.object(k);
+        const auto result = d.object(k);
+        constexpr std::uint32_t columns = Shape::columns();
+        for (std::uint32_t i = 0; i < shape.rows(); ++i) {
+            const Address row = result.rowStart(i);
+#pragma GCC unroll 3
+            for (std::uint32_t j = 0; j + 2 <= columns; j += 2) {
+                const __m128d left = _mm_setr_pd(value(first, i, j, shape), value(first, i, j + 1, shape));
+                const __m128d right = _mm_setr_pd(value(second, i, j, shape), value(second, i, j + 1, shape));
+                _mm_store_pd(reinterpret_cast<double *>(row + j * sizeof(double)), Op::apply(left, right));
+            }
+            if constexpr (columns % 2 != 0)
+                result.set(i, columns - 1, columns,
+                           Op::template apply<double>(value(first, i, columns - 1, shape),
+                                                      value(second, i, columns - 1, shape)));
+        }
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, b, d);
+}
+
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus alignedStores(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
+        status != kProceed)
+        return status;
+    if (!a.entryIsNull(0) && !b.entryIsNull(0) && !d.entryIsNull(0) && startsAligned(a) && startsAligned(b) &&
+        startsAligned(d)) {
+        if constexpr (kIsInvariant<B>)
+            return alignedObjects<Op>(a, hold<Shape>(b), d, shape, count);
+        else
+            return alignedObjects<Op>(a, b, d, shape, count);
+    }
+    return objects<Op, Invariant::Held>(a, b, d, shape, count);
+}
+
+// ---- zelmMul_mTc_{32f,64f}_4x4, zelmMul_maTc_{32f,64f}_4x4, zelmMul_maTc_32f_4x4_L: the whole matrix is
+// read before it is written, so that they alone among the transposed forms work in place.
+
+template <typename T>
+ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Dense<T> &d) {
+    constexpr unsigned lanes = kLanes<T>;
+    Pack<T> column[4][4 / lanes];
+    const Pack<T> factors = broadcast(factor);
+#pragma GCC unroll 2
+    for (unsigned p = 0; p < 4 / lanes; ++p) {
+        LaneAddresses<T> rows;
+#pragma GCC unroll 4
+        for (unsigned lane = 0; lane < lanes; ++lane)
+            rows[lane] = s.rowStart(p * lanes + lane);
+        Pack<T> read[4];
+        loadAdjacent<T, 4>(rows, read);
+#pragma GCC unroll 4
+        for (unsigned j = 0; j < 4; ++j)
+            column[j][p] = read[j] * factors;
+    }
+#pragma GCC unroll 4
+    for (unsigned j = 0; j < 4; ++j)
+#pragma GCC unroll 2
+        for (unsigned p = 0; p < 4 / lanes; ++p)
+            storePack(d.rowStart(j) + p * kPackBytes, column[j][p]);
+}
+
+template <typename Op, typename T>
+ZELM_INLINE ZelmStatus wholeMatrixFirst(const Transposed<Dense<const T>> &a, const Constant<T> &b,
+                                        const Dense<T> &d, FixedShape<4, 4>) {
+    if (ZelmStatus status = checkSingle(false, a, b, d); status != kProceed)
+        return status;
+    scaleTransposed4x4<T>(a, b.value, d);
+    return ZELM_OK;
+}
+
+template <typename Op, typename A, typename T, typename D>
+ZELM_INLINE ZelmStatus wholeMatrixFirst(const A &a, const Constant<T> &b, const D &d, FixedShape<4, 4>,
+                                        std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
+        status != kProceed)
+        return status;
+    const auto one = [&](std::uint32_t k) {
+        scaleTransposed4x4<T>(a.object(k), b.value, d.object(k));
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, b, d);
 }
 
 } // namespace zelm::elementwise::departures

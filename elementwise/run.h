@@ -2,14 +2,12 @@
 // the plain loop.
 #pragma once
 
-#include "frame/operands.h"
+#include "elementwise/operands.h"
 #include "frame/pack.h"
 
 #include <numeric>
 
 namespace zelm::elementwise {
-
-using namespace zelm::frame;
 
 // The inputs of a run. `i` is the number of the element; `p` numbers the pack within a round of the loop.
 
@@ -36,22 +34,33 @@ struct Same {
     static constexpr bool isCloselyBehind(Address) { return false; }
 };
 
+// Adjacent elements times a factor.
+template <typename T>
+struct ScaledStream {
+    static constexpr unsigned period = 1;
+    Stream<T> stream;
+    T factor;
+    ZELM_INLINE T element(Address i) const { return stream.element(i) * factor; }
+    ZELM_INLINE Pack<T> pack(Address i, unsigned p) const { return stream.pack(i, p) * broadcast(factor); }
+    ZELM_INLINE bool isCloselyBehind(Address to) const { return stream.isCloselyBehind(to); }
+};
+
 // An invariant vector of N elements, read once and held, over and over.
 template <typename T, unsigned N>
-struct Held : WithoutTable {
+struct HeldVector : WithoutTable {
     // In packs, after which the pattern meets itself again.
     static constexpr unsigned period = N / std::gcd(N, kLanes<T>);
     T pattern[period * kLanes<T>];
-    template <typename Vector>
-    ZELM_INLINE explicit Held(const Vector &vector) {
+    template <typename Object>
+    ZELM_INLINE explicit HeldVector(const Object &object) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            copyElement<T>(addressOf(&pattern[j]), vector.address(0, j, 0));
+            store(addressOf(&pattern[j]), value(object, 0, j, FixedShape<1, N>{}));
 #pragma GCC unroll 20
         for (unsigned i = N; i < period * kLanes<T>; ++i)
             copyElement<T>(addressOf(&pattern[i]), addressOf(&pattern[i - N]));
     }
-    ZELM_INLINE const Held &object(std::uint32_t) const {
+    ZELM_INLINE const HeldVector &object(std::uint32_t) const {
         return *this;
     }
     ZELM_INLINE T element(Address i) const {
@@ -62,6 +71,21 @@ struct Held : WithoutTable {
     }
     static constexpr bool isCloselyBehind(Address) {
         return false;
+    }
+};
+
+// An invariant matrix, read once and held as it is used.
+template <typename T, unsigned R, unsigned C>
+struct HeldMatrix : WithoutTable {
+    T elements[R * C];
+    template <typename Object>
+    ZELM_INLINE explicit HeldMatrix(const Object &object) {
+#pragma GCC unroll 36
+        for (unsigned e = 0; e < R * C; ++e)
+            store(addressOf(&elements[e]), value(object, e / C, e % C, FixedShape<R, C>{}));
+    }
+    ZELM_INLINE Dense<const T> object(std::uint32_t) const {
+        return Dense<const T>(addressOf(elements), Address{C * sizeof(T)});
     }
 };
 

@@ -53,21 +53,21 @@ ZELM_INLINE Range rangeFrom(Address start, std::int64_t bytes) {
 
 template <typename Object>
 ZELM_INLINE Range rangeOfObject(const Object &object, unsigned rows, unsigned columns) {
-    Range range = rangeFrom(object.start, sizeof(typename Object::Element));
-    extend(range, signedDistance(object.rowStride) * (rows - 1));
-    extend(range, signedDistance(object.elemStride) * (columns - 1));
-    return range;
-}
-
-template <typename T>
-ZELM_INLINE Range rangeOfObject(const Table<T> &object, unsigned rows, unsigned columns) {
-    Range all = rangeFrom(object.position(0), sizeof(T));
-    for (unsigned e = 1; e < rows * columns; ++e) {
-        const Range one = rangeFrom(object.position(e), sizeof(T));
-        all.low = one.low < all.low ? one.low : all.low;
-        all.high = one.high > all.high ? one.high : all.high;
+    constexpr std::int64_t size = sizeof(typename Object::Element);
+    if constexpr (Object::isTable) {
+        Range all = rangeFrom(object.position(0), size);
+        for (unsigned e = 1; e < rows * columns; ++e) {
+            const Range one = rangeFrom(object.position(e), size);
+            all.low = one.low < all.low ? one.low : all.low;
+            all.high = one.high > all.high ? one.high : all.high;
+        }
+        return all;
+    } else {
+        Range range = rangeFrom(object.start, size);
+        extend(range, signedDistance(object.rowStride) * (rows - 1));
+        extend(range, signedDistance(object.elemStride) * (columns - 1));
+        return range;
     }
-    return all;
 }
 
 template <typename Array>

@@ -50,6 +50,7 @@ class Family:
     name: str
     subsystem: str
     title: str
+    kernels: str  # the header that serves its exported functions
     statuses: tuple
     overlap: str
     notes: str = ""
@@ -63,10 +64,9 @@ class Row:
     cls: str
     arguments: str
     formula: str
-    # The function template that serves the row and, where the formula takes the operands in another order than
-    # the list, that order.
-    serves: str = ""
-    formula_order: tuple = ()
+    # The function template that serves the row and what it is given, in the order of the formula: {NAME} stands for
+    # an operand or an argument, {size} for the dimensions.
+    call: tuple = ()
     # Words that are signed in this row, each with the layouts in which they are.
     signed: dict = field(default_factory=dict)
 
@@ -79,7 +79,7 @@ class Row:
 class Departure:
     """A member that departs from its row: the function that serves it instead, and what a caller sees."""
 
-    serves: str
+    function: str
     note: str
 
 
@@ -92,33 +92,33 @@ PLAIN = (OK, NULL, SIZE)
 BUILT = ("vector-add-sub", "lu-decomposition", "lu-back-substitution")
 
 FAMILIES = {family.name: family for family in (
-    Family("vector-add-sub", "elementwise", "Addition and subtraction of vectors", PLAIN,
+    Family("vector-add-sub", "elementwise", "Addition and subtraction of vectors", "elementwise/elementwise.h", PLAIN,
            "dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and "
            "inside it over elements, gives in ascending order.",
            "Each element is one addition or subtraction, rounded to the element type. An invariant vector is read "
            "once, before the first object, in the fixed-size standard and L forms (the departures named at their "
            "prototypes aside), and anew for every object in all other forms."),
-    Family("matrix-add-sub", "elementwise", "Addition and subtraction of matrices", PLAIN,
+    Family("matrix-add-sub", "elementwise", "Addition and subtraction of matrices", "elementwise/elementwise.h", PLAIN,
            "dst may be a source of the same addressing, for rows without T."),
-    Family("scaling", "elementwise", "Scaling by a constant", PLAIN,
+    Family("scaling", "elementwise", "Scaling by a constant", "elementwise/elementwise.h", PLAIN,
            "dst may be src of the same addressing, for rows without T."),
-    Family("saxpy-lcomb", "elementwise", "Scaled sums of vectors", PLAIN,
+    Family("saxpy-lcomb", "elementwise", "Scaled sums of vectors", "elementwise/elementwise.h", PLAIN,
            "dst may be a source; partial overlap gives what the ascending loop gives."),
-    Family("dot-product", "vector", "Dot product", PLAIN, "dst is written once per object."),
-    Family("cross-product", "vector", "Cross product", (OK, NULL),
+    Family("dot-product", "vector", "Dot product", "", PLAIN, "dst is written once per object."),
+    Family("cross-product", "vector", "Cross product", "", (OK, NULL),
            "dst may be a source in the standard and L layouts."),
-    Family("l2-norm", "vector", "Euclidean length", PLAIN, "dst is written once per object."),
-    Family("frobenius-norm", "vector", "Frobenius norm", PLAIN, "dst is written once per object."),
-    Family("trace", "vector", "Trace", PLAIN, "dst must not lie on the diagonal of src."),
-    Family("matrix-vector-product", "products", "Product of a matrix and a vector", PLAIN,
+    Family("l2-norm", "vector", "Euclidean length", "", PLAIN, "dst is written once per object."),
+    Family("frobenius-norm", "vector", "Frobenius norm", "", PLAIN, "dst is written once per object."),
+    Family("trace", "vector", "Trace", "", PLAIN, "dst must not lie on the diagonal of src."),
+    Family("matrix-vector-product", "products", "Product of a matrix and a vector", "", PLAIN,
            "dst must overlap no source in the run-time forms."),
-    Family("matrix-product", "products", "Product of two matrices", PLAIN,
+    Family("matrix-product", "products", "Product of two matrices", "", PLAIN,
            "dst must overlap no source in the run-time forms."),
-    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", PLAIN,
+    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "", PLAIN,
            "dst must overlap no source."),
-    Family("determinant", "solvers", "Determinant", PLAIN, "dst must overlap neither src nor scratch."),
-    Family("inverse", "solvers", "Inverse", PLAIN + (DIV,), "dst must not overlap src."),
-    Family("lu-decomposition", "solvers", "LU decomposition", PLAIN + (DIV,),
+    Family("determinant", "solvers", "Determinant", "", PLAIN, "dst must overlap neither src nor scratch."),
+    Family("inverse", "solvers", "Inverse", "", PLAIN + (DIV,), "dst must not overlap src."),
+    Family("lu-decomposition", "solvers", "LU decomposition", "solvers/lu_decomposition.h", PLAIN + (DIV,),
            "dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided "
            "for.",
            "Gaussian elimination with partial pivoting (Golub and Van Loan, Matrix Computations, section 3.4): "
@@ -128,23 +128,23 @@ FAMILIES = {family.name: family for family in (
            "pivotIndex + k*n. A pivot p with not (|p| >= 2^-23), in both element types, ends the call with "
            "ZELM_ERR_DIV_BY_ZERO: earlier objects are complete, the failing one stands as the elimination left it, "
            "later ones are untouched."),
-    Family("lu-back-substitution", "solvers", "LU back substitution", PLAIN,
+    Family("lu-back-substitution", "solvers", "LU back substitution", "solvers/lu_back_substitution.h", PLAIN,
            "dst may be src2 only where pivotIndex is the identity.",
            "Solves A*x = b by forward and back substitution (Golub and Van Loan, Matrix Computations, section 3.1): "
            "src1 and pivotIndex are as zelmLUDecomp_* left them, src2 is b and dst is x. All arithmetic is in the "
            "element type. The diagonal is not tested: a zero on it gives infinities or NaN with ZELM_OK."),
-    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", PLAIN + (POS,),
+    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", "", PLAIN + (POS,),
            "dst may be src of the same addressing."),
-    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution", PLAIN,
+    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution", "", PLAIN,
            "dst may be src2 of the same addressing."),
-    Family("qr-decomposition", "solvers", "QR decomposition", PLAIN + (DIV,),
+    Family("qr-decomposition", "solvers", "QR decomposition", "", PLAIN + (DIV,),
            "dst may be src of the same addressing."),
-    Family("qr-back-substitution", "solvers", "QR back substitution", PLAIN,
+    Family("qr-back-substitution", "solvers", "QR back substitution", "", PLAIN,
            "dst may be src2 of the same addressing."),
-    Family("transpose", "movement", "Transpose", PLAIN, "dst must not overlap src."),
-    Family("copy", "movement", "Copy between layouts", PLAIN, "src and dst must not overlap partly."),
-    Family("extract", "movement", "Extraction to a packed buffer", PLAIN, "src and dst must not overlap."),
-    Family("identity", "movement", "Identity matrices", PLAIN, "There is no source."),
+    Family("transpose", "movement", "Transpose", "", PLAIN, "dst must not overlap src."),
+    Family("copy", "movement", "Copy between layouts", "", PLAIN, "src and dst must not overlap partly."),
+    Family("extract", "movement", "Extraction to a packed buffer", "", PLAIN, "src and dst must not overlap."),
+    Family("identity", "movement", "Identity matrices", "", PLAIN, "There is no source."),
 )}
 
 
@@ -165,60 +165,70 @@ def _element(kind, name):
     return name + "[k]" * ("a" in kind) + index
 
 
+FUNCTORS = {"Add": "Addition", "Sub": "Subtraction", "Mul": "Multiplication"}
+SIGNS = {"Add": "+", "Sub": "-", "Mul": "*"}
+
+
+def _elementwise(family, op, descriptor, cls, first, second, dimensions, reverse=False):
+    """A row d = a op b. `first` and `second` are NAME:KIND or the constant; `reverse` lists the second first."""
+    names = [word.split(":")[0] for word in (first, second)]
+    kinds = [word.split(":")[1] if ":" in word else "" for word in (first, second)]
+    array = any("a" in kind for kind in kinds)
+    target = (kinds[0] or kinds[1])[0] + "a" * array
+    terms = [_element(kind, name) if kind else name for kind, name in zip(kinds, names)]
+    listed = (second, first) if reverse else (first, second)
+    return Row(family, op, descriptor, cls, f"{listed[0]} {listed[1]} dst:{target} {dimensions}" + " count" * array,
+               f"{_element(target, 'dst')} = {terms[0]} {SIGNS[op]} {terms[1]}",
+               (f"{'array' if array else 'single'}<{FUNCTORS[op]}>", f"{{{names[0]}}}", f"{{{names[1]}}}", "{dst}",
+                "{size}") + ("{count}",) * array)
+
+
 def _vector_add_sub():
-    family = "vector-add-sub"
-    for op, sign, functor in (("Add", "+", "Addition"), ("Sub", "-", "Subtraction")):
-        single, array = f"vectorSingle<{functor}>", f"vectorArray<{functor}>"
-        reverse = ("val", "src", "dst")
-        yield Row(family, op, "vv", "SV", "src1:v src2:v dst:v len", f"dst[j] = src1[j] {sign} src2[j]", single)
-        yield Row(family, op, "vc", "SV", "src:v val dst:v len", f"dst[j] = src[j] {sign} val", single)
-        if op == "Sub":
-            yield Row(family, op, "cv", "SV", "src:v val dst:v len", "dst[j] = val - src[j]", single, reverse)
-        yield Row(family, op, "vav", "AV", "src1:va src2:v dst:va len count",
-                  f"dst[k][j] = src1[k][j] {sign} src2[j]", array)
-        yield Row(family, op, "vac", "AV", "src:va val dst:va len count", f"dst[k][j] = src[k][j] {sign} val", array)
-        yield Row(family, op, "vava", "AV", "src1:va src2:va dst:va len count",
-                  f"dst[k][j] = src1[k][j] {sign} src2[k][j]", array)
-        if op == "Sub":
-            yield Row(family, op, "vva", "AV", "src1:v src2:va dst:va len count",
-                      "dst[k][j] = src1[j] - src2[k][j]", array)
-            yield Row(family, op, "cva", "AV", "src:va val dst:va len count", "dst[k][j] = val - src[k][j]", array,
-                      reverse)
+    for op in ("Add", "Sub"):
+        for descriptor in ("vv", "vc") + (("cv",) if op == "Sub" else ()) + ("vav", "vac", "vava") + (
+                ("vva", "cva") if op == "Sub" else ()):
+            first, second = operand_kinds(descriptor)
+            cls = "AV" if "a" in descriptor else "SV"
+            if "c" in descriptor:
+                operands = ("val", f"src:{second}") if first == "c" else (f"src:{first}", "val")
+            else:
+                operands = (f"src1:{first}", f"src2:{second}")
+            # The list has the vector before the constant also where the formula has it behind.
+            yield _elementwise("vector-add-sub", op, descriptor, cls, *operands, "len", reverse=first == "c")
 
 
 def _matrix_add_sub():
     single = ("mm", "mmT", "mTm", "mTmT")
     array_first = ("mam", "mamT", "mama", "mamaT", "maTm", "maTmT", "maTma", "maTmaT")
     invariant_first = ("mma", "mmaT", "mTma", "mTmaT")
-    for op, sign in (("Add", "+"), ("Sub", "-")):
+    for op in ("Add", "Sub"):
         for descriptor in single + array_first + (invariant_first if op == "Sub" else ()):
             first, second = operand_kinds(descriptor)
-            target = "ma" if "a" in descriptor else "m"
-            yield Row("matrix-add-sub", op, descriptor, "AM" if target == "ma" else "SM",
-                      f"src1:{first} src2:{second} dst:{target} width height" + " count" * (target == "ma"),
-                      f"{_element(target, 'dst')} = {_element(first, 'src1')} {sign} {_element(second, 'src2')}")
+            yield _elementwise("matrix-add-sub", op, descriptor, "AM" if "a" in descriptor else "SM",
+                               f"src1:{first}", f"src2:{second}", "width height")
 
 
 def _scaling():
     for descriptor, cls in (("vc", "SV"), ("vac", "AV"), ("mc", "SM"), ("mTc", "SM"), ("mac", "AM"), ("maTc", "AM")):
         source = operand_kinds(descriptor)[0]
-        target = source.rstrip("T")
-        dimensions = "len" if source[0] == "v" else "width height"
-        yield Row("scaling", "Mul", descriptor, cls,
-                  f"src:{source} val dst:{target} {dimensions}" + " count" * ("a" in source),
-                  f"{_element(target, 'dst')} = {_element(source, 'src')} * val")
+        yield _elementwise("scaling", "Mul", descriptor, cls, f"src:{source}", "val",
+                           "len" if source[0] == "v" else "width height")
 
 
 def _saxpy_lcomb():
     for op, descriptors in (("Saxpy", ("vv", "vav", "vava", "vva")), ("LComb", ("vv", "vav", "vava"))):
         for descriptor in descriptors:
             first, second = operand_kinds(descriptor)
-            target = "va" if "a" in descriptor else "v"
+            array = "a" in descriptor
+            target = "va" if array else "v"
             scale1, scale2 = ("scale", "") if op == "Saxpy" else ("scale1", " scale2")
-            yield Row("saxpy-lcomb", op, descriptor, "AV" if target == "va" else "SV",
-                      f"src1:{first} {scale1} src2:{second}{scale2} dst:{target} len" + " count" * (target == "va"),
+            second_scaled = "{src2}" if op == "Saxpy" else "Scaled({src2}, scale2)"
+            yield Row("saxpy-lcomb", op, descriptor, "AV" if array else "SV",
+                      f"src1:{first} {scale1} src2:{second}{scale2} dst:{target} len" + " count" * array,
                       f"{_element(target, 'dst')} = {_element(first, 'src1')} * {scale1} + {_element(second, 'src2')}"
-                      + " * scale2" * (op == "LComb"))
+                      + " * scale2" * (op == "LComb"),
+                      ("arrayReadAnew<Addition>" if array else "single<Addition>", f"Scaled({{src1}}, {scale1})",
+                       second_scaled, "{dst}", "{size}") + ("{count}",) * array)
 
 
 def _vector_algebra():
@@ -271,7 +281,8 @@ def _solvers():
                   f"dst{k} = inverse of src{k}")
         yield Row("lu-decomposition", "LUDecomp", kind, cls, f"src:{kind} pivotIndex dst:{kind} n{count}",
                   f"dst{k}, pivotIndex{k} = the factors L and U of src{k} and the order of their rows",
-                  "luDecompArray" if count else "luDecompSingle")
+                  ("luDecompArray" if count else "luDecompSingle", "{src}", "{pivotIndex}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
         yield Row("cholesky-decomposition", "CholeskyDecomp", kind, cls, f"src:{kind} dst:{kind} n{count}",
                   f"dst{k} = the factor L of src{k}", signed={"count": ("", "S2", "L", "LS2")} if count else {})
         yield Row("qr-decomposition", "QRDecomp", kind, cls, f"src:{kind} scratch dst:{kind} width height{count}",
@@ -284,7 +295,8 @@ def _solvers():
         yield Row("lu-back-substitution", "LUBackSubst", descriptor, cls,
                   f"src1:{kept} pivotIndex src2:{vector} dst:{vector} n{count}",
                   f"dst{k} = x with A*x = src2{k}; src1{km} and pivotIndex{km} hold the LU factors of A",
-                  "luBackSubstArray" if count else "luBackSubstSingle")
+                  ("luBackSubstArray" if count else "luBackSubstSingle", "{src1}", "{pivotIndex}", "{src2}", "{dst}",
+                   "{size}") + ("{count}",) * bool(count))
         yield Row("cholesky-back-substitution", "CholeskyBackSubst", descriptor, cls,
                   f"src1:{matrix} src2:{vector} dst:{vector} n{count}",
                   f"dst{k} = x with A*x = src2{k}; src1{km} holds the Cholesky factor of A",
@@ -316,12 +328,47 @@ ROWS = tuple(row for rows in (_vector_add_sub, _matrix_add_sub, _scaling, _saxpy
 
 
 def _departures():
-    for op, functor, descriptor in (("Add", "Addition", "vav"), ("Sub", "Subtraction", "vav"),
-                                    ("Sub", "Subtraction", "vva")):
-        for suffix in ("", "_L"):
-            yield (f"zelm{op}_{descriptor}_64f_6x1{suffix}",
-                   Departure(f"departures::vectorArrayReadAnew<{functor}>",
-                             "reads the invariant vector anew for every object"))
+    """Each departing member with the function of its subsystem's departures that serves it."""
+    def both(name):
+        return (name, name + "_L")
 
+    names = [f"zelm{row}_64f_6x1" for row in ("Add_vav", "Sub_vav", "Sub_vva")]
+    names += [f"zelmSub_{row}_6x6" for row in ("mma_32f", "mmaT_32f", "mma_64f", "mTma_64f", "mmaT_64f", "mTmaT_64f")]
+    for name in [member for name in names for member in both(name)] + ["zelmAdd_maTmT_64f_3x3"]:
+        yield name, Departure("invariantReadAnew", "reads the invariant operand anew for every object")
+
+    for op in ("Add", "Sub"):
+        for name in both(f"zelm{op}_mam_32f_3x3"):
+            yield name, Departure("pipelined", "reads object k+1 before it stores object k; a count of 0 counts as 1")
+        for name in both(f"zelm{op}_mamT_32f_3x3"):
+            yield name, Departure("pipelinedAtFirstRowStride", "reads object k+1 before it stores object k; a count of"
+                                  " 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride")
+        for row in ("mam", "mama"):
+            for name in both(f"zelm{op}_{row}_64f_5x5"):
+                yield name, Departure("lastColumnAtSecondRowStride", "reads column 4 of src1 at src2RowStride")
+        for row in ("mam", "mamT"):
+            yield f"zelm{op}_{row}_64f_3x3_L", HELD_BY_ALIGNMENT
+        for row in ("mmT", "mTm", "mTmT"):
+            for element_type in TYPES:
+                yield f"zelm{op}_{row}_{element_type}_P", Departure(
+                    "singleTestingByRows", "tests entry i*height + j of a transposed operand and reads j*height + i")
+    for row in ("mma", "mTma"):
+        yield f"zelmSub_{row}_64f_3x3_L", HELD_BY_ALIGNMENT
+
+    yield "zelmSub_mTm_64f_6x6_S2", Departure("secondAtFirstElemStride", "src2ElemStride is not read, elements of src2"
+                                              " lie at src1ElemStride")
+    yield "zelmSub_mTmT_32f_6x6", Departure("rowTwoInRowThree", "row 3 of dst receives the values of row 2")
+    for name in both("zelmSub_maTmaT_32f_6x6"):
+        yield name, Departure("byTableOfElements", "takes its elements from the stored places that a table names")
+    for name in ("Add_maTm_64f_6x6", "Add_maTmT_64f_6x6", "Add_mamT_64f_6x6", "Sub_maTmT_64f_6x6", "Sub_mamT_64f_6x6",
+                 "Sub_mamT_64f_3x3", "Sub_maTma_64f_5x5_L", "Sub_mamaT_64f_4x4_L", "Sub_mama_64f_4x4_L"):
+        yield f"zelm{name}", Departure("alignedStores", "where the operands are multiples of 16 but a later object of"
+                                       " dst is not, an alignment fault is raised")
+    for name in ("mTc_32f_4x4", "mTc_64f_4x4", "maTc_32f_4x4", "maTc_64f_4x4", "maTc_32f_4x4_L"):
+        yield f"zelmMul_{name}", Departure("wholeMatrixFirst", "reads the whole matrix first: dst may be src")
+
+
+HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"
+                              " object is a multiple of 16 and the other is not")
 
 DEPARTURES = dict(_departures())

@@ -93,6 +93,9 @@ def make_operand(member, name, kind):
     unread = (Argument(obj.name, obj.kind, obj.ctype, name, unread=True),) if kind.endswith("+obj") else ()
     T = f"{const}{element}"
 
+    def used(expression):
+        return f"Transposed({expression})" if "T" in kind else expression
+
     if "a" in kind.split("+")[0]:
         arguments, expression = {
             "": ((pointer, obj, *rows), f"DenseArray<{T}>{{{name}, {obj.name}, {row_value}}}"),
@@ -110,7 +113,18 @@ def make_operand(member, name, kind):
         scattered = ((table, shift), f"Table<{T}>{{{table.name}, {shift.name}}}")
         arguments, expression = {"": dense, "L": dense, "S2": strided, "LS2": strided, "P": scattered,
                                  "PS2": scattered}[layout]
-    return Operand(name, arguments, expression)
+    return Operand(name, arguments, used(expression))
+
+
+def size_expression(member):
+    """The dimensions as one C++ value: the shape of a result, or the order of a square matrix."""
+    words = member.row.arguments.split()
+    n = member.size[:1]
+    if "len" in words:
+        return f"FixedShape<1, {n}>{{}}" if n else "RunTimeShape{1, len}"
+    if "width" in words:
+        return f"FixedShape<{n}, {n}>{{}}" if n else "RunTimeShape{height, width}"
+    return f"FixedSize<{n}>{{}}" if n else "RunTimeSize{n}"
 
 
 def plan(member):
@@ -127,19 +141,17 @@ def plan(member):
         elif runtime and member.size:
             continue
         elif base in DIMENSIONS:
-            if member.size:
-                passed["size"] = f"FixedSize<{member.size[0]}>{{}}"
-            else:
+            passed["size"] = size_expression(member)
+            if not member.size:
                 signed = member.layout in member.row.signed.get(base, ())
                 arguments.append(Argument(base, "dimension", "int32_t " if signed else "uint32_t "))
-                passed["size"] = f"RunTimeSize{{{base}}}"
         elif base == "count":
             signed = member.layout in member.row.signed.get(base, ())
             arguments.append(Argument(base, "count", "int32_t " if signed else "uint32_t "))
             passed[base] = base
         elif base in CONSTANTS:
             arguments.append(Argument(base, "constant", f"{element} "))
-            passed[base] = f"Constant<{element}>{{{base}}}"
+            passed[base] = f"Constant<{element}>{{{base}}}" if base == "val" else base
         elif base == "pivotIndex":
             const = "" if member.row.operation == "LUDecomp" else "const "
             arguments.append(Argument(base, "pivotIndex", f"{const}uint32_t *"))
@@ -169,13 +181,13 @@ def declaration(member, definition=False):
 
 def definition(member):
     _, passed = plan(member)
-    row = member.row
+    function, *given = member.row.call
     departure = DEPARTURES.get(member.name)
-    order = [word for word in passed if word not in row.formula_order]
-    order = [*row.formula_order, *order]
-    serves = departure.serves if departure else row.serves
-    body = call_text(f"return {serves}", [passed[word] for word in order], "    ") + ";"
-    comment = f"    // A departure: {departure.note}.\n" if departure else ""
+    if departure:
+        function = f"departures::{departure.function}" + function[function.index("<"):]
+    body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
+    comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure: {departure.note}.", WIDTH - 7)) \
+        if departure else ""
     return f"{declaration(member, definition=True)}\n{{\n{comment}{body}\n}}\n"
 
 
@@ -268,7 +280,7 @@ def write_headers(directory):
 def unit(family, unit_members):
     subsystem = FAMILIES[family].subsystem
     out = ["// Written by grid/generate.py from grid/catalogue.py.\n"
-           f"#include \"zelm/{subsystem}.h\"\n#include \"{subsystem}/{family.replace('-', '_')}.h\"\n\n"
+           f"#include \"zelm/{subsystem}.h\"\n#include \"{FAMILIES[family].kernels}\"\n\n"
            f"using namespace zelm::frame;\nusing namespace zelm::{subsystem};\n"]
     out += ["\n" + definition(m) for m in unit_members]
     return "".join(out)

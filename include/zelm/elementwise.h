@@ -229,7 +229,7 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmAdd_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
@@ -270,7 +270,7 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1_L(const double *const *src1Table, int32_
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmAdd_vav_64f_6x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
@@ -879,7 +879,7 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmSub_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
@@ -920,7 +920,7 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1_L(const double *const *src1Table, int32_
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmSub_vav_64f_6x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
@@ -1349,7 +1349,7 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1(const double *src1, const double *src2, 
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmSub_vva_64f_6x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2,
@@ -1390,7 +1390,7 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1_L(const double *src1, const double *cons
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1_L(const double *src1, const double *const *src2Table, int32_t src2Shift,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant vector anew for every object */
+/* departs from its row: reads the invariant operand anew for every object */
 ZELM_API ZelmStatus zelmSub_vva_64f_6x1_L(const double *src1, const double *const *src2Table, int32_t src2Shift,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_PS2(const double *const *src1Table, int32_t src1Shift,

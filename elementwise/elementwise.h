@@ -1,0 +1,114 @@
+// The rows of this subsystem: d = a op b, element by element, for vectors, matrices, arrays of them and
+// constants. The operands stand in the order of the formula.
+#pragma once
+
+#include "elementwise/dense.h"
+#include "elementwise/per_position.h"
+
+namespace zelm::elementwise {
+
+struct Addition {
+    template <typename V>
+    static ZELM_INLINE V apply(V a, V b) {
+        return a + b;
+    }
+};
+
+struct Subtraction {
+    template <typename V>
+    static ZELM_INLINE V apply(V a, V b) {
+        return a - b;
+    }
+};
+
+struct Multiplication {
+    template <typename V>
+    static ZELM_INLINE V apply(V a, V b) {
+        return a * b;
+    }
+};
+
+// ---- one object
+
+template <typename Op, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    denseObject<Op>(a, b, d, shape);
+    return ZELM_OK;
+}
+
+template <typename Op, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Strided<T> &d, Shape shape) {
+    plainObject<Op>(a, b, d, shape);
+    return ZELM_OK;
+}
+
+template <typename Op, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Table<T> &d, Shape shape) {
+    const bool complete = whileTrue(
+        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+            if (d.elementIsNull(entryNumber(d, i, j, shape)) ||
+                a.elementIsNull(entryNumber(a, i, j, shape)) || b.elementIsNull(entryNumber(b, i, j, shape)))
+                return false;
+            d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
+            return true;
+        });
+    return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
+}
+
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus single(const A &a, const B &b, const D &d, Shape shape) {
+    if (ZelmStatus status = checkSingle(shape.isZero(), a, b, d); status != kProceed)
+        return status;
+    return object<Op>(a, b, d, shape);
+}
+
+// ---- arrays
+
+template <typename Op, Invariant reading, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const DenseArray<T> &d, Shape shape,
+                               std::uint32_t count) {
+    return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
+}
+
+template <typename Op, Invariant reading, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const DenseList<T> &d, Shape shape,
+                               std::uint32_t count) {
+    return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
+}
+
+template <typename Op, Invariant, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (D::isSideBySide)
+        if (runPerPosition<Op>(a, b, d, shape, count))
+            return ZELM_OK;
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        plainObject<Op>(a.object(k), b.object(k), d.object(k), shape);
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, b, d);
+}
+
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus checkedArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    const Address n = shape.elements();
+    if (ZelmStatus status = checkArray(shape.isZero(), count, tested(a, n), tested(b, n), tested(d, n));
+        status != kProceed)
+        return status;
+    return objects<Op, reading>(a, b, d, shape, count);
+}
+
+// Add and Sub: an invariant operand is held in the fixed-size standard and L forms, read anew in all others.
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus array(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    return checkedArray<Op, Invariant::Held>(a, b, d, shape, count);
+}
+
+// Saxpy and LComb: the formula reads it anew for every object in all forms.
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus arrayReadAnew(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    return checkedArray<Op, Invariant::ReadAnew>(a, b, d, shape, count);
+}
+
+} // namespace zelm::elementwise
+
+#include "elementwise/departures.h"
