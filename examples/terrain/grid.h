@@ -15,7 +15,7 @@ struct Grid {
     double cellSize = 0; // in the header's unit: metres or degrees
     double noData = 0;   // how the file writes a cell without data
     // Row after row from the north, each from the west. A cell without data is NaN.
-    std::vector<double> elevation;
+    std::vector<double> elevation = {};
 
     double at(std::size_t row, std::size_t column) const { return elevation[row * columns + column]; }
     bool hasData(std::size_t row, std::size_t column) const { return !std::isnan(at(row, column)); }

@@ -75,7 +75,8 @@ const Case cases[] = {
     {"CornerNotANumber", "xllcorner nan\n", "1: expected a number behind xllcorner, found 'nan'"},
     {"NothingButNoData", header + "-9 -9 -9\n-9 -9.0 -9\n",
      "6: expected at least one cell with data, every value is NODATA_value"},
-    {"NothingButDefaultNoData", withSizes("3", "2").substr(0, 59) + "-9999 -9999 -9999\n-9999 -9999 -9999\n",
+    {"NothingButDefaultNoData",
+     "ncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n-9999 -9999 -9999\n-9999 -9999 -9999\n",
      "6: expected at least one cell with data, every value is NODATA_value"},
 };
 

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
@@ -116,25 +117,23 @@ Difference compare(const Grid &grid) {
     return difference;
 }
 
+// The neighbours of a cell lie up to 145 m above or below it. The bound is 64 units of rounding of such a
+// height: 2.1e-12 m in 64-bit floats and 1.1e-3 m in 32-bit ones.
 template <class T>
-void expectAgreement(Real bound) {
-    const Grid grid = terraintest::readGrid(TERRAIN_GRID);
-    const Difference difference = compare<T>(grid);
+void expectAgreement() {
+    const Difference difference = compare<T>(terraintest::readGrid(TERRAIN_GRID));
     EXPECT_EQ(difference.systems, 344u * 403u);
     EXPECT_EQ(difference.singular, 0u);
-    EXPECT_LE(difference.largest, bound);
+    EXPECT_LE(difference.largest, 64 * 145 * Real{std::numeric_limits<T>::epsilon()});
     std::printf("largest difference of a coefficient: %.3Lg m\n", difference.largest);
 }
 
-// The neighbourhoods' heights reach 200 m and the systems' condition is below 1e3 (it is worst in the grid's
-// corners, with 9 of 25 neighbours), so solutions may be wrong by 2e5 units of rounding: 2e-11 m and 1e-2 m.
-// What is found stays well below.
 TEST(Precision, RealGridIn64BitFloats) {
-    expectAgreement<double>(2e-11L);
+    expectAgreement<double>();
 }
 
 TEST(Precision, RealGridIn32BitFloats) {
-    expectAgreement<float>(1e-2L);
+    expectAgreement<float>();
 }
 
 TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
@@ -152,9 +151,9 @@ TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
         curvature = std::max(curvature,
                              std::fabs(double{wide.layers.curvature[cell]} - narrow.layers.curvature[cell]));
     }
-    // A coefficient's bound of 1e-2 m over a cell of 70 m would allow 1e-2 degrees and 4e-6 per m.
-    EXPECT_LE(slope, 1e-2);
-    EXPECT_LE(curvature, 4e-6);
+    // The coefficients' bound of 1.1e-3 m over cells of 74 m, and twice that over their square.
+    EXPECT_LE(slope, 1e-3);
+    EXPECT_LE(curvature, 4e-7);
     std::printf("largest differences: %.3g degrees of slope, %.3g per m of curvature\n", slope, curvature);
 }
 

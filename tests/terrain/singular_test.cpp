@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
@@ -77,6 +78,7 @@ TEST_P(SingularCells, AreThoseThatLackNeighbours) {
     const Grid slope = terraintest::readGrid(sandbox.path("slope.asc"));
     std::size_t solved = 0;
     std::size_t singular = 0;
+    double error = 0;
     for (std::size_t row = 0; row < plane.rows; ++row) {
         for (std::size_t column = 0; column < plane.columns; ++column) {
             if (!plane.hasData(row, column)) {
@@ -88,15 +90,15 @@ TEST_P(SingularCells, AreThoseThatLackNeighbours) {
             solved += isSolvable;
             singular += !isSolvable;
             if (isSolvable) {
-                // Few neighbours make a system worse, in 32-bit floats by up to 1e-2 degrees.
-                ASSERT_NEAR(slope.at(row, column), 26.565051177,
-                            std::string(GetParam()) == "64" ? 1e-5 : 2e-2)
-                    << "row " << row << ", column " << column;
+                error = std::max(error, std::fabs(slope.at(row, column) - 26.565051177));
             }
         }
     }
+    // A few neighbours make a worse system than all 25.
+    EXPECT_LE(error, std::string(GetParam()) == "64" ? 1e-5 : 5e-3);
+    std::printf("largest difference: %.3g degrees of slope\n", error);
     EXPECT_GT(solved, 1000u);
-    EXPECT_GT(singular, 300u);
+    EXPECT_GT(singular, 100u);
     EXPECT_NE(outcome.output.find(count("systems    ", solved, " of 6x6")), std::string::npos)
         << outcome.output;
     EXPECT_NE(outcome.output.find(count("singular   ", singular, " left out")), std::string::npos)
