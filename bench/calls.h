@@ -57,6 +57,9 @@ std::function<void()> callPerObject(const std::string &name, std::size_t count, 
 // Single-object functions are called for this many objects in turn: few enough to stay in the nearest cache.
 inline constexpr std::size_t singles = 128;
 
+// Beyond this many objects the memory decides, and calls one by one are not measured.
+inline constexpr std::size_t mostOneByOne = 1000;
+
 // The larger array size, or fewer objects where an operand would pass 200 MB.
 template <class T>
 constexpr std::size_t manyObjects(std::size_t elements) {

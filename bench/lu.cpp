@@ -19,11 +19,14 @@ template <class T>
 constexpr double tolerance = std::is_same_v<T, float> ? 2e-3 : 1e-10;
 
 template <class T, std::size_t n>
-using RowMajor = Eigen::Matrix<T, static_cast<int>(n), static_cast<int>(n), Eigen::RowMajor>;
-template <class T, std::size_t n>
 using Vector = Eigen::Matrix<T, static_cast<int>(n), 1>;
-template <class T, std::size_t n>
-using EigenLu = Eigen::PartialPivLU<RowMajor<T, n>>;
+template <class T, std::size_t n, int storage>
+using Matrix = Eigen::Matrix<T, static_cast<int>(n), static_cast<int>(n), storage>;
+// Eigen's decomposition, with its factors in rows or in columns; neither is the faster one for all sizes.
+template <class T, std::size_t n, int storage>
+using EigenLu = Eigen::PartialPivLU<Matrix<T, n, storage>>;
+constexpr int inRows = Eigen::RowMajor;
+constexpr int inColumns = Eigen::ColMajor;
 
 template <class T, Layout layout, std::size_t n>
 struct Systems {
@@ -35,7 +38,6 @@ struct Systems {
     Objects<T, layout, n, n> matrices, factors;
     Buffer<std::uint32_t> pivotIndex;
     Objects<T, layout, 1, n> right, unknowns;
-    std::vector<EigenLu<T, n>> eigenFactors;
 
     std::uint32_t *pivotOf(std::size_t k) { return pivotIndex.data() + k * n; }
     const std::uint32_t *constPivotOf(std::size_t k) { return pivotOf(k); }
@@ -52,23 +54,32 @@ struct Systems {
         }
         return values;
     }
-    std::vector<double> permutedEigenFactors() {
+};
+
+template <class T, std::size_t n>
+Eigen::Map<const Matrix<T, n, inRows>> eigenMatrix(const T *elements) {
+    return Eigen::Map<const Matrix<T, n, inRows>>(elements);
+}
+
+// Eigen's decompositions of the same matrices.
+template <class T, std::size_t n, int storage>
+struct EigenSystems {
+    explicit EigenSystems(Systems<T, Layout::Standard, n> &systems) {
+        for (std::size_t k = 0; k < systems.matrices.count(); ++k) {
+            decompositions.emplace_back(eigenMatrix<T, n>(systems.matrices.data() + k * n * n));
+        }
+    }
+    std::vector<EigenLu<T, n, storage>> decompositions;
+
+    std::vector<double> factors() const {
         std::vector<double> values;
-        for (std::size_t k = 0; k < std::min<std::size_t>(factors.count(), 1000); ++k) {
-            for (Eigen::Index i = 0; i < static_cast<Eigen::Index>(n); ++i) {
-                for (Eigen::Index j = 0; j < static_cast<Eigen::Index>(n); ++j) {
-                    values.push_back(static_cast<double>(eigenFactors[k].matrixLU()(i, j)));
-                }
-            }
+        for (std::size_t k = 0; k < std::min<std::size_t>(decompositions.size(), 1000); ++k) {
+            const Matrix<T, n, inRows> lu = decompositions[k].matrixLU();
+            values.insert(values.end(), lu.data(), lu.data() + lu.size());
         }
         return values;
     }
 };
-
-template <class T, std::size_t n>
-Eigen::Map<const RowMajor<T, n>> eigenMatrix(const T *elements) {
-    return Eigen::Map<const RowMajor<T, n>>(elements);
-}
 
 template <class T, Layout layout, std::size_t n>
 void loopDecompose(Systems<T, layout, n> &s, std::size_t k) {
@@ -132,6 +143,19 @@ std::string nameOf(const std::string &row) {
     return "zelm" + row + "_" + typeName<T> + "_" + order + "x" + order + suffixOf(layout);
 }
 
+template <int storage, class T, std::size_t n>
+Contender eigenDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto decompose = [s, e] {
+        const T *matrix = s->matrices.data();
+        for (auto &decomposition : e->decompositions) {
+            decomposition.compute(eigenMatrix<T, n>(matrix));
+            matrix += n * n;
+        }
+    };
+    return {eigen, decompose, [e] { return e->factors(); }};
+}
+
 template <class T, Layout layout, std::size_t n>
 Comparison compareDecompositions(std::size_t count) {
     const auto s = std::make_shared<Systems<T, layout, n>>(count);
@@ -143,15 +167,8 @@ Comparison compareDecompositions(std::size_t count) {
     const std::string name = nameOf<T, layout, n>("LUDecomp_ma");
     Comparison comparison{count, tolerance<T>, {{own, callOf(name, arrays(0, count)), results}}};
     if constexpr (layout == Layout::Standard) {
-        s->eigenFactors.resize(count);
-        const auto decompose = [s] {
-            const T *matrix = s->matrices.data();
-            for (EigenLu<T, n> &factors : s->eigenFactors) {
-                factors.compute(eigenMatrix<T, n>(matrix));
-                matrix += n * n;
-            }
-        };
-        comparison.contenders.push_back({eigen, decompose, [s] { return s->permutedEigenFactors(); }});
+        comparison.contenders.push_back(eigenDecompositions<inRows>(s));
+        comparison.contenders.push_back(eigenDecompositions<inColumns>(s));
     } else {
         const auto decompose = [s] {
             for (std::size_t k = 0; k < s->factors.count(); ++k) {
@@ -159,6 +176,9 @@ Comparison compareDecompositions(std::size_t count) {
             }
         };
         comparison.contenders.push_back({loop, decompose, results});
+    }
+    if (count > mostOneByOne) {
+        return comparison;
     }
     if constexpr (hasSingleForms(layout)) {
         const auto objects = [s](std::size_t k) {
@@ -174,43 +194,62 @@ Comparison compareDecompositions(std::size_t count) {
     return comparison;
 }
 
-template <class T, std::size_t n>
-__attribute__((noinline)) ZelmStatus eigenDecompose(const T *matrix, EigenLu<T, n> *factors) {
-    factors->compute(eigenMatrix<T, n>(matrix));
+template <class T, std::size_t n, int storage>
+__attribute__((noinline)) ZelmStatus eigenDecompose(const T *matrix, EigenLu<T, n, storage> *decomposition) {
+    decomposition->compute(eigenMatrix<T, n>(matrix));
     return ZELM_OK;
+}
+
+template <int storage, class T, std::size_t n>
+Contender eigenSingleDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto objects = [s, e](std::size_t k) {
+        return std::tuple(static_cast<const T *>(s->matrices.data() + k * n * n), &e->decompositions[k]);
+    };
+    return {eigen, callPerObject(&eigenDecompose<T, n, storage>, singles, objects),
+            [e] { return e->factors(); }};
 }
 
 template <class T, std::size_t n>
 Comparison compareSingleDecomposition() {
     const auto s = std::make_shared<Systems<T, Layout::Standard, n>>(singles);
-    s->eigenFactors.resize(singles);
     const auto objects = [s](std::size_t k) {
         return std::tuple_cat(s->matrices.constObject(k), std::tuple(s->pivotOf(k)), s->factors.object(k));
     };
-    const auto eigenObjects = [s](std::size_t k) {
-        return std::tuple(static_cast<const T *>(s->matrices.data() + k * n * n), &s->eigenFactors[k]);
-    };
+    const std::string name = nameOf<T, Layout::Standard, n>("LUDecomp_m");
     return {singles,
             tolerance<T>,
-            {{own, callPerObject(nameOf<T, Layout::Standard, n>("LUDecomp_m"), singles, objects),
-              [s] { return s->permutedFactors(); }},
-             {eigen, callPerObject(&eigenDecompose<T, n>, singles, eigenObjects),
-              [s] { return s->permutedEigenFactors(); }}}};
+            {{own, callPerObject(name, singles, objects), [s] { return s->permutedFactors(); }},
+             eigenSingleDecompositions<inRows>(s),
+             eigenSingleDecompositions<inColumns>(s)}};
 }
 
-// Systems whose matrices stand decomposed, for the library and for Eigen.
 template <class T, Layout layout, std::size_t n>
 std::shared_ptr<Systems<T, layout, n>> decomposedSystems(std::size_t count) {
     const auto s = std::make_shared<Systems<T, layout, n>>(count);
     for (std::size_t k = 0; k < count; ++k) {
         loopDecompose(*s, k);
     }
-    if constexpr (layout == Layout::Standard) {
-        for (std::size_t k = 0; k < count; ++k) {
-            s->eigenFactors.emplace_back(eigenMatrix<T, n>(s->matrices.data() + k * n * n));
-        }
-    }
     return s;
+}
+
+// Eigen solves faster from factors in columns, although the library's lie in rows: both are shown.
+constexpr const char *solverName(int storage) {
+    return storage == inColumns ? eigen : eigenRows;
+}
+
+template <bool shared, int storage, class T, std::size_t n>
+Contender eigenSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto solve = [s, e] {
+        const T *right = s->right.data();
+        T *unknowns = s->unknowns.data();
+        for (std::size_t k = 0; k < s->unknowns.count(); ++k) {
+            Eigen::Map<Vector<T, n>>(unknowns + k * n) =
+                e->decompositions[shared ? 0 : k].solve(Eigen::Map<const Vector<T, n>>(right + k * n));
+        }
+    };
+    return {solverName(storage), solve, [s] { return s->unknowns.values(); }};
 }
 
 // `shared`: the first system's matrix serves all right-hand sides (mva); otherwise each has its own (mava).
@@ -239,15 +278,8 @@ Comparison compareSolutions(std::size_t count) {
     const std::string name = nameOf<T, layout, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava");
     Comparison comparison{count, tolerance<T>, {{own, callOf(name, arrays(0, count)), results}}};
     if constexpr (layout == Layout::Standard) {
-        const auto solve = [s] {
-            const T *right = s->right.data();
-            T *unknowns = s->unknowns.data();
-            for (std::size_t k = 0; k < s->unknowns.count(); ++k) {
-                Eigen::Map<Vector<T, n>>(unknowns + k * n) =
-                    s->eigenFactors[shared ? 0 : k].solve(Eigen::Map<const Vector<T, n>>(right + k * n));
-            }
-        };
-        comparison.contenders.push_back({eigen, solve, results});
+        comparison.contenders.push_back(eigenSolutions<shared, inColumns>(s));
+        comparison.contenders.push_back(eigenSolutions<shared, inRows>(s));
     } else {
         const auto solve = [s] {
             for (std::size_t k = 0; k < s->unknowns.count(); ++k) {
@@ -255,6 +287,9 @@ Comparison compareSolutions(std::size_t count) {
             }
         };
         comparison.contenders.push_back({loop, solve, results});
+    }
+    if (count > mostOneByOne) {
+        return comparison;
     }
     if constexpr (hasSingleForms(layout)) {
         const auto objects = [s](std::size_t k) {
@@ -271,30 +306,38 @@ Comparison compareSolutions(std::size_t count) {
     return comparison;
 }
 
-template <class T, std::size_t n>
-__attribute__((noinline)) ZelmStatus eigenSolve(const EigenLu<T, n> *factors, const T *right, T *unknowns) {
+template <class T, std::size_t n, int storage>
+__attribute__((noinline)) ZelmStatus eigenSolve(const EigenLu<T, n, storage> *decomposition, const T *right,
+                                                T *unknowns) {
     Eigen::Map<Vector<T, n>> result(unknowns);
-    result = factors->solve(Eigen::Map<const Vector<T, n>>(right));
+    result = decomposition->solve(Eigen::Map<const Vector<T, n>>(right));
     return ZELM_OK;
+}
+
+template <int storage, class T, std::size_t n>
+Contender eigenSingleSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto objects = [s, e](std::size_t k) {
+        return std::tuple(static_cast<const EigenLu<T, n, storage> *>(&e->decompositions[k]),
+                          static_cast<const T *>(s->right.data() + k * n), s->unknowns.data() + k * n);
+    };
+    return {solverName(storage), callPerObject(&eigenSolve<T, n, storage>, singles, objects),
+            [s] { return s->unknowns.values(); }};
 }
 
 template <class T, std::size_t n>
 Comparison compareSingleSolution() {
     const auto s = decomposedSystems<T, Layout::Standard, n>(singles);
-    const auto results = [s] { return s->unknowns.values(); };
     const auto objects = [s](std::size_t k) {
         return std::tuple_cat(s->factors.constObject(k), std::tuple(s->constPivotOf(k)),
                               s->right.constObject(k), s->unknowns.object(k));
     };
-    const auto eigenObjects = [s](std::size_t k) {
-        return std::tuple(static_cast<const EigenLu<T, n> *>(&s->eigenFactors[k]),
-                          static_cast<const T *>(s->right.data() + k * n), s->unknowns.data() + k * n);
-    };
-    return {
-        singles,
-        tolerance<T>,
-        {{own, callPerObject(nameOf<T, Layout::Standard, n>("LUBackSubst_mv"), singles, objects), results},
-         {eigen, callPerObject(&eigenSolve<T, n>, singles, eigenObjects), results}}};
+    const std::string name = nameOf<T, Layout::Standard, n>("LUBackSubst_mv");
+    return {singles,
+            tolerance<T>,
+            {{own, callPerObject(name, singles, objects), [s] { return s->unknowns.values(); }},
+             eigenSingleSolutions<inColumns>(s),
+             eigenSingleSolutions<inRows>(s)}};
 }
 
 template <class T, std::size_t n, Layout layout = Layout::Standard>

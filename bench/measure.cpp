@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <limits>
+#include <map>
 #include <stdexcept>
 #include <utility>
 
@@ -63,21 +63,22 @@ void measure(benchmark::State &state, const Comparison &comparison) {
     for (const Contender &contender : contenders) {
         runs.push_back(runsPerSample(contender));
     }
-    std::vector<double> fastest(contenders.size(), std::numeric_limits<double>::infinity());
+    std::map<std::string, double> fastest;
     for ([[maybe_unused]] auto iteration : state) {
         for (std::size_t c = 0; c < contenders.size(); ++c) {
             const double seconds = secondsOf(contenders[c], runs[c]) / static_cast<double>(runs[c]);
-            fastest[c] = std::min(fastest[c], seconds);
+            double &best = fastest.try_emplace(contenders[c].name, seconds).first->second;
+            best = std::min(best, seconds);
             if (c == 0) {
                 state.SetIterationTime(seconds);
             }
         }
     }
-    for (std::size_t c = 0; c < contenders.size(); ++c) {
-        state.counters[contenders[c].name] = fastest[c] * 1e9 / static_cast<double>(comparison.objects);
-    }
-    for (std::size_t c = 1; c < contenders.size(); ++c) {
-        state.counters["own/" + contenders[c].name] = fastest[0] / fastest[c];
+    for (const auto &[name, seconds] : fastest) {
+        state.counters[name] = seconds * 1e9 / static_cast<double>(comparison.objects);
+        if (name != own) {
+            state.counters["own/" + name] = fastest[own] / seconds;
+        }
     }
 }
 
@@ -91,8 +92,8 @@ void addRow(const std::string &name, std::uint64_t objects, std::function<Compar
             state.SkipWithError(error.what());
         }
     };
-    // A row of many objects takes milliseconds a sample and varies little from one to the next.
-    const int samples = objects > 100000 ? 6 : 60;
+    // A row of many objects takes up to a quarter of a second per sample, and its samples vary little.
+    const int samples = objects > 100000 ? 4 : 50;
     benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(samples)->UseManualTime();
 }
 

@@ -27,11 +27,13 @@ struct Comparison {
 // Names of the contenders, which are the names of the counters in the output.
 inline constexpr const char *own = "own";     // the library's function
 inline constexpr const char *eigen = "eigen"; // Eigen's best fixed-size code
-inline constexpr const char *loop = "loop";   // plain loops, for the layouts that Eigen cannot address
-inline constexpr const char *one = "one";     // the library, one object per call
+inline constexpr const char *eigenRows =
+    "eigen_rows";                           // Eigen with its matrices in rows, where that is slower
+inline constexpr const char *loop = "loop"; // plain loops, for the layouts that Eigen cannot address
+inline constexpr const char *one = "one";   // the library, one object per call
 
 // Registers a row. Each of its iterations takes one sample of every contender in turn, so that whatever slows
-// the machine slows them alike; the counters are each contender's fastest sample, in nanoseconds per object.
+// the machine slows them alike; the counters are the fastest sample of each name, in nanoseconds per object.
 // The operands are made when the row runs and freed when it ends.
 void addRow(const std::string &name, std::uint64_t objects, std::function<Comparison()> prepare);
 

@@ -2,23 +2,13 @@
 
 #include <Eigen/LU>
 
-namespace zelmbench {
+#include <map>
 
+namespace zelmbench {
 namespace {
 constexpr std::size_t distinctObjects = 1000;
-}
 
-std::vector<double> randomValues(std::size_t elements, unsigned seed) {
-    std::mt19937 generator(seed);
-    std::uniform_real_distribution<double> uniform(-1.0, 1.0);
-    std::vector<double> values(distinctObjects * elements);
-    for (double &value : values) {
-        value = uniform(generator);
-    }
-    return values;
-}
-
-std::vector<double> wellConditionedMatrices(std::size_t n) {
+std::vector<double> drawMatrices(std::size_t n) {
     std::mt19937 generator(static_cast<unsigned>(n));
     std::uniform_real_distribution<double> uniform(-1.0, 1.0);
     std::vector<double> values;
@@ -31,6 +21,23 @@ std::vector<double> wellConditionedMatrices(std::size_t n) {
         }
     }
     return values;
+}
+} // namespace
+
+std::vector<double> randomValues(std::size_t elements, unsigned seed) {
+    std::mt19937 generator(seed);
+    std::uniform_real_distribution<double> uniform(-1.0, 1.0);
+    std::vector<double> values(distinctObjects * elements);
+    for (double &value : values) {
+        value = uniform(generator);
+    }
+    return values;
+}
+
+const std::vector<double> &wellConditionedMatrices(std::size_t n) {
+    static std::map<std::size_t, std::vector<double>> drawn;
+    const auto found = drawn.find(n);
+    return found != drawn.end() ? found->second : drawn.emplace(n, drawMatrices(n)).first->second;
 }
 
 } // namespace zelmbench

@@ -192,6 +192,6 @@ std::vector<double> randomValues(std::size_t elements, unsigned seed);
 
 // A thousand square matrices of order n that no solver has trouble with, and whose pivots are chosen in all
 // orders.
-std::vector<double> wellConditionedMatrices(std::size_t n);
+const std::vector<double> &wellConditionedMatrices(std::size_t n);
 
 } // namespace zelmbench

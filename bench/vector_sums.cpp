@@ -61,32 +61,58 @@ using SmallArray = Eigen::Array<T, static_cast<int>(n), 1>;
 template <class T, std::size_t n>
 using SmallMap = Eigen::Map<SmallArray<T, n>>;
 
+// One expression over all elements of the arrays.
 template <class Operation, Operands operands, class T, std::size_t n>
-void runEigen(Vectors<T, Layout::Standard, n> &v) {
+void runEigenWhole(Vectors<T, Layout::Standard, n> &v) {
     const Operation operation;
-    const std::size_t count = v.dst.count();
-    const auto size = static_cast<Eigen::Index>(count * n);
-    FlatArray<T> src1(v.src1.data(), size);
-    FlatArray<T> src2(v.src2.data(), size);
-    FlatArray<T> dst(v.dst.data(), size);
-    if constexpr (operands == Operands::vava) {
-        dst = operation(src1, src2);
-    } else if constexpr (operands == Operands::vac) {
-        dst = operation(src1, v.val);
-    } else if constexpr (operands == Operands::cva) {
-        dst = operation(v.val, src1);
-    } else {
+    const auto count = static_cast<Eigen::Index>(v.dst.count());
+    if constexpr (operands == Operands::vav || operands == Operands::vva) {
+        using Columns = Eigen::Map<Eigen::Array<T, static_cast<int>(n), Eigen::Dynamic>>;
         constexpr bool firstIsHeld = operands == Operands::vva;
         const SmallArray<T, n> held = SmallMap<T, n>(firstIsHeld ? v.src1.data() : v.src2.data());
-        T *const varying = firstIsHeld ? v.src2.data() : v.src1.data();
-        for (std::size_t k = 0; k < count; ++k) {
-            const SmallMap<T, n> source(varying + k * n);
-            SmallMap<T, n> result(v.dst.data() + k * n);
-            if constexpr (firstIsHeld) {
-                result = operation(held, source);
-            } else {
-                result = operation(source, held);
-            }
+        const Columns source(firstIsHeld ? v.src2.data() : v.src1.data(), n, count);
+        Columns result(v.dst.data(), n, count);
+        if constexpr (firstIsHeld) {
+            result = operation(held.replicate(1, count), source);
+        } else {
+            result = operation(source, held.replicate(1, count));
+        }
+    } else {
+        const auto size = count * static_cast<Eigen::Index>(n);
+        const FlatArray<T> src1(v.src1.data(), size);
+        const FlatArray<T> src2(v.src2.data(), size);
+        FlatArray<T> result(v.dst.data(), size);
+        if constexpr (operands == Operands::vava) {
+            result = operation(src1, src2);
+        } else if constexpr (operands == Operands::vac) {
+            result = operation(src1, v.val);
+        } else {
+            result = operation(v.val, src1);
+        }
+    }
+}
+
+// An expression of fixed size per object, which some compilers make more of.
+template <class Operation, Operands operands, class T, std::size_t n>
+void runEigenEach(Vectors<T, Layout::Standard, n> &v) {
+    const Operation operation;
+    const T *const src1 = v.src1.data();
+    const T *const src2 = v.src2.data();
+    T *const dst = v.dst.data();
+    using Source = Eigen::Map<const SmallArray<T, n>>;
+    const SmallArray<T, n> held = Source(operands == Operands::vva ? src1 : src2);
+    for (std::size_t e = 0; e < v.dst.count() * n; e += n) {
+        SmallMap<T, n> result(dst + e);
+        if constexpr (operands == Operands::vava) {
+            result = operation(Source(src1 + e), Source(src2 + e));
+        } else if constexpr (operands == Operands::vav) {
+            result = operation(Source(src1 + e), held);
+        } else if constexpr (operands == Operands::vva) {
+            result = operation(held, Source(src2 + e));
+        } else if constexpr (operands == Operands::vac) {
+            result = operation(Source(src1 + e), v.val);
+        } else {
+            result = operation(v.val, Source(src1 + e));
         }
     }
 }
@@ -141,9 +167,13 @@ Comparison compareArrays(const std::string &name, std::size_t count) {
     const auto results = [v] { return v->dst.values(); };
     Comparison comparison{count, 1e-6, {{own, callOf(name, arrays(0, count)), results}}};
     if constexpr (layout == Layout::Standard) {
-        comparison.contenders.push_back({eigen, [v] { runEigen<Operation, operands>(*v); }, results});
+        comparison.contenders.push_back({eigen, [v] { runEigenWhole<Operation, operands>(*v); }, results});
+        comparison.contenders.push_back({eigen, [v] { runEigenEach<Operation, operands>(*v); }, results});
     } else {
         comparison.contenders.push_back({loop, [v] { runLoop<Operation, operands>(*v); }, results});
+    }
+    if (count > mostOneByOne) {
+        return comparison;
     }
     if constexpr (layout == Layout::Standard || layout == Layout::S2 || layout == Layout::P) {
         const std::string single = std::string(operationName<Operation>) + singleDescriptorOf(operands) +
