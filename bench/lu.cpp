@@ -64,12 +64,15 @@ Eigen::Map<const Matrix<T, n, inRows>> eigenMatrix(const T *elements) {
 // Eigen's decompositions of the same matrices.
 template <class T, std::size_t n, int storage>
 struct EigenSystems {
-    explicit EigenSystems(Systems<T, Layout::Standard, n> &systems) {
-        for (std::size_t k = 0; k < systems.matrices.count(); ++k) {
-            decompositions.emplace_back(eigenMatrix<T, n>(systems.matrices.data() + k * n * n));
+    explicit EigenSystems(std::size_t count) : decompositions(count) {}
+    std::vector<EigenLu<T, n, storage>> decompositions;
+
+    void decompose(const T *matrix) {
+        for (auto &decomposition : decompositions) {
+            decomposition.compute(eigenMatrix<T, n>(matrix));
+            matrix += n * n;
         }
     }
-    std::vector<EigenLu<T, n, storage>> decompositions;
 
     std::vector<double> factors() const {
         std::vector<double> values;
@@ -145,15 +148,8 @@ std::string nameOf(const std::string &row) {
 
 template <int storage, class T, std::size_t n>
 Contender eigenDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
-    const auto decompose = [s, e] {
-        const T *matrix = s->matrices.data();
-        for (auto &decomposition : e->decompositions) {
-            decomposition.compute(eigenMatrix<T, n>(matrix));
-            matrix += n * n;
-        }
-    };
-    return {eigen, decompose, [e] { return e->factors(); }};
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
+    return {eigen, [s, e] { e->decompose(s->matrices.data()); }, [e] { return e->factors(); }};
 }
 
 template <class T, Layout layout, std::size_t n>
@@ -202,7 +198,7 @@ __attribute__((noinline)) ZelmStatus eigenDecompose(const T *matrix, EigenLu<T, 
 
 template <int storage, class T, std::size_t n>
 Contender eigenSingleDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
     const auto objects = [s, e](std::size_t k) {
         return std::tuple(static_cast<const T *>(s->matrices.data() + k * n * n), &e->decompositions[k]);
     };
@@ -240,7 +236,8 @@ constexpr const char *solverName(int storage) {
 
 template <bool shared, int storage, class T, std::size_t n>
 Contender eigenSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
+    e->decompose(s->matrices.data());
     const auto solve = [s, e] {
         const T *right = s->right.data();
         T *unknowns = s->unknowns.data();
@@ -316,7 +313,8 @@ __attribute__((noinline)) ZelmStatus eigenSolve(const EigenLu<T, n, storage> *de
 
 template <int storage, class T, std::size_t n>
 Contender eigenSingleSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(*s);
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
+    e->decompose(s->matrices.data());
     const auto objects = [s, e](std::size_t k) {
         return std::tuple(static_cast<const EigenLu<T, n, storage> *>(&e->decompositions[k]),
                           static_cast<const T *>(s->right.data() + k * n), s->unknowns.data() + k * n);
