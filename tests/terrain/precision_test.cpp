@@ -22,6 +22,7 @@ using Solution = std::array<Real, order>;
 struct Equations {
     std::array<std::array<Real, order + 1>, neighbours> rows{}; // the terms, then the height
     std::size_t count = 0;
+    Real completeWeight = 0; // of all 25 neighbours, whether they are there or not
 };
 
 // The weights are computed anew here, as 1 / (1 + distance in mean cells); their scale changes no solution.
@@ -30,16 +31,18 @@ Equations equationsOf(const Grid &grid, std::size_t row, std::size_t column, con
     const Real meanCell = std::sqrt(Real{size.eastWest} * size.northSouth);
     for (int north = -2; north <= 2; ++north) {
         for (int east = -2; east <= 2; ++east) {
+            const Real x = east;
+            const Real y = north;
+            const Real distance = std::hypot(x * size.eastWest, y * size.northSouth) / meanCell;
+            const Real weight = 1 / (1 + distance);
+            equations.completeWeight += weight;
             const auto r = static_cast<long>(row) - north;
             const auto c = static_cast<long>(column) + east;
             if (r < 0 || c < 0 || r >= static_cast<long>(grid.rows) || c >= static_cast<long>(grid.columns) ||
                 !grid.hasData(static_cast<std::size_t>(r), static_cast<std::size_t>(c))) {
                 continue;
             }
-            const Real x = east;
-            const Real y = north;
-            const Real distance = std::hypot(x * size.eastWest, y * size.northSouth) / meanCell;
-            const Real root = std::sqrt(1 / (1 + distance));
+            const Real root = std::sqrt(weight);
             const Real height = Real{grid.at(static_cast<std::size_t>(r), static_cast<std::size_t>(c))} -
                                 grid.at(row, column);
             equations.rows[equations.count++] = {root * x * x, root * x * y, root * y * y, root * x,
@@ -88,6 +91,26 @@ Solution leastSquares(Equations equations) {
     return x;
 }
 
+// Adds up the residual of a fit. Rows of cells differ in their distances; each complete neighbourhood counts
+// the same.
+struct Residual {
+    Real squares = 0;
+    Real weights = 0;
+
+    void add(const Equations &equations, const Solution &x) {
+        for (std::size_t n = 0; n < equations.count; ++n) {
+            const auto &row = equations.rows[n];
+            Real difference = row[order];
+            for (std::size_t i = 0; i < order; ++i) {
+                difference -= row[i] * x[i];
+            }
+            squares += difference * difference / equations.completeWeight;
+            weights += row[order - 1] * row[order - 1] / equations.completeWeight; // the root of the weight
+        }
+    }
+    Real rootMeanSquare() const { return std::sqrt(squares / weights); }
+};
+
 struct Difference {
     std::size_t systems = 0;
     std::size_t singular = 0;
@@ -134,6 +157,21 @@ TEST(Precision, RealGridIn64BitFloats) {
 
 TEST(Precision, RealGridIn32BitFloats) {
     expectAgreement<float>();
+}
+
+TEST(Precision, ResidualOfTheRealGrid) {
+    const Grid grid = terraintest::readGrid(TERRAIN_GRID);
+    Progress progress(Progress::Show::OnTerminal);
+    const Survey survey = surveyGrid(grid, {.unit = CellUnit::Degrees}, progress);
+    Residual expected;
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+        const CellSize size = cellSizeAt(grid, row, CellUnit::Degrees);
+        for (std::size_t column = 0; column < grid.columns; ++column) {
+            const Equations equations = equationsOf(grid, row, column, size);
+            expected.add(equations, leastSquares(equations));
+        }
+    }
+    EXPECT_NEAR(survey.residual, static_cast<double>(expected.rootMeanSquare()), 1e-10);
 }
 
 TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
