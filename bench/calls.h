@@ -29,29 +29,33 @@ inline std::tuple<std::uint32_t> countArgument(std::size_t count) {
     return {static_cast<std::uint32_t>(count)};
 }
 
-// One call of a library function.
-template <class Arguments>
-std::function<void()> callOf(const std::string &name, Arguments arguments) {
-    auto *function = find<Signature<Arguments>>(name);
-    return [function, arguments] { benchmark::DoNotOptimize(std::apply(function, arguments)); };
+// One call of a library function, with the arguments that argumentsOf(turn) gives.
+template <class ArgumentsOf>
+std::function<void(std::size_t)> callOf(const std::string &name, ArgumentsOf argumentsOf) {
+    auto *function = find<Signature<decltype(argumentsOf(0))>>(name);
+    return [function, argumentsOf](std::size_t turn) {
+        benchmark::DoNotOptimize(std::apply(function, argumentsOf(turn)));
+    };
 }
 
-// One call per object, with the arguments that argumentsOf(k) gives.
+// One call per object, with the arguments that argumentsOf(turn, k) gives.
 template <class Function, class ArgumentsOf>
-std::function<void()> callPerObject(Function *function, std::size_t count, ArgumentsOf argumentsOf) {
+std::function<void(std::size_t)> callPerObject(Function *function, std::size_t count,
+                                               ArgumentsOf argumentsOf) {
     // A compiler that knew a peer's function would inline it and measure no call.
     Function *volatile hidden = function;
     Function *const called = hidden;
-    return [called, count, argumentsOf] {
+    return [called, count, argumentsOf](std::size_t turn) {
         for (std::size_t k = 0; k < count; ++k) {
-            benchmark::DoNotOptimize(std::apply(called, argumentsOf(k)));
+            benchmark::DoNotOptimize(std::apply(called, argumentsOf(turn, k)));
         }
     };
 }
 
 template <class ArgumentsOf>
-std::function<void()> callPerObject(const std::string &name, std::size_t count, ArgumentsOf argumentsOf) {
-    return callPerObject(find<Signature<decltype(argumentsOf(0))>>(name), count, argumentsOf);
+std::function<void(std::size_t)> callPerObject(const std::string &name, std::size_t count,
+                                               ArgumentsOf argumentsOf) {
+    return callPerObject(find<Signature<decltype(argumentsOf(0, 0))>>(name), count, argumentsOf);
 }
 
 // Single-object functions are called for this many objects in turn: few enough to stay in the nearest cache.

@@ -28,10 +28,15 @@ using EigenLu = Eigen::PartialPivLU<Matrix<T, n, storage>>;
 constexpr int inRows = Eigen::RowMajor;
 constexpr int inColumns = Eigen::ColMajor;
 
+// A processor learns the order of the pivots of a thousand matrices that it decomposes again and again, which
+// flatters whoever branches on them. So this many matrices take turns, where memory allows it.
+constexpr std::size_t matricesInTurn = 4000;
+
+// Matrices with room for the results of the first `count` of them.
 template <class T, Layout layout, std::size_t n>
 struct Systems {
-    explicit Systems(std::size_t count)
-        : matrices(count), factors(count), pivotIndex(count * n), right(count), unknowns(count) {
+    explicit Systems(std::size_t count, std::size_t matrixCount)
+        : matrices(matrixCount), factors(count), pivotIndex(count * n), right(count), unknowns(count) {
         matrices.fill(wellConditionedMatrices(n));
         right.fill(randomValues(n, 3));
     }
@@ -39,6 +44,8 @@ struct Systems {
     Buffer<std::uint32_t> pivotIndex;
     Objects<T, layout, 1, n> right, unknowns;
 
+    // The first matrix of those that a run decomposes.
+    std::size_t firstMatrix(std::size_t turn) const { return turn * factors.count() % matrices.count(); }
     std::uint32_t *pivotOf(std::size_t k) { return pivotIndex.data() + k * n; }
     const std::uint32_t *constPivotOf(std::size_t k) { return pivotOf(k); }
 
@@ -85,12 +92,12 @@ struct EigenSystems {
 };
 
 template <class T, Layout layout, std::size_t n>
-void loopDecompose(Systems<T, layout, n> &s, std::size_t k) {
+void loopDecompose(Systems<T, layout, n> &s, std::size_t matrix, std::size_t k) {
     auto &dst = s.factors;
     std::uint32_t *const pivot = s.pivotOf(k);
     for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t j = 0; j < n; ++j) {
-            dst.at(k, i, j) = s.matrices.at(k, i, j);
+            dst.at(k, i, j) = s.matrices.at(matrix, i, j);
         }
     }
     std::iota(pivot, pivot + n, 0U);
@@ -148,27 +155,32 @@ std::string nameOf(const std::string &row) {
 
 template <int storage, class T, std::size_t n>
 Contender eigenDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
-    return {eigen, [s, e] { e->decompose(s->matrices.data()); }, [e] { return e->factors(); }};
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->factors.count());
+    const auto decompose = [s, e](std::size_t turn) {
+        e->decompose(s->matrices.data() + s->firstMatrix(turn) * n * n);
+    };
+    return {eigen, decompose, [e] { return e->factors(); }};
 }
 
 template <class T, Layout layout, std::size_t n>
 Comparison compareDecompositions(std::size_t count) {
-    const auto s = std::make_shared<Systems<T, layout, n>>(count);
+    const auto s = std::make_shared<Systems<T, layout, n>>(
+        count, count * std::max<std::size_t>(1, matricesInTurn / count));
     const auto results = [s] { return s->permutedFactors(); };
-    const auto arrays = [s](std::size_t k, std::size_t objects) {
-        return std::tuple_cat(s->matrices.constArray(k), std::tuple(s->pivotOf(k)), s->factors.array(k),
-                              countArgument(objects));
+    const auto arrays = [s](std::size_t turn, std::size_t k, std::size_t objects) {
+        return std::tuple_cat(s->matrices.constArray(s->firstMatrix(turn) + k), std::tuple(s->pivotOf(k)),
+                              s->factors.array(k), countArgument(objects));
     };
     const std::string name = nameOf<T, layout, n>("LUDecomp_ma");
-    Comparison comparison{count, tolerance<T>, {{own, callOf(name, arrays(0, count)), results}}};
+    const auto wholeArray = [arrays, count](std::size_t turn) { return arrays(turn, 0, count); };
+    Comparison comparison{count, tolerance<T>, {{own, callOf(name, wholeArray), results}}};
     if constexpr (layout == Layout::Standard) {
         comparison.contenders.push_back(eigenDecompositions<inRows>(s));
         comparison.contenders.push_back(eigenDecompositions<inColumns>(s));
     } else {
-        const auto decompose = [s] {
+        const auto decompose = [s](std::size_t turn) {
             for (std::size_t k = 0; k < s->factors.count(); ++k) {
-                loopDecompose(*s, k);
+                loopDecompose(*s, s->firstMatrix(turn) + k, k);
             }
         };
         comparison.contenders.push_back({loop, decompose, results});
@@ -177,14 +189,14 @@ Comparison compareDecompositions(std::size_t count) {
         return comparison;
     }
     if constexpr (hasSingleForms(layout)) {
-        const auto objects = [s](std::size_t k) {
-            return std::tuple_cat(s->matrices.constObject(k), std::tuple(s->pivotOf(k)),
-                                  s->factors.object(k));
+        const auto objects = [s](std::size_t turn, std::size_t k) {
+            return std::tuple_cat(s->matrices.constObject(s->firstMatrix(turn) + k),
+                                  std::tuple(s->pivotOf(k)), s->factors.object(k));
         };
         comparison.contenders.push_back(
             {one, callPerObject(nameOf<T, layout, n>("LUDecomp_m"), count, objects), results});
     } else {
-        const auto objects = [arrays](std::size_t k) { return arrays(k, 1); };
+        const auto objects = [arrays](std::size_t turn, std::size_t k) { return arrays(turn, k, 1); };
         comparison.contenders.push_back({one, callPerObject(name, count, objects), results});
     }
     return comparison;
@@ -198,33 +210,33 @@ __attribute__((noinline)) ZelmStatus eigenDecompose(const T *matrix, EigenLu<T, 
 
 template <int storage, class T, std::size_t n>
 Contender eigenSingleDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
-    const auto objects = [s, e](std::size_t k) {
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->factors.count());
+    const auto objects = [s, e](std::size_t, std::size_t k) {
         return std::tuple(static_cast<const T *>(s->matrices.data() + k * n * n), &e->decompositions[k]);
     };
-    return {eigen, callPerObject(&eigenDecompose<T, n, storage>, singles, objects),
+    return {eigen, callPerObject(&eigenDecompose<T, n, storage>, matricesInTurn, objects),
             [e] { return e->factors(); }};
 }
 
 template <class T, std::size_t n>
 Comparison compareSingleDecomposition() {
-    const auto s = std::make_shared<Systems<T, Layout::Standard, n>>(singles);
-    const auto objects = [s](std::size_t k) {
+    const auto s = std::make_shared<Systems<T, Layout::Standard, n>>(matricesInTurn, matricesInTurn);
+    const auto objects = [s](std::size_t, std::size_t k) {
         return std::tuple_cat(s->matrices.constObject(k), std::tuple(s->pivotOf(k)), s->factors.object(k));
     };
     const std::string name = nameOf<T, Layout::Standard, n>("LUDecomp_m");
-    return {singles,
+    return {matricesInTurn,
             tolerance<T>,
-            {{own, callPerObject(name, singles, objects), [s] { return s->permutedFactors(); }},
+            {{own, callPerObject(name, matricesInTurn, objects), [s] { return s->permutedFactors(); }},
              eigenSingleDecompositions<inRows>(s),
              eigenSingleDecompositions<inColumns>(s)}};
 }
 
 template <class T, Layout layout, std::size_t n>
 std::shared_ptr<Systems<T, layout, n>> decomposedSystems(std::size_t count) {
-    const auto s = std::make_shared<Systems<T, layout, n>>(count);
+    const auto s = std::make_shared<Systems<T, layout, n>>(count, count);
     for (std::size_t k = 0; k < count; ++k) {
-        loopDecompose(*s, k);
+        loopDecompose(*s, k, k);
     }
     return s;
 }
@@ -236,9 +248,9 @@ constexpr const char *solverName(int storage) {
 
 template <bool shared, int storage, class T, std::size_t n>
 Contender eigenSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->factors.count());
     e->decompose(s->matrices.data());
-    const auto solve = [s, e] {
+    const auto solve = [s, e](std::size_t) {
         const T *right = s->right.data();
         T *unknowns = s->unknowns.data();
         for (std::size_t k = 0; k < s->unknowns.count(); ++k) {
@@ -273,12 +285,13 @@ Comparison compareSolutions(std::size_t count) {
                               s->unknowns.array(k), countArgument(objects));
     };
     const std::string name = nameOf<T, layout, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava");
-    Comparison comparison{count, tolerance<T>, {{own, callOf(name, arrays(0, count)), results}}};
+    Comparison comparison{
+        count, tolerance<T>, {{own, callOf(name, [=](std::size_t) { return arrays(0, count); }), results}}};
     if constexpr (layout == Layout::Standard) {
         comparison.contenders.push_back(eigenSolutions<shared, inColumns>(s));
         comparison.contenders.push_back(eigenSolutions<shared, inRows>(s));
     } else {
-        const auto solve = [s] {
+        const auto solve = [s](std::size_t) {
             for (std::size_t k = 0; k < s->unknowns.count(); ++k) {
                 loopSolve(*s, shared ? 0 : k, k);
             }
@@ -289,7 +302,7 @@ Comparison compareSolutions(std::size_t count) {
         return comparison;
     }
     if constexpr (hasSingleForms(layout)) {
-        const auto objects = [s](std::size_t k) {
+        const auto objects = [s](std::size_t, std::size_t k) {
             const std::size_t matrix = shared ? 0 : k;
             return std::tuple_cat(s->factors.constObject(matrix), std::tuple(s->constPivotOf(matrix)),
                                   s->right.constObject(k), s->unknowns.object(k));
@@ -297,7 +310,7 @@ Comparison compareSolutions(std::size_t count) {
         comparison.contenders.push_back(
             {one, callPerObject(nameOf<T, layout, n>("LUBackSubst_mv"), count, objects), results});
     } else {
-        const auto objects = [arrays](std::size_t k) { return arrays(k, 1); };
+        const auto objects = [arrays](std::size_t, std::size_t k) { return arrays(k, 1); };
         comparison.contenders.push_back({one, callPerObject(name, count, objects), results});
     }
     return comparison;
@@ -313,9 +326,9 @@ __attribute__((noinline)) ZelmStatus eigenSolve(const EigenLu<T, n, storage> *de
 
 template <int storage, class T, std::size_t n>
 Contender eigenSingleSolutions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
-    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->matrices.count());
+    const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->factors.count());
     e->decompose(s->matrices.data());
-    const auto objects = [s, e](std::size_t k) {
+    const auto objects = [s, e](std::size_t, std::size_t k) {
         return std::tuple(static_cast<const EigenLu<T, n, storage> *>(&e->decompositions[k]),
                           static_cast<const T *>(s->right.data() + k * n), s->unknowns.data() + k * n);
     };
@@ -326,7 +339,7 @@ Contender eigenSingleSolutions(const std::shared_ptr<Systems<T, Layout::Standard
 template <class T, std::size_t n>
 Comparison compareSingleSolution() {
     const auto s = decomposedSystems<T, Layout::Standard, n>(singles);
-    const auto objects = [s](std::size_t k) {
+    const auto objects = [s](std::size_t, std::size_t k) {
         return std::tuple_cat(s->factors.constObject(k), std::tuple(s->constPivotOf(k)),
                               s->right.constObject(k), s->unknowns.object(k));
     };
@@ -355,7 +368,7 @@ template <class T, std::size_t n>
 void addRowsOfOrder() {
     addDecompositionRow<T, n>(1000);
     addDecompositionRow<T, n>(manyObjects<T>(n * n));
-    addRow(nameOf<T, Layout::Standard, n>("LUDecomp_m") + "/single", singles,
+    addRow(nameOf<T, Layout::Standard, n>("LUDecomp_m") + "/single", matricesInTurn,
            [] { return compareSingleDecomposition<T, n>(); });
 }
 

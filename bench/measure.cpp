@@ -17,17 +17,17 @@ using Clock = std::chrono::steady_clock;
 // Long enough that reading the clock and the first, colder call do not show.
 constexpr double shortestSample = 150e-6;
 
-double secondsOf(const Contender &contender, std::uint64_t runs) {
+double secondsOf(const Contender &contender, std::size_t runs) {
     const auto start = Clock::now();
-    for (std::uint64_t run = 0; run < runs; ++run) {
-        contender.run();
+    for (std::size_t run = 0; run < runs; ++run) {
+        contender.run(run);
         benchmark::ClobberMemory();
     }
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-std::uint64_t runsPerSample(const Contender &contender) {
-    std::uint64_t runs = 1;
+std::size_t runsPerSample(const Contender &contender) {
+    std::size_t runs = 1;
     while (secondsOf(contender, runs) < shortestSample) {
         runs *= 2;
     }
@@ -37,7 +37,7 @@ std::uint64_t runsPerSample(const Contender &contender) {
 void requireSameResults(const Comparison &comparison) {
     std::vector<double> expected;
     for (const Contender &contender : comparison.contenders) {
-        contender.run();
+        contender.run(0);
         const std::vector<double> actual = contender.results();
         if (expected.empty()) {
             expected = actual;
@@ -59,7 +59,7 @@ void requireSameResults(const Comparison &comparison) {
 void measure(benchmark::State &state, const Comparison &comparison) {
     requireSameResults(comparison);
     const std::vector<Contender> &contenders = comparison.contenders;
-    std::vector<std::uint64_t> runs;
+    std::vector<std::size_t> runs;
     for (const Contender &contender : contenders) {
         runs.push_back(runsPerSample(contender));
     }

@@ -1,6 +1,7 @@
 // Measuring the library beside its peers, in one process and over the same arrays.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -12,7 +13,7 @@ namespace zelmbench {
 // that does other work than the library is found out before anything is measured.
 struct Contender {
     std::string name;
-    std::function<void()> run;
+    std::function<void(std::size_t turn)> run;
     std::function<std::vector<double>()> results;
 };
 

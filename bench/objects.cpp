@@ -6,7 +6,7 @@
 
 namespace zelmbench {
 namespace {
-constexpr std::size_t distinctObjects = 1000;
+constexpr std::size_t distinctObjects = 16000;
 
 std::vector<double> drawMatrices(std::size_t n) {
     std::mt19937 generator(static_cast<unsigned>(n));

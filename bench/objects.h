@@ -187,11 +187,11 @@ private:
     std::vector<T *> table_;
 };
 
-// Uniform numbers between -1 and 1, for a thousand objects of `elements` elements.
+// Uniform numbers between -1 and 1, for some thousands of objects of `elements` elements.
 std::vector<double> randomValues(std::size_t elements, unsigned seed);
 
-// A thousand square matrices of order n that no solver has trouble with, and whose pivots are chosen in all
-// orders.
+// Some thousands of square matrices of order n that no solver has trouble with, and whose pivots are chosen
+// in all orders.
 const std::vector<double> &wellConditionedMatrices(std::size_t n);
 
 } // namespace zelmbench

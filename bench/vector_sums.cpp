@@ -165,12 +165,16 @@ Comparison compareArrays(const std::string &name, std::size_t count) {
         }
     };
     const auto results = [v] { return v->dst.values(); };
-    Comparison comparison{count, 1e-6, {{own, callOf(name, arrays(0, count)), results}}};
+    Comparison comparison{
+        count, 1e-6, {{own, callOf(name, [=](std::size_t) { return arrays(0, count); }), results}}};
     if constexpr (layout == Layout::Standard) {
-        comparison.contenders.push_back({eigen, [v] { runEigenWhole<Operation, operands>(*v); }, results});
-        comparison.contenders.push_back({eigen, [v] { runEigenEach<Operation, operands>(*v); }, results});
+        comparison.contenders.push_back(
+            {eigen, [v](std::size_t) { runEigenWhole<Operation, operands>(*v); }, results});
+        comparison.contenders.push_back(
+            {eigen, [v](std::size_t) { runEigenEach<Operation, operands>(*v); }, results});
     } else {
-        comparison.contenders.push_back({loop, [v] { runLoop<Operation, operands>(*v); }, results});
+        comparison.contenders.push_back(
+            {loop, [v](std::size_t) { runLoop<Operation, operands>(*v); }, results});
     }
     if (count > mostOneByOne) {
         return comparison;
@@ -178,7 +182,7 @@ Comparison compareArrays(const std::string &name, std::size_t count) {
     if constexpr (layout == Layout::Standard || layout == Layout::S2 || layout == Layout::P) {
         const std::string single = std::string(operationName<Operation>) + singleDescriptorOf(operands) +
                                    "_" + typeName<T> + "_" + std::to_string(n) + "x1" + suffixOf(layout);
-        const auto objects = [v](std::size_t k) {
+        const auto objects = [v](std::size_t, std::size_t k) {
             if constexpr (operands == Operands::vac || operands == Operands::cva) {
                 return std::tuple_cat(v->src1.constObject(k), std::tuple(v->val), v->dst.object(k));
             } else {
@@ -189,7 +193,7 @@ Comparison compareArrays(const std::string &name, std::size_t count) {
         };
         comparison.contenders.push_back({one, callPerObject(single, count, objects), results});
     } else {
-        const auto oneByOne = [arrays](std::size_t k) { return arrays(k, 1); };
+        const auto oneByOne = [arrays](std::size_t, std::size_t k) { return arrays(k, 1); };
         comparison.contenders.push_back({one, callPerObject(name, count, oneByOne), results});
     }
     return comparison;
@@ -206,7 +210,7 @@ __attribute__((noinline)) ZelmStatus eigenSingle(const T *src1, const T *src2, T
 template <class Operation, class T, std::size_t n>
 Comparison compareSingle(const std::string &name) {
     const auto v = std::make_shared<Vectors<T, Layout::Standard, n>>(singles);
-    const auto objects = [v](std::size_t k) {
+    const auto objects = [v](std::size_t, std::size_t k) {
         return std::tuple_cat(v->src1.constObject(k), v->src2.constObject(k), v->dst.object(k));
     };
     const auto results = [v] { return v->dst.values(); };
@@ -231,7 +235,7 @@ Comparison compareLength(const std::string &name, std::size_t len) {
     const auto v = std::make_shared<Vectors<T, Layout::Standard, 1>>(len);
     const auto results = [v] { return v->dst.values(); };
     const std::size_t calls = len < 1000 ? singles : 1;
-    const auto sameVectors = [v, len](std::size_t) {
+    const auto sameVectors = [v, len](std::size_t, std::size_t) {
         return std::tuple_cat(v->src1.constObject(0), v->src2.constObject(0), v->dst.object(0),
                               countArgument(len));
     };
