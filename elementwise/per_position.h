@@ -38,7 +38,7 @@ bool isOutOfReachOf(const S &s, const PackedTableArray<T> &d, Shape shape, std::
     if constexpr (!S::isTable) {
         return true;
     } else {
-        const std::int64_t bytes = std::int64_t{count} * sizeof(T);
+        const std::int64_t bytes = std::int64_t{count} * static_cast<std::int64_t>(sizeof(T));
         const std::int64_t sourceBytes = requires {
             s.objStride;
         }
@@ -78,7 +78,7 @@ ZELM_INLINE bool runPerPosition(const A &a, const B &b, const PackedTableArray<T
     if (count < kPerPositionCount || count > kMostObjectsInRange || shape.elements() > kPerPositionElements)
         return false;
     if (!positionsAreApart(d.object(0), static_cast<unsigned>(shape.elements()),
-                           std::int64_t{count} * sizeof(T)) ||
+                           std::int64_t{count} * static_cast<std::int64_t>(sizeof(T))) ||
         !isOutOfReachOf(a, d, shape, count) || !isOutOfReachOf(b, d, shape, count))
         return false;
     for (std::uint32_t i = 0; i < shape.rows(); ++i)

@@ -89,10 +89,7 @@ struct HeldMatrix : WithoutTable {
     }
 };
 
-// A run of this size passes the caches anyway: storing past them saves reading the lines that it overwrites.
-constexpr Address kStreamingBytes = Address{8} << 20;
-
-template <typename Op, typename T, bool streaming, typename A, typename B>
+template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
     constexpr unsigned period = std::lcm(A::period, B::period);
     constexpr unsigned round = period < 3 ? 4 : period;
@@ -101,11 +98,7 @@ ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Add
 #pragma GCC unroll 8
         for (unsigned p = 0; p < round; ++p) {
             const Address at = i + p * lanes;
-            const Pack<T> result = Op::apply(a.pack(at, p), b.pack(at, p));
-            if constexpr (streaming)
-                streamPack(dst + at * sizeof(T), result);
-            else
-                storePack(dst + at * sizeof(T), result);
+            storePack(dst + at * sizeof(T), Op::apply(a.pack(at, p), b.pack(at, p)));
         }
     }
     if constexpr (period == 1)
@@ -117,17 +110,8 @@ ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Add
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     Address i = 0;
-    if (length >= 2 * kLanes<T> && !a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
-        if (A::period == 1 && B::period == 1 && length * sizeof(T) >= kStreamingBytes &&
-            dst % sizeof(T) == 0) {
-            for (; (dst + i * sizeof(T)) % kPackBytes != 0; ++i)
-                store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
-            i = runPacks<Op, T, true>(a, b, dst, i, length);
-            _mm_sfence();
-        } else {
-            i = runPacks<Op, T, false>(a, b, dst, i, length);
-        }
-    }
+    if (length >= 2 * kLanes<T> && !a.isCloselyBehind(dst) && !b.isCloselyBehind(dst))
+        i = runPacks<Op, T>(a, b, dst, i, length);
     for (; i < length; ++i)
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
 }

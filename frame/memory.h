@@ -1,7 +1,8 @@
 // Addresses as numbers, and elements moved to and from them.
 //
-// Strides and shifts are added modulo the word size and operands may overlap in any way, so that addresses
-// are unsigned numbers here and every access may alias every other.
+// Strides and shifts are added modulo the word size, so addresses are unsigned numbers here. Elements may
+// overlap each other in any way, and every store counts for every later load of the same type; tables of
+// pointers and other arguments are never written.
 #pragma once
 
 #include <cstdint>
@@ -24,23 +25,26 @@ ZELM_INLINE Address addressOf(const void *pointer) {
     return reinterpret_cast<Address>(pointer);
 }
 
+// An element at any address: on 32-bit x86 the alignment of a double is not a multiple of its size.
+template <typename T>
+struct Anywhere {
+    typedef T type __attribute__((aligned(1)));
+};
+
 template <typename T>
 ZELM_INLINE T load(Address from) {
-    T value;
-    __builtin_memcpy(&value, reinterpret_cast<const void *>(from), sizeof value);
-    return value;
+    return *reinterpret_cast<const typename Anywhere<T>::type *>(from);
 }
 
 template <typename T>
 ZELM_INLINE void store(Address to, T value) {
-    __builtin_memcpy(reinterpret_cast<void *>(to), &value, sizeof value);
+    *reinterpret_cast<typename Anywhere<T>::type *>(to) = value;
 }
 
-// Moves one element as bits.
+// Moves one element as bits: through an SSE register as all arithmetic is, never through x87.
 template <typename T>
 ZELM_INLINE void copyElement(Address to, Address from) {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    store(to, load<Bits>(from));
+    store(to, load<T>(from));
 }
 
 } // namespace zelm::frame

@@ -28,6 +28,11 @@ ZELM_INLINE bool areDisjoint(const Range &a, const Range &b) {
     return a.high <= b.low || b.high <= a.low;
 }
 
+// The same for two ranges whose ends may lie anywhere, over the end of the address space too.
+ZELM_INLINE bool areDisjoint(Address a, Address bytesOfA, Address b, Address bytesOfB) {
+    return a - b >= bytesOfB && b - a >= bytesOfA;
+}
+
 // More objects than this are done one by one: the arithmetic on ranges would overflow.
 constexpr std::uint32_t kMostObjectsInRange = std::uint32_t{1} << 30;
 
@@ -99,13 +104,6 @@ ZELM_INLINE bool elementsAreApart(const Array &array, unsigned rows, unsigned co
                     columns, sizeof(typename Array::Element));
 }
 
-// One object of a list.
-template <typename Object>
-ZELM_INLINE bool elementsAreApart(const Object &object, unsigned rows, unsigned columns) {
-    return areApart(std::int64_t{1} << 62, 1, span(object.rowStride), rows, span(object.elemStride), columns,
-                    sizeof(typename Object::Element));
-}
-
 // A table's positions: no two closer than `bytes`.
 template <typename T>
 bool positionsAreApart(const Table<T> &object, unsigned entries, std::int64_t bytes) {
@@ -147,16 +145,6 @@ ZELM_INLINE bool elementsAreApart(const TableArray<T> &array, unsigned rows, uns
 template <typename S, typename D>
 constexpr bool coincide(const S &, const D &) {
     return false;
-}
-
-template <typename T>
-ZELM_INLINE bool coincide(const Dense<const T> &s, const Dense<T> &d) {
-    return s.start == d.start && s.rowStride == d.rowStride;
-}
-
-template <typename T>
-ZELM_INLINE bool coincide(const Strided<const T> &s, const Strided<T> &d) {
-    return s.start == d.start && s.rowStride == d.rowStride && s.elemStride == d.elemStride;
 }
 
 template <typename T>
@@ -208,6 +196,74 @@ ZELM_INLINE bool isUntouched(const S &s, unsigned sRows, unsigned sColumns, cons
                               rangeOfObject(d.object(0), rows, columns), s.objStride, d.objStride);
     else
         return false;
+}
+
+// ---- the objects of a list, a group at a time
+
+// The bytes of one object, from its lowest address on.
+struct Extent {
+    Address lowest, bytes; // the lowest address less the object's start, and their number
+};
+
+template <typename Operand>
+ZELM_INLINE Extent extentOf(const Operand &operand, unsigned rows, unsigned columns) {
+    Range range = {0, sizeof(typename Operand::Element)};
+    extend(range, signedDistance(operand.rowStride) * (rows - 1));
+    extend(range, signedDistance(operand.elemStride) * (columns - 1));
+    return {static_cast<Address>(range.low), static_cast<Address>(range.high - range.low)};
+}
+
+// Whether the elements of one object are all distinct.
+template <typename Operand>
+ZELM_INLINE bool objectElementsAreApart(const Operand &operand, unsigned rows, unsigned columns) {
+    return areApart(std::int64_t{1} << 62, 1, span(operand.rowStride), rows, span(operand.elemStride),
+                    columns, sizeof(typename Operand::Element));
+}
+
+// The lowest addresses of the objects k to k + lanes - 1; those of an invariant are all the same.
+template <unsigned lanes>
+struct Lowest {
+    Address at[lanes];
+};
+
+template <unsigned lanes, typename Operand>
+ZELM_INLINE Lowest<lanes> lowestOf(const Operand &operand, const Extent &extent, std::uint32_t k) {
+    Lowest<lanes> lowest;
+#pragma GCC unroll 4
+    for (unsigned lane = 0; lane < lanes; ++lane)
+        lowest.at[lane] = operand.object(k + lane).start + extent.lowest;
+    return lowest;
+}
+
+template <unsigned lanes>
+ZELM_INLINE bool areApartFromEachOther(const Lowest<lanes> &a, Address bytes) {
+    bool apart = true;
+#pragma GCC unroll 4
+    for (unsigned lane = 1; lane < lanes; ++lane)
+#pragma GCC unroll 4
+        for (unsigned other = 0; other < lane; ++other)
+            apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
+    return apart;
+}
+
+template <unsigned lanes>
+ZELM_INLINE bool areApartFrom(const Lowest<lanes> &a, Address bytesOfA, const Lowest<lanes> &b,
+                              Address bytesOfB) {
+    Address lowA = a.at[0], highA = a.at[0], lowB = b.at[0], highB = b.at[0];
+#pragma GCC unroll 4
+    for (unsigned lane = 1; lane < lanes; ++lane) {
+        lowA = a.at[lane] < lowA ? a.at[lane] : lowA;
+        highA = a.at[lane] > highA ? a.at[lane] : highA;
+        lowB = b.at[lane] < lowB ? b.at[lane] : lowB;
+        highB = b.at[lane] > highB ? b.at[lane] : highB;
+    }
+    if (areDisjoint(lowA, highA - lowA + bytesOfA, lowB, highB - lowB + bytesOfB))
+        return true;
+    bool apart = true;
+    for (unsigned lane = 0; lane < lanes; ++lane)
+        for (unsigned other = 0; other < lanes; ++other)
+            apart &= areDisjoint(a.at[lane], bytesOfA, b.at[other], bytesOfB);
+    return apart;
 }
 
 } // namespace zelm::frame

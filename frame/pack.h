@@ -43,16 +43,6 @@ ZELM_INLINE void storePack(Address to, __m128d value) {
     _mm_storeu_pd(reinterpret_cast<double *>(to), value);
 }
 
-// Stores past the caches, to an address that is a multiple of 16. A store fence must follow before the call
-// returns.
-ZELM_INLINE void streamPack(Address to, __m128 value) {
-    _mm_stream_ps(reinterpret_cast<float *>(to), value);
-}
-
-ZELM_INLINE void streamPack(Address to, __m128d value) {
-    _mm_stream_pd(reinterpret_cast<double *>(to), value);
-}
-
 ZELM_INLINE __m128 broadcast(float value) {
     return _mm_set1_ps(value);
 }

@@ -5,16 +5,16 @@
 
 namespace zelm::solvers {
 
-// One system. d is the only work space: it holds the forward pass's results, so where it overlaps b, later
-// rows of b are read after they were overwritten.
+// One system, as the definition has it. d is the only work space: it holds the forward pass's results, so
+// where it overlaps b, later rows of b are read after they were overwritten.
 template <typename A, typename B, typename D, typename Size>
-__attribute__((noinline)) void luBackSubstObject(const A &a, Address pivots, const B &b, const D &d,
-                                                 Size size) {
+__attribute__((noinline)) void luBackSubstInPlace(const A &a, Address pivots, const B &b, const D &d,
+                                                  Size size) {
     using T = typename D::Element;
     const std::uint32_t n = size.value();
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
 
-    d.set(0, b.get(row(0)));
+    copyElement<T>(d.address(0, 0, 0), b.address(0, row(0), 0));
     for (std::uint32_t i = 1; i < n; ++i) {
         const std::uint32_t r = row(i);
         T sum = 0;
@@ -32,12 +32,70 @@ __attribute__((noinline)) void luBackSubstObject(const A &a, Address pivots, con
     }
 }
 
-// Row numbers are used as given, whatever they are; groups keep to those that lie inside the matrix, since
-// only for them is it known which bytes are read.
-ZELM_INLINE bool rowsAreInside(Address pivots, unsigned rows, unsigned entries) {
+// The same for adjacent elements: they are distinct, so that what was stored in d can be read from registers.
+template <unsigned N, typename A, typename T>
+ZELM_INLINE void luBackSubstDense(const A &a, Address pivots, const Dense<const T> &b, const Dense<T> &d) {
+    T x[N];
+    const auto row = [&](unsigned i) { return load<std::uint32_t>(pivots + i * 4); };
+    x[0] = b.get(row(0));
+    d.set(0, x[0]);
+#pragma GCC unroll 6
+    for (unsigned i = 1; i < N; ++i) {
+        const std::uint32_t r = row(i);
+        T sum = 0;
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < i; ++j)
+            sum = sum + a.get(r, j, N) * x[j];
+        x[i] = b.get(r) - sum;
+        d.set(i, x[i]);
+    }
+#pragma GCC unroll 6
+    for (unsigned back = 0; back < N; ++back) {
+        const unsigned i = N - 1 - back;
+        const std::uint32_t r = row(i);
+        T sum = 0;
+#pragma GCC unroll 6
+        for (unsigned j = i + 1; j < N; ++j)
+            sum = sum + a.get(r, j, N) * x[j];
+        x[i] = (back == 0 ? x[i] : x[i] - sum) / a.get(r, i, N);
+        d.set(i, x[i]);
+    }
+}
+
+// Row numbers are used as given, whatever they are; registers and groups keep to those that lie inside the
+// matrix, since only for them is it known which bytes are read.
+template <unsigned N>
+ZELM_INLINE bool rowsAreInside(Address pivots) {
     bool inside = true;
-    for (unsigned e = 0; e < entries; ++e)
-        inside &= load<std::uint32_t>(pivots + e * 4) < rows;
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        inside &= load<std::uint32_t>(pivots + i * 4) < N;
+    return inside;
+}
+
+template <typename A, typename B, typename D, typename Size>
+ZELM_INLINE void luBackSubstObject(const A &a, Address pivots, const B &b, const D &d, Size size) {
+    if constexpr (D::isDense && Size::fixed != 0)
+        luBackSubstDense<Size::fixed>(a, pivots, b, d);
+    else
+        luBackSubstInPlace(a, pivots, b, d, size);
+}
+
+// The same for the blocks of `entries` row numbers of a group, four at a time where they last.
+template <unsigned N, unsigned entries>
+ZELM_INLINE bool rowsOfGroupAreInside(Address pivots) {
+    const __m128i lowest = _mm_set1_epi32(static_cast<int>(0x80000000u));
+    const __m128i limit = _mm_set1_epi32(static_cast<int>(0x80000000u + N - 1));
+    __m128i outside = _mm_setzero_si128();
+    constexpr unsigned whole = entries / 4 * 4;
+#pragma GCC unroll 6
+    for (unsigned e = 0; e < whole; e += 4) {
+        const __m128i rows = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pivots + e * 4));
+        outside = _mm_or_si128(outside, _mm_cmpgt_epi32(_mm_xor_si128(rows, lowest), limit));
+    }
+    bool inside = _mm_movemask_epi8(outside) == 0;
+    for (unsigned e = whole; e < entries; ++e)
+        inside &= load<std::uint32_t>(pivots + e * 4) < N;
     return inside;
 }
 
@@ -88,28 +146,26 @@ ZELM_INLINE bool luBackSubstInGroups(const A &a, const Range &pivots, const B &b
            isUntouched(b, 1, N, d, 1, N, count) && areDisjoint(pivots, rangeOf(d, 1, N, count));
 }
 
-// The same for one group of a list.
+// The same for one group of a list, from the extents of its objects.
 template <unsigned N, typename A, typename B, typename D>
-ZELM_INLINE bool luBackSubstListGroup(const Group<A> &a, const Range &pivots, const Group<B> &b,
-                                      const Group<D> &d) {
-    constexpr unsigned lanes = Group<D>::lanes;
-    Range target[lanes];
-    bool fit = elementsAreApart(d.objects[0], 1, N);
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < lanes; ++lane) {
-        target[lane] = rangeOfObject(d.objects[lane], 1, N);
-        fit = fit && isKnown(target[lane]) && areDisjoint(target[lane], pivots);
+struct LuBackSubstExtents {
+    static constexpr unsigned lanes = kLanes<typename D::Element>;
+    Extent matrix, right, result;
+    bool distinct;
+    ZELM_INLINE LuBackSubstExtents(const A &a, const B &b, const D &d)
+        : matrix(extentOf(a, N, N)), right(extentOf(b, 1, N)), result(extentOf(d, 1, N)),
+          distinct(objectElementsAreApart(d, 1, N)) {}
+    ZELM_INLINE bool fit(const A &a, const B &b, const D &d, Address pivots, Address pivotBytes,
+                         std::uint32_t k) const {
+        const Lowest<lanes> target = lowestOf<lanes>(d, result, k);
+        bool apart = distinct && areApartFromEachOther(target, result.bytes) &&
+                     areApartFrom(target, result.bytes, lowestOf<lanes>(a, matrix, k), matrix.bytes) &&
+                     areApartFrom(target, result.bytes, lowestOf<lanes>(b, right, k), right.bytes);
+        for (unsigned lane = 0; lane < lanes; ++lane)
+            apart &= areDisjoint(target.at[lane], result.bytes, pivots, pivotBytes);
+        return apart;
     }
-    for (unsigned lane = 0; lane < lanes && fit; ++lane) {
-        const Range matrix = rangeOfObject(a.objects[lane], N, N),
-                    right = rangeOfObject(b.objects[lane], 1, N);
-        fit = isKnown(matrix) && isKnown(right);
-        for (unsigned other = 0; other < lanes; ++other)
-            fit = fit && areDisjoint(target[other], matrix) && areDisjoint(target[other], right) &&
-                  (other == lane || areDisjoint(target[other], target[lane]));
-    }
-    return fit;
-}
+};
 
 // ---- array forms of a fixed size
 
@@ -123,20 +179,22 @@ ZELM_INLINE ZelmStatus luBackSubstOwn(const A &a, const std::uint32_t *pivotInde
         if (!luBackSubstInGroups<N>(a, pivots, b, d, count))
             return forEachObject(count, one, a, b, d);
     }
+    const auto fits = [&] {
+        if constexpr (D::isList)
+            return LuBackSubstExtents<N, A, B, D>(a, b, d);
+        else
+            return 0;
+    }();
     const auto group = [&](std::uint32_t k) {
         if (anyEntryNull(a, k) || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
         const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
-        const Group<A> matrices = groupAt(a, k);
-        const Group<B> right = groupAt(b, k);
-        const Group<D> target = groupAt(d, k);
-        if constexpr (D::isList) {
-            if (!luBackSubstListGroup<N>(matrices, rangeFrom(pivots, lanes * N * 4), right, target))
+        if constexpr (D::isList)
+            if (!fits.fit(a, b, d, pivots, lanes * N * 4, k))
                 return false;
-        }
-        if (!rowsAreInside(pivots, N, lanes * N))
+        if (!rowsOfGroupAreInside<N, lanes * N>(pivots))
             return false;
-        luBackSubstGroup<N>(matrices, pivots, right, target);
+        luBackSubstGroup<N>(groupAt(a, k), pivots, groupAt(b, k), groupAt(d, k));
         return true;
     };
     return forEachGroup<lanes>(count, group, one, a, b, d);
@@ -149,7 +207,7 @@ ZELM_INLINE ZelmStatus luBackSubstShared(const A &a, Address pivots, const B &b,
     using T = typename D::Element;
     constexpr unsigned lanes = kLanes<T>;
     const Range pivotRange = rangeFrom(pivots, N * 4);
-    bool grouped = count >= lanes && rowsAreInside(pivots, N, N);
+    bool grouped = count >= lanes && rowsAreInside<N>(pivots);
     if constexpr (!D::isList)
         grouped = grouped && luBackSubstInGroups<N>(a, pivotRange, b, d, count);
     if (!grouped)
@@ -160,19 +218,23 @@ ZELM_INLINE ZelmStatus luBackSubstShared(const A &a, Address pivots, const B &b,
         for (unsigned j = 0; j < N; ++j)
             factors[i][j] = broadcast(a.get(load<std::uint32_t>(pivots + i * 4), j, N));
 
+    const auto fits = [&] {
+        if constexpr (D::isList)
+            return LuBackSubstExtents<N, A, B, D>(a, b, d);
+        else
+            return 0;
+    }();
     const auto group = [&](std::uint32_t k) {
         if (!grouped || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
-        const Group<B> right = groupAt(b, k);
-        const Group<D> target = groupAt(d, k);
         if constexpr (D::isList) {
             // Once an object is done by itself for its overlap, the matrix may be another one than was
             // spread.
-            grouped = luBackSubstListGroup<N>(groupAt(a, k), pivotRange, right, target);
+            grouped = fits.fit(a, b, d, pivots, N * 4, k);
             if (!grouped)
                 return false;
         }
-        luBackSubstGroupShared<N, T>(factors, pivots, right, target);
+        luBackSubstGroupShared<N, T>(factors, pivots, groupAt(b, k), groupAt(d, k));
         return true;
     };
     return forEachGroup<lanes>(count, group, one, a, b, d);

@@ -12,10 +12,25 @@ ZELM_INLINE Address pivotAddress(const std::uint32_t *pivotIndex, Address i) {
     return addressOf(pivotIndex) + i * sizeof(std::uint32_t);
 }
 
-// One matrix, factored in d. Division and negation of the multiplier are in 64-bit float in both element
-// types, the update of the rows below is in T.
+// The multiplier of a row and its negation. Both are defined in 64-bit float and rounded to T; for 32-bit
+// float the quotient in T has the same bits (see luFactor), and so has its negation unless it underflows to
+// zero.
+template <typename T>
+struct Multiplier {
+    T value, negated;
+};
+
+template <typename T>
+ZELM_INLINE Multiplier<T> luMultiplier(T element, T pivot) {
+    const T value = element / pivot;
+    if (sizeof(T) == 4 && value == 0 && element != 0)
+        return {value, static_cast<T>(0.0 - static_cast<double>(element) / static_cast<double>(pivot))};
+    return {value, T{0} - value};
+}
+
+// One matrix, factored in d as the definition has it, whatever overlaps.
 template <typename S, typename D, typename Size>
-__attribute__((noinline)) ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Size size) {
+__attribute__((noinline)) ZelmStatus luDecompInPlace(const S &s, Address pivots, const D &d, Size size) {
     using T = typename D::Element;
     const std::uint32_t n = size.value();
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
@@ -47,16 +62,134 @@ __attribute__((noinline)) ZelmStatus luDecompObject(const S &s, Address pivots, 
             return ZELM_ERR_DIV_BY_ZERO;
         for (std::uint32_t j = k + 1; j < n; ++j) {
             const std::uint32_t r = row(j);
-            const double multiplier = static_cast<double>(d.get(r, k, n)) / static_cast<double>(pivot);
-            d.set(r, k, n, static_cast<T>(multiplier));
-            const T negated = static_cast<T>(0.0 - multiplier);
+            const Multiplier<T> multiplier = luMultiplier(d.get(r, k, n), pivot);
+            d.set(r, k, n, multiplier.value);
             for (std::uint32_t c = k + 1; c < n; ++c)
-                d.set(r, c, n, d.get(pivotRow, c, n) * negated + d.get(r, c, n));
+                d.set(r, c, n, d.get(pivotRow, c, n) * multiplier.negated + d.get(r, c, n));
         }
     }
     if (!(magnitude(d.get(row(n - 1), n - 1, n)) >= threshold))
         return ZELM_ERR_DIV_BY_ZERO;
     return ZELM_OK;
+}
+
+// One matrix whose rows lie in whole packs of a local copy: a row is updated a pack at a time, with the lanes
+// up to the pivot's column left as they are. Writes the local copy and the order of its rows; the caller
+// stores them.
+template <typename T, unsigned N>
+struct LuRows {
+    static constexpr unsigned packs = (N + kLanes<T> - 1) / kLanes<T>;
+    static constexpr unsigned width = packs * kLanes<T>;
+    alignas(kPackBytes) T element[N][width];
+    std::uint32_t order[N];
+};
+
+// All bits of the lanes behind column k, none of the others.
+template <typename T>
+struct LaneMasks {
+    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+    Bits bits[2 * kLanes<T>];
+};
+template <typename T>
+inline constexpr LaneMasks<T> kLaneMasks = [] {
+    LaneMasks<T> masks = {};
+    for (unsigned lane = kLanes<T>; lane < 2 * kLanes<T>; ++lane)
+        masks.bits[lane] = ~typename LaneMasks<T>::Bits{0};
+    return masks;
+}();
+
+template <typename T, unsigned N>
+__attribute__((noinline)) ZelmStatus luFactorRows(LuRows<T, N> &rows) {
+    using Rows = LuRows<T, N>;
+    constexpr T threshold = static_cast<T>(kLuThreshold);
+    auto &order = rows.order;
+#pragma GCC unroll 6
+    for (std::uint32_t i = 0; i < N; ++i)
+        order[i] = i;
+#pragma GCC unroll 6
+    for (std::uint32_t k = 0; k + 1 < N; ++k) {
+        T best = magnitude(rows.element[order[k]][k]);
+        std::uint32_t bestPos = k;
+#pragma GCC unroll 6
+        for (std::uint32_t j = k + 1; j < N; ++j) {
+            const T value = magnitude(rows.element[order[j]][k]);
+            const std::uint32_t wins = value > best;
+            best = value > best ? value : best;
+            bestPos ^= (bestPos ^ j) & (0 - wins);
+        }
+        const std::uint32_t pivotRow = order[bestPos];
+        order[bestPos] = order[k];
+        order[k] = pivotRow;
+
+        const T pivot = rows.element[pivotRow][k];
+        if (!(magnitude(pivot) >= threshold))
+            return ZELM_ERR_DIV_BY_ZERO;
+        constexpr unsigned lanes = kLanes<T>;
+        const unsigned first = (k + 1) / lanes; // the first pack that holds a column behind k
+        const Pack<T> behind = loadPack<T>(addressOf(kLaneMasks<T>.bits + lanes - (k + 1) % lanes));
+#pragma GCC unroll 6
+        for (std::uint32_t j = k + 1; j < N; ++j) {
+            T *row = rows.element[order[j]];
+            const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
+            const Pack<T> negated = broadcast(multiplier.negated);
+#pragma GCC unroll 3
+            for (unsigned p = first; p < Rows::packs; ++p) {
+                const Address at = addressOf(row + p * lanes);
+                const Pack<T> old = loadPack<T>(at);
+                const Pack<T> updated =
+                    loadPack<T>(addressOf(rows.element[pivotRow] + p * lanes)) * negated + old;
+                storePack(at, p == first ? select(behind, updated, old) : updated);
+            }
+            row[k] = multiplier.value;
+        }
+    }
+    return magnitude(rows.element[order[N - 1]][N - 1]) >= threshold ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
+}
+
+// One row of N elements to or from a local row of whole packs.
+template <typename T, unsigned N>
+ZELM_INLINE void copyRow(Address to, Address from) {
+    constexpr unsigned whole = N / kLanes<T>;
+#pragma GCC unroll 3
+    for (unsigned p = 0; p < whole; ++p)
+        storePack(to + p * kPackBytes, loadPack<T>(from + p * kPackBytes));
+#pragma GCC unroll 3
+    for (unsigned j = whole * kLanes<T>; j < N; ++j)
+        copyElement<T>(to + j * sizeof(T), from + j * sizeof(T));
+}
+
+template <typename T, unsigned N>
+ZELM_INLINE ZelmStatus luDecompDense(const Dense<const T> &s, Address pivots, const Dense<T> &d) {
+    LuRows<T, N> rows;
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i) {
+        copyRow<T, N>(addressOf(rows.element[i]), s.rowStart(i));
+#pragma GCC unroll 3
+        for (unsigned j = N; j < rows.width; ++j)
+            rows.element[i][j] = 0;
+    }
+    const ZelmStatus status = luFactorRows(rows);
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        copyRow<T, N>(d.rowStart(i), addressOf(rows.element[i]));
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        store(pivots + i * 4, rows.order[i]);
+    return status;
+}
+
+// One matrix, factored into d. Adjacent rows of a fixed size are factored in a local copy, unless the rows of
+// d lie over each other or over pivotIndex.
+template <typename S, typename D, typename Size>
+ZELM_INLINE ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Size size) {
+    using T = typename D::Element;
+    if constexpr (D::isDense && Size::fixed != 0) {
+        constexpr unsigned N = Size::fixed;
+        if (static_cast<std::int32_t>(d.rowStride) >= static_cast<std::int32_t>(N * sizeof(T)) &&
+            areDisjoint(pivots, N * 4, d.start, d.rowStride * (N - 1) + N * sizeof(T)))
+            return luDecompDense<T, N>(s, pivots, d);
+    }
+    return luDecompInPlace(s, pivots, d, size);
 }
 
 // The order of the rows of a group, from numbers in T to the pivotIndex of each object.
@@ -130,32 +263,6 @@ ZELM_INLINE bool luDecompInGroups(const S &s, const std::uint32_t *pivotIndex, c
            areDisjoint(pivots, rangeOf(d, N, N, count)) && areDisjoint(pivots, rangeOf(s, N, N, count));
 }
 
-// The same for one group of a list.
-template <unsigned N, typename S, typename D>
-ZELM_INLINE bool luDecompListGroup(const Group<S> &s, const Range &pivots, const Group<D> &d) {
-    constexpr unsigned lanes = Group<D>::lanes;
-    Range source[lanes], target[lanes];
-    bool fit = elementsAreApart(d.objects[0], N, N);
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < lanes; ++lane) {
-        source[lane] = rangeOfObject(s.objects[lane], N, N);
-        target[lane] = rangeOfObject(d.objects[lane], N, N);
-        fit = fit && isKnown(source[lane]) && isKnown(target[lane]) && areDisjoint(source[lane], pivots) &&
-              areDisjoint(target[lane], pivots);
-    }
-    for (unsigned lane = 0; lane < lanes && fit; ++lane) {
-        for (unsigned other = 0; other < lanes; ++other) {
-            if (other != lane)
-                fit = fit && areDisjoint(target[lane], target[other]) &&
-                      areDisjoint(target[lane], source[other]);
-            else
-                fit = fit &&
-                      (coincide(s.objects[lane], d.objects[lane]) || areDisjoint(target[lane], source[lane]));
-        }
-    }
-    return fit;
-}
-
 // ---- the exported rows
 
 template <typename S, typename D, typename Size>
@@ -185,14 +292,27 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
         constexpr unsigned N = Size::fixed;
         constexpr unsigned lanes = kLanes<typename D::Element>;
         if constexpr (D::isList) {
+            const Extent read = extentOf(s, N, N), written = extentOf(d, N, N);
+            const bool distinct = objectElementsAreApart(d, N, N);
+            const bool sameStrides = s.rowStride == d.rowStride && s.elemStride == d.elemStride;
             const auto group = [&](std::uint32_t k) {
-                if (anyEntryNull(s, k) || anyEntryNull(d, k))
+                if (!distinct || anyEntryNull(s, k) || anyEntryNull(d, k))
                     return false;
-                const Group<S> source = groupAt(s, k);
-                const Group<D> target = groupAt(d, k);
+                const Lowest<lanes> source = lowestOf<lanes>(s, read, k),
+                                    target = lowestOf<lanes>(d, written, k);
                 const Address pivots = pivotAddress(pivotIndex, k * n);
-                return luDecompListGroup<N>(source, rangeFrom(pivots, lanes * N * 4), target) &&
-                       luDecompGroup<N>(source, pivots, target);
+                constexpr Address pivotBytes = lanes * N * 4;
+                bool inPlace = sameStrides;
+                for (unsigned lane = 0; lane < lanes; ++lane)
+                    inPlace &= source.at[lane] == target.at[lane];
+                if (!areApartFromEachOther(target, written.bytes) ||
+                    !(inPlace || areApartFrom(target, written.bytes, source, read.bytes)))
+                    return false;
+                for (unsigned lane = 0; lane < lanes; ++lane)
+                    if (!areDisjoint(pivots, pivotBytes, target.at[lane], written.bytes) ||
+                        !areDisjoint(pivots, pivotBytes, source.at[lane], read.bytes))
+                        return false;
+                return luDecompGroup<N>(groupAt(s, k), pivots, groupAt(d, k));
             };
             return forEachGroup<lanes>(count, group, one, s, d);
         } else {
