@@ -140,7 +140,7 @@ TEST(BadInput, EarlierOutputsStay) {
     sandbox.write("relief.png", "of an earlier run");
     sandbox.write("bad.asc", header + "1 2 3\n");
     EXPECT_EQ(sandbox.run({"bad.asc"}).status, 2);
-    EXPECT_EQ(sandbox.read("relief.png"), "of an earlier run");
+    EXPECT_TRUE(sandbox.read("relief.png") == "of an earlier run");
     EXPECT_EQ(sandbox.files(), (Names{"bad.asc", "relief.png"}));
 }
 

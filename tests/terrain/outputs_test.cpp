@@ -179,12 +179,18 @@ TEST(Outputs, PlaceThatCannotBeWrittenLeavesNothing) {
     EXPECT_EQ(sandbox.files(), Names{});
 }
 
-TEST(Outputs, FullDiskIsNoticed) {
-    const Sandbox sandbox;
-    const auto outcome = sandbox.run({"--curvature", "/dev/full", TERRAIN_GRID});
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors.find("terrain: /dev/full: expected "), 0u) << outcome.errors;
-    EXPECT_EQ(sandbox.files(), Names{});
+// A picture and a grid, which are written in different ways.
+TEST(Outputs, FullDiskIsNoticedAndEarlierOutputsStay) {
+    for (const char *option : {"--curvature", "--slope-grid"}) {
+        const Sandbox sandbox;
+        sandbox.write("relief.png", "of an earlier run");
+        const auto outcome = sandbox.run({option, "/dev/full", TERRAIN_GRID});
+        EXPECT_EQ(outcome.status, 1) << option;
+        EXPECT_EQ(outcome.output, "") << option;
+        EXPECT_EQ(outcome.errors.find("terrain: /dev/full: expected "), 0u) << outcome.errors;
+        EXPECT_TRUE(sandbox.read("relief.png") == "of an earlier run") << option;
+        EXPECT_EQ(sandbox.files(), Names{"relief.png"}) << option;
+    }
 }
 
 TEST(Outputs, DevicesAreNotReplaced) {
