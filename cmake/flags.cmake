@@ -26,7 +26,9 @@ target_compile_options(zelm_library_flags INTERFACE
   # Square roots as instructions, not as calls that could set errno. No bit changes.
   -fno-math-errno
   -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables -fno-unwind-tables
-  -fno-stack-protector -U_FORTIFY_SOURCE -fno-plt -fno-ident -fno-threadsafe-statics)
+  -fno-stack-protector -U_FORTIFY_SOURCE -fno-plt -fno-ident -fno-threadsafe-statics
+  # One branch per tested pointer: g++ would otherwise gather the tests into a value, which costs more than they do.
+  $<$<CXX_COMPILER_ID:GNU>:SHELL:--param logical-op-non-short-circuit=0>)
 if(ZELM_TARGET STREQUAL "t7")
   # Old callers come with a stack that is aligned to 4 bytes only; without this every kernel that spills vectors
   # would crash for them. Only functions that need it realign.

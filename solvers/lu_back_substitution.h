@@ -32,9 +32,11 @@ __attribute__((noinline)) void luBackSubstInPlace(const A &a, Address pivots, co
     }
 }
 
-// The same for adjacent elements: they are distinct, so that what was stored in d can be read from registers.
-template <unsigned N, typename A, typename T>
-ZELM_INLINE void luBackSubstDense(const A &a, Address pivots, const Dense<const T> &b, const Dense<T> &d) {
+// The same for a fixed size, where the elements of d are distinct: what was stored in d is read from
+// registers.
+template <unsigned N, typename A, typename B, typename D>
+ZELM_INLINE void luBackSubstInRegisters(const A &a, Address pivots, const B &b, const D &d) {
+    using T = typename D::Element;
     T x[N];
     const auto row = [&](unsigned i) { return load<std::uint32_t>(pivots + i * 4); };
     x[0] = b.get(row(0));
@@ -73,12 +75,14 @@ ZELM_INLINE bool rowsAreInside(Address pivots) {
     return inside;
 }
 
-template <typename A, typename B, typename D, typename Size>
-ZELM_INLINE void luBackSubstObject(const A &a, Address pivots, const B &b, const D &d, Size size) {
-    if constexpr (D::isDense && Size::fixed != 0)
-        luBackSubstDense<Size::fixed>(a, pivots, b, d);
+// Whether the elements of one result are distinct; those of an array's objects all are if those of the first
+// are.
+template <unsigned N, typename D>
+ZELM_INLINE bool resultIsDistinct(const D &d) {
+    if constexpr (D::isTable)
+        return positionsAreApart(d.object(0), N, sizeof(typename D::Element));
     else
-        luBackSubstInPlace(a, pivots, b, d, size);
+        return span(d.elemStride) >= std::int64_t{sizeof(typename D::Element)};
 }
 
 // The same for the blocks of `entries` row numbers of a group, four at a time where they last.
@@ -169,6 +173,11 @@ struct LuBackSubstExtents {
 
 // ---- array forms of a fixed size
 
+// From which order on a group of systems with a matrix each is faster than one after the other: gathering the
+// rows in pivot order costs as much as small systems take.
+template <typename T>
+constexpr unsigned kLeastOrderOfOwnGroups = sizeof(T) == 4 ? 5 : 7;
+
 // A matrix for each system.
 template <unsigned N, typename A, typename B, typename D, typename One>
 ZELM_INLINE ZelmStatus luBackSubstOwn(const A &a, const std::uint32_t *pivotIndex, const B &b, const D &d,
@@ -250,7 +259,13 @@ ZELM_INLINE ZelmStatus luBackSubstSingle(const A &a, const std::uint32_t *pivotI
                                              tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
-    luBackSubstObject(a, addressOf(pivotIndex), b, d, size);
+    if constexpr (Size::fixed != 0) {
+        if (resultIsDistinct<Size::fixed>(d)) {
+            luBackSubstInRegisters<Size::fixed>(a, addressOf(pivotIndex), b, d);
+            return ZELM_OK;
+        }
+    }
+    luBackSubstInPlace(a, addressOf(pivotIndex), b, d, size);
     return ZELM_OK;
 }
 
@@ -269,16 +284,26 @@ ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIn
         status != kProceed)
         return status;
     const auto pivotsOf = [&](std::uint32_t k) { return pivotAddress(pivotIndex, kIsShared<A> ? 0 : k * n); };
-    const auto one = [&](std::uint32_t k) {
-        luBackSubstObject(a.object(k), pivotsOf(k), b.object(k), d.object(k), size);
+    const auto inPlace = [&](std::uint32_t k) {
+        luBackSubstInPlace(a.object(k), pivotsOf(k), b.object(k), d.object(k), size);
         return ZELM_OK;
     };
     if constexpr (Size::fixed == 0) {
-        return forEachObject(count, one, a, b, d);
-    } else if constexpr (kIsShared<A>) {
-        return luBackSubstShared<Size::fixed>(a, addressOf(pivotIndex), b, d, one, count);
+        return forEachObject(count, inPlace, a, b, d);
     } else {
-        return luBackSubstOwn<Size::fixed>(a, pivotIndex, b, d, one, count);
+        constexpr unsigned N = Size::fixed;
+        if (!resultIsDistinct<N>(d))
+            return forEachObject(count, inPlace, a, b, d);
+        const auto one = [&](std::uint32_t k) {
+            luBackSubstInRegisters<N>(a.object(k), pivotsOf(k), b.object(k), d.object(k));
+            return ZELM_OK;
+        };
+        if constexpr (kIsShared<A>)
+            return luBackSubstShared<N>(a, addressOf(pivotIndex), b, d, one, count);
+        else if constexpr (N >= kLeastOrderOfOwnGroups<typename D::Element>)
+            return luBackSubstOwn<N>(a, pivotIndex, b, d, one, count);
+        else
+            return forEachObject(count, one, a, b, d);
     }
 }
 
