@@ -15,7 +15,8 @@ constexpr std::size_t moments = (highest + 1) * (highest + 2) / 2;
 
 // Moments are numbered by p + q, and by q among those of one sum.
 constexpr std::size_t momentOf(int p, int q) {
-    return static_cast<std::size_t>((p + q) * (p + q + 1) / 2 + q);
+    const auto sum = static_cast<std::size_t>(p + q);
+    return sum * (sum + 1) / 2 + static_cast<std::size_t>(q);
 }
 
 constexpr double power(int base, int exponent) {

@@ -17,14 +17,15 @@
 namespace terrain {
 
 constexpr int reach = 2; // cells from the centre to each side
-constexpr std::size_t neighbours = (2 * reach + 1) * (2 * reach + 1);
+constexpr std::size_t across = 2 * reach + 1;
+constexpr std::size_t neighbours = across * across;
 
 // Where neighbour n lies: row by row from the north-west.
 constexpr int eastOf(std::size_t n) {
-    return static_cast<int>(n % (2 * reach + 1)) - reach;
+    return static_cast<int>(n % across) - reach;
 }
 constexpr int northOf(std::size_t n) {
-    return reach - static_cast<int>(n / (2 * reach + 1));
+    return reach - static_cast<int>(n / across);
 }
 
 // The weights of the neighbours if all are there: 1 / (1 + distance)^exponent, with the distance on the
