@@ -8,20 +8,19 @@ namespace {
 
 // The terms of the surface are x^p y^q with these powers; an element of the normal equations is the weighted
 // sum of a product of two terms, so one of the 15 moments with p + q <= 4.
-constexpr std::array<int, order> powersOfX = {2, 1, 0, 1, 0, 0};
-constexpr std::array<int, order> powersOfY = {0, 1, 2, 0, 1, 0};
-constexpr int highest = 4;
+constexpr std::array<std::size_t, order> powersOfX = {2, 1, 0, 1, 0, 0};
+constexpr std::array<std::size_t, order> powersOfY = {0, 1, 2, 0, 1, 0};
+constexpr std::size_t highest = 4;
 constexpr std::size_t moments = (highest + 1) * (highest + 2) / 2;
 
 // Moments are numbered by p + q, and by q among those of one sum.
-constexpr std::size_t momentOf(int p, int q) {
-    const auto sum = static_cast<std::size_t>(p + q);
-    return sum * (sum + 1) / 2 + static_cast<std::size_t>(q);
+constexpr std::size_t momentOf(std::size_t p, std::size_t q) {
+    return (p + q) * (p + q + 1) / 2 + q;
 }
 
-constexpr double power(int base, int exponent) {
+constexpr double power(int base, std::size_t exponent) {
     double result = 1;
-    for (int i = 0; i < exponent; ++i) {
+    for (std::size_t i = 0; i < exponent; ++i) {
         result *= base;
     }
     return result;
@@ -32,8 +31,8 @@ using MomentRow = std::array<double, moments>;
 constexpr std::array<MomentRow, neighbours> makeMonomials() {
     std::array<MomentRow, neighbours> table{};
     for (std::size_t n = 0; n < neighbours; ++n) {
-        for (int sum = 0; sum <= highest; ++sum) {
-            for (int q = 0; q <= sum; ++q) {
+        for (std::size_t sum = 0; sum <= highest; ++sum) {
+            for (std::size_t q = 0; q <= sum; ++q) {
                 table[n][momentOf(sum - q, q)] = power(eastOf(n), sum - q) * power(northOf(n), q);
             }
         }
