@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Proves on the built file that the library can be loaded anywhere and loads nothing.
 
-    check_elf.py --library FILE --target t7|x64 --grid zelm-grid.json [--objdump PROGRAM] RULE...
+    check_elf.py --file FILE --target t7|x64 --grid zelm-grid.json [--objdump PROGRAM] RULE...
 
 Each rule prints what breaks it; without a rule, all are checked. Exit status 1 if one is broken.
 """
@@ -55,7 +55,7 @@ def startup(library, _):
 
 def soname(library, options):
     """The SONAME is the file's own name."""
-    name = Path(options.library).name
+    name = Path(options.file).name
     found = library.dynamic_texts("SONAME")
     return [] if found == [name] else [f"SONAME {found} instead of {name}"]
 
@@ -126,7 +126,7 @@ INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(.+)$")
 
 def disassemble(options):
     """(function, mnemonic, operands) of every instruction."""
-    text = subprocess.run([options.objdump, "-d", "--no-show-raw-insn", "-M", "att", options.library], check=True,
+    text = subprocess.run([options.objdump, "-d", "--no-show-raw-insn", "-M", "att", options.file], check=True,
                           stdout=subprocess.PIPE, text=True,
                           env=os.environ | {"LC_ALL": "C"}).stdout
     function = "?"
@@ -178,13 +178,13 @@ RULES = {rule.__name__: rule for rule in (
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--library", required=True)
+    parser.add_argument("--file", required=True)
     parser.add_argument("--target", required=True, choices=MACHINES)
     parser.add_argument("--grid", required=True)
     parser.add_argument("--objdump", default="objdump")
     parser.add_argument("rules", nargs="*", metavar="RULE", choices=[[], *RULES])
     options = parser.parse_args()
-    library = elf.Elf(options.library)
+    library = elf.Elf(options.file)
     failed = False
     for name in options.rules or RULES:
         broken = RULES[name](library, options)

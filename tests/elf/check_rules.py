@@ -70,7 +70,7 @@ def main():
         subprocess.run([options.compiler, *shlex.split(options.flags), "-O1", "-msse3", "-mfpmath=sse", "-shared",
                         "-fPIC", "-fvisibility=hidden", "-Wl,-soname," + library.name, "-o", library, source, *LINK,
                         *flags], check=True)
-        checker = [sys.executable, Path(__file__).with_name("check_elf.py"), "--library", library, "--target",
+        checker = [sys.executable, Path(__file__).with_name("check_elf.py"), "--file", library, "--target",
                    options.target, "--grid", grid, *([rule] if rule else [])]
         result = subprocess.run(checker, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
         good = result.returncode == status and "Traceback" not in result.stdout
