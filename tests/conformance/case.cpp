@@ -34,7 +34,8 @@ bool isOperand(Kind kind) {
 }
 
 bool fitsShape(const Placement &a, const Placement &b) {
-    return a.array == b.array && a.rows == b.rows && a.columns == b.columns && a.table == b.table;
+    return a.array == b.array && a.rows == b.rows && a.columns == b.columns && a.table == b.table &&
+           a.packed == b.packed;
 }
 
 class Maker {
@@ -115,8 +116,10 @@ private:
         const std::uint32_t r = random_.below(100);
         if (r < 40)
             return packed;
-        if (r < 65)
+        if (r < 60)
             return packed + gap + half;
+        if (r < 65)
+            return (packed + 15) / 16 * 16 + half;
         if (r < 75)
             return -packed;
         if (r < 83 || halfSteps_ || !mayOverlap)
@@ -130,6 +133,7 @@ private:
         o.parameter = p;
         o.array = parameter.array;
         o.table = zelmref::hasTable(target_.cell, parameter);
+        o.packed = parameter.kind == Kind::Result;
         o.perObject = o.table && layoutIs(Layout::L, Layout::LS2);
         o.objects = o.array ? case_.call.count() : 1;
         o.rows = case_.call.dimension(parameter.rows);
@@ -139,14 +143,14 @@ private:
         // A destination whose elements coincide within one object: not in every case of a solver.
         const bool isDst = parameter.name == "dst";
         const bool mayOverlap = !isDst || overlap_ == Overlap::Any || random_.chance(10);
-        drawStrides(o, parameter, mayOverlap);
+        drawStrides(o, mayOverlap);
         if (extent(o) > roomForOperand)
             packTightly(o);
         case_.operands.push_back(std::move(o));
     }
 
-    void drawStrides(Placement &o, const Parameter &parameter, bool mayOverlap) {
-        const bool strided = layoutIs(Layout::S2, Layout::LS2) && parameter.kind != Kind::Result;
+    void drawStrides(Placement &o, bool mayOverlap) {
+        const bool strided = layoutIs(Layout::S2, Layout::LS2) && !o.packed;
         const bool perPosition = o.table && !o.perObject;
         const std::uint32_t special = random_.below(100);
 
@@ -165,7 +169,7 @@ private:
             o.elem = size_ * o.objects;
             o.obj = size_;
         }
-        if (parameter.kind == Kind::Result || target_.cell.layout == Layout::P)
+        if (o.packed || target_.cell.layout == Layout::P)
             o.obj = size_;
         if (o.table)
             drawEntries(o, mayOverlap);
@@ -255,17 +259,22 @@ private:
     void relate() {
         const std::size_t sources = case_.operands.size() - 1;
         const std::size_t chosen = random_.below(static_cast<std::uint32_t>(sources));
+        const Overlap overlap = overlapWith(case_.operands[chosen]);
         switch (relation_) {
         case Relation::Apart:
             break;
         case Relation::Same:
+            if (overlap == Overlap::Apart)
+                break;
             if (fitsShape(case_.operands[chosen], dst()))
                 lieLike(dst(), case_.operands[chosen]);
-            else if (overlap_ == Overlap::Any)
+            else if (overlap == Overlap::Any)
                 displace(case_.operands[chosen]);
             break;
         case Relation::Displaced:
-            if (overlap_ == Overlap::Any) {
+            if (overlap == Overlap::Apart)
+                break;
+            if (overlap == Overlap::Any) {
                 if (random_.chance(60) && fitsShape(case_.operands[chosen], dst()))
                     lieLike(dst(), case_.operands[chosen]);
                 displace(case_.operands[chosen]);
@@ -280,7 +289,8 @@ private:
             const bool also = random_.chance(30);
             if (sources >= 2 && fitsShape(case_.operands[0], case_.operands[1])) {
                 lieLike(case_.operands[1], case_.operands[0]);
-                if (also && fitsShape(case_.operands[0], dst()))
+                if (also && fitsShape(case_.operands[0], dst()) &&
+                    overlapWith(case_.operands[0]) != Overlap::Apart)
                     lieLike(dst(), case_.operands[0]);
             }
             break;
@@ -289,6 +299,12 @@ private:
             touch();
             break;
         }
+    }
+
+    Overlap overlapWith(const Placement &source) const {
+        const zelmref::Family &family = *target_.family;
+        return family.overlapWith ? family.overlapWith(target_.cell, target_.signature[source.parameter])
+                                  : family.overlap;
     }
 
     static void lieLike(Placement &o, const Placement &model) {
@@ -333,7 +349,7 @@ private:
         }
         std::int64_t record = 0;
         for (const Placement &o : case_.operands)
-            if (o.array)
+            if (inRecord(o))
                 record += perPosition(o) ? size_ * std::int64_t{o.rows} * o.columns : objectBytes(o);
         const std::int64_t pad = size_ * random_.between(0, 2);
         const std::int64_t distance = record + pad;
@@ -342,7 +358,7 @@ private:
         const bool backwards = random_.chance(20);
         std::int64_t at = 0;
         for (Placement &o : case_.operands) {
-            if (!o.array)
+            if (!inRecord(o))
                 continue;
             o.slab = 0;
             o.obj = backwards ? -distance : distance;
@@ -361,10 +377,11 @@ private:
         }
         std::size_t next = 1;
         for (Placement &o : case_.operands)
-            if (!o.array)
+            if (!inRecord(o))
                 o.slab = next++;
     }
 
+    static bool inRecord(const Placement &o) { return o.array && !o.packed; }
     static bool perPosition(const Placement &o) { return o.table && !o.perObject; }
 
     void touch() {
@@ -381,18 +398,23 @@ private:
     // Gives each group of operands its place in its slab: against a guard page, or anywhere at any alignment.
     void placeSlabs() {
         for (std::size_t slab = 0; slab < firstTableSlab; ++slab) {
-            bool used = false;
+            bool used = false, anyByte = true;
             std::int64_t low = 0, high = 0;
             for (const Placement &o : case_.operands) {
                 if (o.slab != slab)
                     continue;
+                anyByte = anyByte && target_.signature[o.parameter].anyByte;
                 low = used ? std::min(low, o.origin + o.low) : o.origin + o.low;
                 high = used ? std::max(high, o.origin + o.high) : o.origin + o.high;
                 used = true;
             }
             if (!used)
                 continue;
-            const std::int64_t base = place(slab, high - low, size_ == 8 && sizeof(void *) == 8 ? 8 : 4);
+            const bool wide = size_ == 8 && (sizeof(void *) == 8 || anyByte);
+            std::int64_t base = place(slab, high - low, wide ? 8 : 4);
+            if (anyByte && random_.chance(50)) // still inside of what `place` has noted
+                base = std::min(base + random_.between(0, 15),
+                                static_cast<std::int64_t>(Arena::slabSize) - (high - low));
             for (Placement &o : case_.operands)
                 if (o.slab == slab)
                     o.origin += base - low;
@@ -482,10 +504,16 @@ private:
             if (!o.table)
                 continue;
             Passed &p = passed(o);
+            const bool intoGuard = target_.family->neverReads && !o.perObject && random_.chance(50);
             for (std::size_t e = 0; e < o.entries.size(); ++e) {
-                const std::uintptr_t entry = address(o, o.entries[e]) -
-                                             static_cast<std::uintptr_t>(static_cast<std::intptr_t>(p.shift));
-                zelmref::writeWord(p.base + e * sizeof(void *), entry);
+                const auto i = static_cast<std::uint32_t>(e / o.columns),
+                           j = static_cast<std::uint32_t>(e % o.columns);
+                const bool astray = intoGuard && target_.family->neverReads(case_.call, i, j);
+                const std::uintptr_t place =
+                    astray ? reinterpret_cast<std::uintptr_t>(arena_.slab(o.slab)) + Arena::slabSize + 64
+                           : address(o, o.entries[e]);
+                const auto shift = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(p.shift));
+                zelmref::writeWord(p.base + e * sizeof(void *), place - shift);
             }
         }
     }
@@ -538,6 +566,7 @@ private:
                 writeMatrices(o);
                 break;
             case Content::Solving:
+            case Content::Sums:
                 writeNumbers(o, random_.chance(60) ? Style::Plain : drawStyle());
                 break;
             }
@@ -601,13 +630,17 @@ private:
         }
     }
 
+    bool followsNull(std::size_t entry) const {
+        return target_.family->followsNull && target_.family->followsNull(case_.call, entry);
+    }
+
     void drawNulls() {
         const bool arguments = random_.chance(12), entries = random_.chance(12);
         if (entries)
             for (const Placement &o : case_.operands) {
                 const bool here = random_.chance(50);
                 const std::uint32_t entry = random_.below(static_cast<std::uint32_t>(o.entries.size() + 1));
-                if (here && entry < o.entries.size())
+                if (here && entry < o.entries.size() && !followsNull(entry))
                     zelmref::writeWord(passed(o).base + entry * sizeof(void *), std::uintptr_t{0});
             }
         if (!arguments)

@@ -14,7 +14,7 @@ bool isPerPosition(const Cell &cell) {
 
 } // namespace
 
-std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables) {
+std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables, std::size_t entries) {
     const Signature &signature = *call.signature;
     const bool array = isArray(*call.cell);
 
@@ -31,7 +31,7 @@ std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTa
             if (!hasTable(*call.cell, parameter))
                 continue;
             const Operand operand(call, parameter.name);
-            for (std::size_t e = 0; e < operand.positions(); ++e)
+            for (std::size_t e = 0; e < operand.positions() && e < entries; ++e)
                 if (operand.entryIsNull(e))
                     return ZELM_ERR_NULL_PTR;
         }

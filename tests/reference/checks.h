@@ -14,8 +14,10 @@ enum class SingleTables {
     TestedFirst       // the solver families: the whole table before anything is computed
 };
 
-// Top-level pointers, dimensions, whole tables, zero count: the status of the first that decides the call.
-std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables);
+// Top-level pointers, dimensions, whole tables, zero count: the status of the first that decides the call. Of
+// a table of one entry per position at most `entries` are tested.
+std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables,
+                                         std::size_t entries = SIZE_MAX);
 
 // Is an entry null in any table of one entry per object?
 bool objectIsNull(const Call &call, std::uint32_t k);

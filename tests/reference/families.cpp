@@ -6,9 +6,15 @@ namespace zelmref {
 extern const Family vectorAddSub;
 extern const Family luDecomp;
 extern const Family luBackSubst;
+extern const Family dotProduct;
+extern const Family crossProduct;
+extern const Family l2Norm;
+extern const Family frobeniusNorm;
+extern const Family trace;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family : {&vectorAddSub, &luDecomp, &luBackSubst})
+    for (const Family *family : {&vectorAddSub, &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm,
+                                 &frobeniusNorm, &trace})
         if (family->serves(cell))
             return family;
     return nullptr;

@@ -12,6 +12,7 @@ namespace zelmref {
 enum class Overlap {
     Any,     // the traversal defines all of them
     InPlace, // only dst and source object by object the same, or apart
+    Apart,   // none
 };
 
 // What sort of numbers brings a family's branches to light.
@@ -19,6 +20,7 @@ enum class Content {
     Numbers,  // element by element: any number anywhere
     Pivoting, // matrices to eliminate: ties, thresholds, singular ones
     Solving,  // factors and right-hand sides
+    Sums,     // numbers whose sum depends on its order
 };
 
 struct Family {
@@ -27,6 +29,14 @@ struct Family {
     ZelmStatus (*run)(const Call &call, ComputedElements &results);
     Overlap overlap;
     Content content;
+
+    // The rest is for families that need it.
+    // Where the overlap that has a result is not the same for all cells and sources.
+    Overlap (*overlapWith)(const Cell &cell, const Parameter &source) = nullptr;
+    // Is a table's entry used without a test? Then a null one is followed, and no case has it.
+    bool (*followsNull)(const Call &call, std::size_t entry) = nullptr;
+    // Is an element of the source never read? Then a table's entry for it may lead anywhere.
+    bool (*neverReads)(const Call &call, std::uint32_t i, std::uint32_t j) = nullptr;
 };
 
 // The family that serves a cell, or null.

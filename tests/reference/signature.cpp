@@ -20,6 +20,10 @@ Parameter pivotIndex(bool array) {
     return {"pivotIndex", Kind::PivotIndex, array, "", "n"};
 }
 
+Parameter result(bool array) {
+    return {"dst", Kind::Result, array, "", ""};
+}
+
 Parameter dimension(std::string name) {
     return {std::move(name), Kind::Dimension, false, "", ""};
 }

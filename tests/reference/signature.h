@@ -19,6 +19,7 @@ struct Parameter {
     bool array = false;
     std::string rows, columns;
     bool unreadObjStride = false; // an ObjStride is passed although the operand is invariant
+    bool anyByte = false;         // its address need not be a multiple of its element's alignment
 };
 
 using Signature = std::vector<Parameter>;
@@ -27,6 +28,7 @@ Parameter vector(std::string name, bool array, std::string length = "len");
 Parameter matrix(std::string name, bool array, std::string height = "n", std::string width = "n");
 Parameter constant(std::string name);
 Parameter pivotIndex(bool array);
+Parameter result(bool array); // dst, one number per object
 Parameter dimension(std::string name);
 Parameter objectCount();
 
