@@ -353,7 +353,7 @@ Comparison compareSingleSolution() {
 
 template <class T, std::size_t n, Layout layout = Layout::Standard>
 void addDecompositionRow(std::size_t count) {
-    addRow(nameOf<T, layout, n>("LUDecomp_ma") + "/" + std::to_string(count), count,
+    addRow(nameOf<T, layout, n>("LUDecomp_ma") + "/" + std::to_string(count),
            [count] { return compareDecompositions<T, layout, n>(count); });
 }
 
@@ -361,14 +361,14 @@ template <bool shared, class T, std::size_t n, Layout layout = Layout::Standard>
 void addSolutionRow(std::size_t count) {
     addRow(nameOf<T, layout, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava") + "/" +
                std::to_string(count),
-           count, [count] { return compareSolutions<shared, T, layout, n>(count); });
+           [count] { return compareSolutions<shared, T, layout, n>(count); });
 }
 
 template <class T, std::size_t n>
 void addRowsOfOrder() {
     addDecompositionRow<T, n>(1000);
     addDecompositionRow<T, n>(manyObjects<T>(n * n));
-    addRow(nameOf<T, Layout::Standard, n>("LUDecomp_m") + "/single", matricesInTurn,
+    addRow(nameOf<T, Layout::Standard, n>("LUDecomp_m") + "/single",
            [] { return compareSingleDecomposition<T, n>(); });
 }
 
@@ -378,7 +378,7 @@ void addSolutionRows() {
     addSolutionRow<false, T, n>(manyObjects<T>(n * n));
     addSolutionRow<true, T, n>(1000);
     addSolutionRow<true, T, n>(1000000);
-    addRow(nameOf<T, Layout::Standard, n>("LUBackSubst_mv") + "/single", singles,
+    addRow(nameOf<T, Layout::Standard, n>("LUBackSubst_mv") + "/single",
            [] { return compareSingleSolution<T, n>(); });
 }
 

@@ -17,6 +17,10 @@ using Clock = std::chrono::steady_clock;
 // Long enough that reading the clock and the first, colder call do not show.
 constexpr double shortestSample = 150e-6;
 
+// Room for some samples of a large array, and for many of a small one.
+constexpr double shortestIteration = 25e-3;
+constexpr int iterations = 3;
+
 double secondsOf(const Contender &contender, std::size_t runs) {
     const auto start = Clock::now();
     for (std::size_t run = 0; run < runs; ++run) {
@@ -64,15 +68,19 @@ void measure(benchmark::State &state, const Comparison &comparison) {
         runs.push_back(runsPerSample(contender));
     }
     std::map<std::string, double> fastest;
-    for ([[maybe_unused]] auto iteration : state) {
+    const auto sampleEach = [&] {
         for (std::size_t c = 0; c < contenders.size(); ++c) {
             const double seconds = secondsOf(contenders[c], runs[c]) / static_cast<double>(runs[c]);
             double &best = fastest.try_emplace(contenders[c].name, seconds).first->second;
             best = std::min(best, seconds);
-            if (c == 0) {
-                state.SetIterationTime(seconds);
-            }
         }
+    };
+    for ([[maybe_unused]] auto iteration : state) {
+        const auto start = Clock::now();
+        do {
+            sampleEach();
+        } while (std::chrono::duration<double>(Clock::now() - start).count() < shortestIteration);
+        state.SetIterationTime(fastest[own]);
     }
     for (const auto &[name, seconds] : fastest) {
         state.counters[name] = seconds * 1e9 / static_cast<double>(comparison.objects);
@@ -84,7 +92,7 @@ void measure(benchmark::State &state, const Comparison &comparison) {
 
 } // namespace
 
-void addRow(const std::string &name, std::uint64_t objects, std::function<Comparison()> prepare) {
+void addRow(const std::string &name, std::function<Comparison()> prepare) {
     const auto run = [prepare = std::move(prepare)](benchmark::State &state) {
         try {
             measure(state, prepare());
@@ -92,9 +100,7 @@ void addRow(const std::string &name, std::uint64_t objects, std::function<Compar
             state.SkipWithError(error.what());
         }
     };
-    // A row of many objects takes up to a quarter of a second per sample, and its samples vary little.
-    const int samples = objects > 100000 ? 4 : 50;
-    benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(samples)->UseManualTime();
+    benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(iterations)->UseManualTime();
 }
 
 } // namespace zelmbench

@@ -33,9 +33,9 @@ inline constexpr const char *eigenRows =
 inline constexpr const char *loop = "loop"; // plain loops, for the layouts that Eigen cannot address
 inline constexpr const char *one = "one";   // the library, one object per call
 
-// Registers a row. Each of its iterations takes one sample of every contender in turn, so that whatever slows
-// the machine slows them alike; the counters are the fastest sample of each name, in nanoseconds per object.
-// The operands are made when the row runs and freed when it ends.
-void addRow(const std::string &name, std::uint64_t objects, std::function<Comparison()> prepare);
+// Registers a row. Its iterations sample the contenders in turn, so that whatever slows the machine slows
+// them alike; the counters are the fastest sample of each name, in nanoseconds per object. The operands are
+// made when the row runs and freed when it ends.
+void addRow(const std::string &name, std::function<Comparison()> prepare);
 
 } // namespace zelmbench

@@ -249,7 +249,7 @@ template <class Operation, Operands operands, class T, std::size_t n, Layout lay
 void addArrayRow(std::size_t count) {
     const std::string name = std::string(operationName<Operation>) + descriptorOf(operands) + "_" +
                              typeName<T> + "_" + std::to_string(n) + "x1" + suffixOf(layout);
-    addRow(name + "/" + std::to_string(count), count,
+    addRow(name + "/" + std::to_string(count),
            [=] { return compareArrays<Operation, operands, T, layout, n>(name, count); });
 }
 
@@ -272,14 +272,13 @@ template <class Operation, class T, std::size_t n>
 void addSingleRow() {
     const std::string name =
         std::string(operationName<Operation>) + "vv_" + typeName<T> + "_" + std::to_string(n) + "x1";
-    addRow(name + "/single", singles, [=] { return compareSingle<Operation, T, n>(name); });
+    addRow(name + "/single", [=] { return compareSingle<Operation, T, n>(name); });
 }
 
 template <class Operation, class T>
 void addLengthRow(std::size_t len) {
     const std::string name = std::string(operationName<Operation>) + "vv_" + typeName<T>;
-    addRow(name + "/length" + std::to_string(len), len,
-           [=] { return compareLength<Operation, T>(name, len); });
+    addRow(name + "/length" + std::to_string(len), [=] { return compareLength<Operation, T>(name, len); });
 }
 
 template <class T>

@@ -117,6 +117,39 @@ ZELM_INLINE void storeAdjacent(const LaneAddresses<T> &at, const Pack<T> *in) {
     }
 }
 
+// ---- objects of three adjacent elements that follow each other without a gap
+
+ZELM_INLINE void loadThrees(Address at, __m128 *out) {
+    const __m128 r0 = loadPack<float>(at), r1 = loadPack<float>(at + 16), r2 = loadPack<float>(at + 32);
+    const __m128 a = _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 1, 3, 2));
+    const __m128 b = _mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 0, 2, 1));
+    out[0] = _mm_shuffle_ps(r0, a, _MM_SHUFFLE(2, 0, 3, 0));
+    out[1] = _mm_shuffle_ps(b, a, _MM_SHUFFLE(3, 1, 2, 0));
+    out[2] = _mm_shuffle_ps(b, r2, _MM_SHUFFLE(3, 0, 3, 1));
+}
+
+ZELM_INLINE void storeThrees(Address at, const __m128 *in) {
+    const __m128 a = _mm_shuffle_ps(in[0], in[1], _MM_SHUFFLE(2, 0, 2, 0));
+    const __m128 b = _mm_shuffle_ps(in[1], in[2], _MM_SHUFFLE(3, 1, 3, 1));
+    const __m128 c = _mm_shuffle_ps(in[2], in[0], _MM_SHUFFLE(3, 1, 2, 0));
+    storePack(at, _mm_shuffle_ps(a, c, _MM_SHUFFLE(2, 0, 2, 0)));
+    storePack(at + 16, _mm_shuffle_ps(b, a, _MM_SHUFFLE(3, 1, 2, 0)));
+    storePack(at + 32, _mm_shuffle_ps(c, b, _MM_SHUFFLE(3, 1, 3, 1)));
+}
+
+ZELM_INLINE void loadThrees(Address at, __m128d *out) {
+    const __m128d r0 = loadPack<double>(at), r1 = loadPack<double>(at + 16), r2 = loadPack<double>(at + 32);
+    out[0] = _mm_shuffle_pd(r0, r1, 2);
+    out[1] = _mm_shuffle_pd(r0, r2, 1);
+    out[2] = _mm_shuffle_pd(r1, r2, 2);
+}
+
+ZELM_INLINE void storeThrees(Address at, const __m128d *in) {
+    storePack(at, _mm_unpacklo_pd(in[0], in[1]));
+    storePack(at + 16, _mm_shuffle_pd(in[2], in[0], 2));
+    storePack(at + 32, _mm_unpackhi_pd(in[1], in[2]));
+}
+
 // ---- groups
 
 // The objects k to k + lanes - 1 of an array.
@@ -187,6 +220,13 @@ ZELM_INLINE void storeRowOfEach(const Group<Array> &group, RowOfLane row,
     }
 }
 
+template <typename Array> constexpr bool kIsDenseArray = false;
+template <typename T> constexpr bool kIsDenseArray<DenseArray<T>> = true;
+
+template <typename Array> ZELM_INLINE bool followWithoutGap(const Group<Array> &group) {
+    return group.objects[1].start - group.objects[0].start == 3 * sizeof(typename Array::Element);
+}
+
 // Row i of each object.
 template <unsigned N, typename Array>
 ZELM_INLINE void loadRow(const Group<Array> &group, unsigned i, Pack<typename Array::Element> *out) {
@@ -195,6 +235,9 @@ ZELM_INLINE void loadRow(const Group<Array> &group, unsigned i, Pack<typename Ar
         for (unsigned j = 0; j < N; ++j)
             out[j] = loadPack<typename Array::Element>(group.objects[0].address(i, j, N));
     } else {
+        if constexpr (N == 3 && kIsDenseArray<Array>)
+            if (followWithoutGap(group))
+                return loadThrees(group.objects[0].rowStart(i), out);
         loadRowOfEach<N>(
             group, [i](unsigned) { return i; }, out);
     }
@@ -207,6 +250,9 @@ ZELM_INLINE void storeRow(const Group<Array> &group, unsigned i, const Pack<type
         for (unsigned j = 0; j < N; ++j)
             storePack(group.objects[0].address(i, j, N), in[j]);
     } else {
+        if constexpr (N == 3 && kIsDenseArray<Array>)
+            if (followWithoutGap(group))
+                return storeThrees(group.objects[0].rowStart(i), in);
         storeRowOfEach<N>(
             group, [i](unsigned) { return i; }, in);
     }

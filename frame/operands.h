@@ -32,22 +32,6 @@ struct RunTimeSize {
     ZELM_INLINE bool isZero() const { return length == 0; }
 };
 
-// Runs step(j) for j ascending up to the first that is false, without a loop where the size is fixed.
-template <typename Size, typename Step>
-ZELM_INLINE bool whileTrue(Size size, Step step) {
-    if constexpr (Size::fixed != 0) {
-#pragma GCC unroll 6
-        for (std::uint32_t j = 0; j < Size::fixed; ++j)
-            if (!step(j))
-                return false;
-    } else {
-        for (std::uint32_t j = 0; j < size.value(); ++j)
-            if (!step(j))
-                return false;
-    }
-    return true;
-}
-
 // What the order of checks asks of an operand, answered for operands that have no table.
 struct WithoutTable {
     static constexpr bool isTable = false;      // one table entry per element position

@@ -104,12 +104,12 @@ FAMILIES = {family.name: family for family in (
            "dst may be src of the same addressing, for rows without T."),
     Family("saxpy-lcomb", "elementwise", "Scaled sums of vectors", "elementwise/elementwise.h", PLAIN,
            "dst may be a source; partial overlap gives what the ascending loop gives."),
-    Family("dot-product", "vector", "Dot product", "", PLAIN, "dst is written once per object."),
-    Family("cross-product", "vector", "Cross product", "", (OK, NULL),
+    Family("dot-product", "vector", "Dot product", "vector/dot_product.h", PLAIN, "dst is written once per object."),
+    Family("cross-product", "vector", "Cross product", "vector/cross_product.h", (OK, NULL),
            "dst may be a source in the standard and L layouts."),
-    Family("l2-norm", "vector", "Euclidean length", "", PLAIN, "dst is written once per object."),
-    Family("frobenius-norm", "vector", "Frobenius norm", "", PLAIN, "dst is written once per object."),
-    Family("trace", "vector", "Trace", "", PLAIN, "dst must not lie on the diagonal of src."),
+    Family("l2-norm", "vector", "Euclidean length", "vector/l2_norm.h", PLAIN, "dst is written once per object."),
+    Family("frobenius-norm", "vector", "Frobenius norm", "vector/frobenius_norm.h", PLAIN, "dst is written once per object."),
+    Family("trace", "vector", "Trace", "vector/trace.h", PLAIN, "dst must not lie on the diagonal of src."),
     Family("matrix-vector-product", "products", "Product of a matrix and a vector", "", PLAIN,
            "dst must overlap no source in the run-time forms."),
     Family("matrix-product", "products", "Product of two matrices", "", PLAIN,
@@ -237,20 +237,28 @@ def _vector_algebra():
         array = "a" in descriptor
         yield Row("dot-product", "DotProduct", descriptor, "AV" if array else "SV",
                   f"src1:{first} src2:{second} dst:scalar len" + " count" * array,
-                  f"dst{'[k]' * array} = sum over j of {_element(first, 'src1')} * {_element(second, 'src2')}")
+                  f"dst{'[k]' * array} = sum over j of {_element(first, 'src1')} * {_element(second, 'src2')}",
+                  ("dotArray" if array else "dotSingle", "{src1}", "{src2}", "{dst}", "{size}") + ("{count}",) * array)
     for descriptor in ("vv", "vav", "vava", "vva"):
         first, second = operand_kinds(descriptor)
         array = "a" in descriptor
         yield Row("cross-product", "CrossProduct", descriptor, "cross, array" if array else "cross, single",
-                  f"src1:{first} src2:{second} dst:{'va' if array else 'v'}" + " count" * array, "dst = src1 x src2")
+                  f"src1:{first} src2:{second} dst:{'va' if array else 'v'}" + " count" * array, "dst = src1 x src2",
+                  ("crossArray" if array else "crossSingle", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * array)
     for kind, cls in (("v", "SV"), ("va", "AV")):
         yield Row("l2-norm", "L2Norm", kind, cls, f"src:{kind} dst:scalar len" + " count" * (kind == "va"),
-                  f"dst{'[k]' * (kind == 'va')} = sqrt(sum over j of {_element(kind, 'src')}^2)")
+                  f"dst{'[k]' * (kind == 'va')} = sqrt(sum over j of {_element(kind, 'src')}^2)",
+                  ("l2NormArray" if kind == "va" else "l2NormSingle", "{src}", "{dst}", "{size}")
+                  + ("{count}",) * (kind == "va"))
     for kind, cls in (("m", "SM"), ("ma", "AM")):
         k, count = ("[k]", " count") if kind == "ma" else ("", "")
         yield Row("frobenius-norm", "FrobNorm", kind, cls, f"src:{kind} width height dst:scalar{count}",
-                  f"dst{k} = sqrt(sum over i, j of {_element(kind, 'src')}^2)")
-        yield Row("trace", "Trace", kind, cls, f"src:{kind} n dst:scalar{count}", f"dst{k} = sum over i of src{k}[i][i]")
+                  f"dst{k} = sqrt(sum over i, j of {_element(kind, 'src')}^2)",
+                  ("frobeniusArray" if count else "frobeniusSingle", "{src}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
+        yield Row("trace", "Trace", kind, cls, f"src:{kind} n dst:scalar{count}", f"dst{k} = sum over i of src{k}[i][i]",
+                  ("traceArray" if count else "traceSingle", "{src}", "{dst}", "{size}") + ("{count}",) * bool(count))
 
 
 def _products():
@@ -366,6 +374,15 @@ def _departures():
                                        " dst is not, an alignment fault is raised")
     for name in ("mTc_32f_4x4", "mTc_64f_4x4", "maTc_32f_4x4", "maTc_64f_4x4", "maTc_32f_4x4_L"):
         yield f"zelmMul_{name}", Departure("wholeMatrixFirst", "reads the whole matrix first: dst may be src")
+
+
+    yield "zelmDotProduct_vav_32f_4x1", Departure("dotInPairs", "sums the products in pairs")
+    yield "zelmDotProduct_vav_32f_4x1_L", Departure("dotUntestedInPairs", "sums the products in pairs; no entry of"
+                                                    " src1Table is tested")
+    yield "zelmDotProduct_vav_32f_3x1_L", Departure("dotUntested", "no entry of src1Table is tested")
+    yield "zelmDotProduct_vav_64f_3x1_L", Departure("dotTestingAllFirst", "tests all entries of src1Table before it"
+                                                    " writes anything")
+    yield "zelmL2Norm_va_32f_4x1_L", Departure("l2NormUntested", "no entry of srcTable is tested")
 
 
 HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"

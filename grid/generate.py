@@ -120,6 +120,8 @@ def size_expression(member):
     """The dimensions as one C++ value: the shape of a result, or the order of a square matrix."""
     words = member.row.arguments.split()
     n = member.size[:1]
+    if member.row.operation == "CrossProduct":
+        return "FixedShape<1, 3>{}"
     if "len" in words:
         return f"FixedShape<1, {n}>{{}}" if n else "RunTimeShape{1, len}"
     if "width" in words:
@@ -129,7 +131,7 @@ def size_expression(member):
 
 def plan(member):
     """The member's arguments in order, and what its wrapper passes on, each under the word of the row's list."""
-    arguments, passed = [], {}
+    arguments, passed = [], {"size": size_expression(member)}
     element = C_TYPE[member.type]
     for word in member.row.arguments.split():
         base, _, runtime = word.partition("@")
@@ -141,7 +143,6 @@ def plan(member):
         elif runtime and member.size:
             continue
         elif base in DIMENSIONS:
-            passed["size"] = size_expression(member)
             if not member.size:
                 signed = member.layout in member.row.signed.get(base, ())
                 arguments.append(Argument(base, "dimension", "int32_t " if signed else "uint32_t "))
@@ -184,7 +185,7 @@ def definition(member):
     function, *given = member.row.call
     departure = DEPARTURES.get(member.name)
     if departure:
-        function = f"departures::{departure.function}" + function[function.index("<"):]
+        function = f"departures::{departure.function}" + "".join(re.findall("<.*>", function))
     body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
     comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure: {departure.note}.", WIDTH - 7)) \
         if departure else ""

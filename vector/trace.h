@@ -1,0 +1,61 @@
+// Traces: the sum of the diagonal, row by row. Nothing beside the diagonal is read.
+#pragma once
+
+#include "vector/results.h"
+
+namespace zelm::vector {
+
+// dst serves as the running sum, from 0: each partial sum is stored. False at a null entry of a table.
+template <typename S, typename Result, typename Size>
+ZELM_INLINE bool traceThroughResult(const S &s, const Result &result, Size size, bool testEntries) {
+    using T = typename S::Element;
+    const std::uint32_t n = size.value();
+    result.set(0, T{0});
+    for (std::uint32_t i = 0; i < n; ++i) {
+        if (testEntries && s.elementIsNull(Address{i} * n + i))
+            return false;
+        result.set(0, result.get(0) + s.get(i, i, n));
+    }
+    return true;
+}
+
+// The fixed-size standard forms store the final sum only.
+template <unsigned N, typename T>
+ZELM_INLINE T traceOf(const Dense<const T> &s) {
+    T sum = s.get(0, 0, N) + s.get(1, 1, N);
+#pragma GCC unroll 4
+    for (unsigned i = 2; i < N; ++i)
+        sum = sum + s.get(i, i, N);
+    return sum;
+}
+
+template <typename S, typename T, typename Size>
+ZELM_INLINE ZelmStatus traceSingle(const S &s, T *dst, Size size) {
+    if (ZelmStatus status = checkSingle(size.isZero(), s, Pointer(dst)); status != kProceed)
+        return status;
+    if constexpr (S::isDense && Size::fixed != 0) {
+        *dst = traceOf<Size::fixed>(s);
+        return ZELM_OK;
+    } else {
+        return traceThroughResult(s, resultsAt(dst).object(0), size, S::isTable) ? ZELM_OK : ZELM_ERR_NULL_PTR;
+    }
+}
+
+// The tables of arrays are tested on their first n entries, not on those of the diagonal.
+template <typename S, typename T, typename Size>
+ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t count) {
+    if (ZelmStatus status = checkArray(size.isZero(), count, tested(s, size.value()), tested(Pointer(dst), 0));
+        status != kProceed)
+        return status;
+    const DenseArray<T> results = resultsAt(dst);
+    const auto one = [&](std::uint32_t k) {
+        if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
+            results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
+        else
+            traceThroughResult(s.object(k), results.object(k), size, false);
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, s);
+}
+
+} // namespace zelm::vector
