@@ -32,11 +32,13 @@ ZELM_INLINE void crossLineByLine(const A &a, const B &b, const D &d) {
     d.set(2, a.get(0) * b.get(1) - a.get(1) * b.get(0));
 }
 
-// An invariant vector beside its negative, each element formed once as 0 - x ahead of the objects. A line is then the sum
-// of two products, which differs from the definition in the sign of zeros only.
-template <typename T> struct WithNegative {
+// An invariant vector beside its negative, each element formed once as 0 - x ahead of the objects. A line is
+// then the sum of two products, which differs from the definition in the sign of zeros only.
+template <typename T>
+struct WithNegative {
     T element[3], negative[3];
-    template <typename S> ZELM_INLINE explicit WithNegative(const S &s) {
+    template <typename S>
+    ZELM_INLINE explicit WithNegative(const S &s) {
         for (unsigned j = 0; j < 3; ++j) {
             element[j] = s.get(j);
             negative[j] = T{0} - element[j];
@@ -60,7 +62,8 @@ ZELM_INLINE void crossLineByLine(const WithNegative<T> &a, const B &b, const D &
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus crossSingle(const A &a, const B &b, const D &d, FixedShape<1, 3>) {
-    if (ZelmStatus status = checkSingleWhole(false, tested(a, 3), tested(b, 3), tested(d, 3)); status != kProceed)
+    if (ZelmStatus status = checkSingleWhole(false, tested(a, 3), tested(b, 3), tested(d, 3));
+        status != kProceed)
         return status;
     if constexpr (D::isDense)
         crossReadingFirst(a, b, d);
@@ -69,7 +72,10 @@ ZELM_INLINE ZelmStatus crossSingle(const A &a, const B &b, const D &d, FixedShap
     return ZELM_OK;
 }
 
-template <typename S> constexpr bool kIsOneVector = requires(const S &s) { s.get(0u); };
+template <typename S>
+constexpr bool kIsOneVector = requires(const S &s) {
+    s.get(0u);
+};
 
 // Whether groups may store before later objects are read.
 template <typename S, typename D>
@@ -80,7 +86,8 @@ ZELM_INLINE bool crossMisses(const S &s, const D &d, std::uint32_t count) {
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape<1, 3>, std::uint32_t count) {
     using T = typename D::Element;
-    if (ZelmStatus status = checkArray(false, count, tested(a, 3), tested(b, 3), tested(d, 3)); status != kProceed)
+    if (ZelmStatus status = checkArray(false, count, tested(a, 3), tested(b, 3), tested(d, 3));
+        status != kProceed)
         return status;
     const auto spreadNegative = [](const auto &s) {
         if constexpr (kIsOneVector<std::remove_cvref_t<decltype(s)>>)
@@ -95,8 +102,8 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
             return ZELM_OK;
         };
         if constexpr (!D::isList) {
-            if (count >= kResultGroupsCount && count <= kMostObjectsInRange && elementsAreApart(d, 1, 3, count) &&
-                crossMisses(a, d, count) && crossMisses(b, d, count)) {
+            if (count >= kResultGroupsCount && count <= kMostObjectsInRange &&
+                elementsAreApart(d, 1, 3, count) && crossMisses(a, d, count) && crossMisses(b, d, count)) {
                 const VectorsOfGroup<3, A> firsts(a);
                 const VectorsOfGroup<3, B> seconds(b);
                 const auto group = [&](std::uint32_t k) {

@@ -1,5 +1,5 @@
-// The members of this subsystem that depart from their rows, each written out here. The catalogue names them and
-// points their exported functions here.
+// The members of this subsystem that depart from their rows, each written out here. The catalogue names them
+// and points their exported functions here.
 #pragma once
 
 #include "vector/dot_product.h"
@@ -8,14 +8,16 @@
 namespace zelm::vector::departures {
 
 // A list whose entries are taken as they are.
-template <typename T> struct UntestedList : DenseList<T> {
+template <typename T>
+struct UntestedList : DenseList<T> {
     ZELM_INLINE explicit UntestedList(const DenseList<T> &list) : DenseList<T>(list) {}
     static constexpr bool entryIsNull(std::uint32_t) { return false; }
 };
 
 // zelmDotProduct_vav_32f_4x1 and its _L: the four products are summed in pairs.
 template <typename A, typename B, typename T>
-ZELM_INLINE ZelmStatus dotInPairs(const A &a, const B &b, T *dst, FixedShape<1, 4> shape, std::uint32_t count) {
+ZELM_INLINE ZelmStatus dotInPairs(const A &a, const B &b, T *dst, FixedShape<1, 4> shape,
+                                  std::uint32_t count) {
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(Pointer(dst), 0));
         status != kProceed)
         return status;

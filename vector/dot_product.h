@@ -7,8 +7,8 @@
 namespace zelm::vector {
 
 // The order of a fixed-size sum. In 64-bit float the standard and L forms sum the lanes of pairs.
-template <typename T, typename Object> constexpr Sum kDotOrder =
-    sizeof(T) == 8 && Object::isDense ? Sum::EvenOddThenRest : Sum::Chain;
+template <typename T, typename Object>
+constexpr Sum kDotOrder = sizeof(T) == 8 && Object::isDense ? Sum::EvenOddThenRest : Sum::Chain;
 
 template <Sum order, unsigned N, typename A, typename B>
 ZELM_INLINE auto dotOf(const A &a, const B &b) {

@@ -1,5 +1,5 @@
-// Frobenius norms. The order of the sum of squares depends on form, size, type, layout, alignment and the object's place
-// in the array; all of it is here.
+// Frobenius norms. The order of the sum of squares depends on form, size, type, layout, alignment and the
+// object's place in the array; all of it is here.
 #pragma once
 
 #include "vector/results.h"
@@ -83,7 +83,8 @@ ZELM_INLINE V tree32Unaligned(const V (&s)[6][6]) {
 // The objects of an array of 32-bit matrices that are taken four at a time, in the sizes in which it matters.
 template <typename V>
 ZELM_INLINE V tree32OfFour(const V (&s)[3][3]) {
-    return (((s[0][0] + s[0][1]) + s[2][2]) + (s[0][2] + s[1][0])) + ((s[1][1] + s[1][2]) + (s[2][0] + s[2][1]));
+    return (((s[0][0] + s[0][1]) + s[2][2]) + (s[0][2] + s[1][0])) +
+           ((s[1][1] + s[1][2]) + (s[2][0] + s[2][1]));
 }
 
 template <typename V>
@@ -175,8 +176,8 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
     return ZELM_OK;
 }
 
-// The dense 32-bit arrays of a fixed size: objects by fours as far as they last, the rest one by one. The place of an
-// object decides its tree, also where a group can't be loaded at once.
+// The dense 32-bit arrays of a fixed size: objects by fours as far as they last, the rest one by one. The
+// place of an object decides its tree, also where a group can't be loaded at once.
 template <unsigned N, bool ofFour>
 ZELM_INLINE float arrayTreeOf(const Dense<const float> &s) {
     if constexpr (ofFour && N <= 4) {

@@ -7,16 +7,18 @@
 
 namespace zelm::vector {
 
-// The order of a fixed-size sum of squares. It differs between one vector and an array in the dense 32-bit forms.
+// The order of a fixed-size sum of squares. It differs between one vector and an array in the dense 32-bit
+// forms.
 template <typename T, bool isDense, bool isArray, unsigned N>
-constexpr Sum kSquaresOrder = !isDense          ? Sum::Chain
-                              : sizeof(T) == 8  ? Sum::EvenOdd
-                              : !isArray        ? Sum::Pairs
-                              : N == 5          ? Sum::Pairs
-                              : N == 6          ? Sum::EvenOdd
-                                                : Sum::Chain;
+constexpr Sum kSquaresOrder = !isDense         ? Sum::Chain
+                              : sizeof(T) == 8 ? Sum::EvenOdd
+                              : !isArray       ? Sum::Pairs
+                              : N == 5         ? Sum::Pairs
+                              : N == 6         ? Sum::EvenOdd
+                                               : Sum::Chain;
 
-// The dense 32-bit forms of a fixed size take the refined reciprocal root, all others the correctly rounded root.
+// The dense 32-bit forms of a fixed size take the refined reciprocal root, all others the correctly rounded
+// root.
 template <bool isDense, typename V>
 ZELM_INLINE V lengthOf(V squares) {
     if constexpr (isDense && sizeof(squares[0]) == 4)

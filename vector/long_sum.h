@@ -1,5 +1,5 @@
-// The sum of a long vector of adjacent elements, in several running sums. Which element goes to which of them depends on
-// the length and on the address of one operand.
+// The sum of a long vector of adjacent elements, in several running sums. Which element goes to which of them
+// depends on the length and on the address of one operand.
 #pragma once
 
 #include "frame/pack.h"
@@ -9,16 +9,20 @@ namespace zelm::vector {
 using namespace zelm::frame;
 
 // The terms of a dot product.
-template <typename T> struct Products {
+template <typename T>
+struct Products {
     Address first, second;
-    ZELM_INLINE T term(Address t) const { return load<T>(first + t * sizeof(T)) * load<T>(second + t * sizeof(T)); }
+    ZELM_INLINE T term(Address t) const {
+        return load<T>(first + t * sizeof(T)) * load<T>(second + t * sizeof(T));
+    }
     ZELM_INLINE Pack<T> terms(Address t) const {
         return loadPack<T>(first + t * sizeof(T)) * loadPack<T>(second + t * sizeof(T));
     }
 };
 
 // The terms of a sum of squares.
-template <typename T> struct Squares {
+template <typename T>
+struct Squares {
     Address start;
     ZELM_INLINE T term(Address t) const {
         const T element = load<T>(start + t * sizeof(T));
@@ -30,7 +34,8 @@ template <typename T> struct Squares {
     }
 };
 
-// The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 + s3).
+// The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 +
+// s3).
 ZELM_INLINE float combined(__m128 s0to3, __m128 s4to7) {
     float sum[4];
     storePack(addressOf(sum), s0to3 + s4to7);
@@ -43,11 +48,11 @@ ZELM_INLINE double combined(__m128d s0to1, __m128d s2to3) {
     return sum[0] + sum[1];
 }
 
-// `aligned` is the address that is brought to a multiple of 16 by summing a head of terms one by one. The head's sum is
-// where the first running sum begins.
+// `aligned` is the address that is brought to a multiple of 16 by summing a head of terms one by one. The
+// head's sum is where the first running sum begins.
 template <typename T, typename Terms>
 ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length) {
-    constexpr unsigned lanes = kLanes<T>, round = 2 * lanes;
+    constexpr unsigned lanes = kLanes<T>, round = 8;
     constexpr std::uint32_t least = sizeof(T) == 4 ? 11 : 9;
     T sum = 0;
     std::uint32_t t = 0;
@@ -58,8 +63,11 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
         T first[lanes] = {sum};
         Pack<T> low = loadPack<T>(addressOf(first)), high = broadcast(T{0});
         for (; length - t >= round; t += round) {
-            low = low + terms.terms(t);
-            high = high + terms.terms(t + lanes);
+#pragma GCC unroll 2
+            for (unsigned term = 0; term < round; term += 2 * lanes) {
+                low = low + terms.terms(t + term);
+                high = high + terms.terms(t + term + lanes);
+            }
         }
         sum = combined(low, high);
     }

@@ -20,7 +20,8 @@ ZELM_INLINE DenseArray<T> resultsAt(T *dst) {
 // From how many objects on the overlap test of a whole array is worth its time.
 constexpr std::uint32_t kResultGroupsCount = 8;
 
-// Whether groups may store their results before the objects behind them are read. Lists ask it group by group.
+// Whether groups may store their results before the objects behind them are read. Lists ask it group by
+// group.
 template <unsigned R, unsigned C, typename S, typename T>
 ZELM_INLINE bool resultsMissSource(const S &s, const DenseArray<T> &results, std::uint32_t count) {
     if constexpr (S::isList)
@@ -51,17 +52,22 @@ ZELM_INLINE bool resultsMissGroup(const S &s, const DenseArray<T> &results, std:
 template <typename D>
 constexpr bool kLoadsInGroups = D::isSideBySide || decltype(std::declval<const D &>().object(0))::isDense;
 
-// The vectors of a group, one pack per element. An invariant is spread over the lanes once: it is asked for only
-// where no result is stored in it.
-template <unsigned N, typename S> struct VectorsOfGroup {
+// The vectors of a group, one pack per element. An invariant is spread over the lanes once: it is asked for
+// only where no result is stored in it.
+template <unsigned N, typename S>
+struct VectorsOfGroup {
     using T = typename S::Element;
     const S &operand;
     ZELM_INLINE explicit VectorsOfGroup(const S &s) : operand(s) {}
-    ZELM_INLINE void load(std::uint32_t k, Pack<T> (&out)[N]) const { loadRow<N>(groupAt(operand, k), 0, out); }
+    ZELM_INLINE void load(std::uint32_t k, Pack<T> (&out)[N]) const {
+        loadRow<N>(groupAt(operand, k), 0, out);
+    }
 };
 
 template <unsigned N, typename S>
-    requires requires(const S &s) { s.get(0u); }
+requires requires(const S &s) {
+    s.get(0u);
+}
 struct VectorsOfGroup<N, S> {
     using T = typename S::Element;
     Pack<T> spread[N];

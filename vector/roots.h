@@ -1,5 +1,5 @@
-// Square roots: correctly rounded, and by the processor's approximate reciprocal root with one Newton step. The
-// approximation has no test of its argument: a zero and +infinity give NaN.
+// Square roots: correctly rounded, and by the processor's approximate reciprocal root with one Newton step.
+// The approximation has no test of its argument: a zero and +infinity give NaN.
 #pragma once
 
 #include "frame/pack.h"

@@ -37,14 +37,16 @@ ZELM_INLINE ZelmStatus traceSingle(const S &s, T *dst, Size size) {
         *dst = traceOf<Size::fixed>(s);
         return ZELM_OK;
     } else {
-        return traceThroughResult(s, resultsAt(dst).object(0), size, S::isTable) ? ZELM_OK : ZELM_ERR_NULL_PTR;
+        return traceThroughResult(s, resultsAt(dst).object(0), size, S::isTable) ? ZELM_OK
+                                                                                 : ZELM_ERR_NULL_PTR;
     }
 }
 
 // The tables of arrays are tested on their first n entries, not on those of the diagonal.
 template <typename S, typename T, typename Size>
 ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t count) {
-    if (ZelmStatus status = checkArray(size.isZero(), count, tested(s, size.value()), tested(Pointer(dst), 0));
+    if (ZelmStatus status =
+            checkArray(size.isZero(), count, tested(s, size.value()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
     const DenseArray<T> results = resultsAt(dst);
