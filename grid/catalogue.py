@@ -142,10 +142,28 @@ FAMILIES = {family.name: family for family in (
            "dst may be src of the same addressing."),
     Family("qr-back-substitution", "solvers", "QR back substitution", "", PLAIN,
            "dst may be src2 of the same addressing."),
-    Family("transpose", "movement", "Transpose", "", PLAIN, "dst must not overlap src."),
-    Family("copy", "movement", "Copy between layouts", "", PLAIN, "src and dst must not overlap partly."),
-    Family("extract", "movement", "Extraction to a packed buffer", "", PLAIN, "src and dst must not overlap."),
-    Family("identity", "movement", "Identity matrices", "", PLAIN, "There is no source."),
+    Family("transpose", "movement", "Transpose", "movement/transpose.h", PLAIN, "dst must not overlap src.",
+           "Elements are moved bit for bit. width and height are those of src as stored. In the run-time P and PS2 forms "
+           "the tables are numbered with the row length of the other operand: element (i, j) of src is at "
+           "srcTable[i*height + j] and its place in dst at dstTable[j*width + i]. For square matrices that is the "
+           "ordinary table; for others the numbers reach behind the width*height entries that are tested."),
+    Family("copy", "movement", "Copy between layouts", "movement/copy.h", PLAIN, "src and dst must not overlap partly.",
+           "Elements are moved bit for bit. The two letters of the name are the layouts of src and dst: S for S2, P for "
+           "PS2, L for LS2. Table entries are not tested, and neither are the width and height of matrices: zero "
+           "copies nothing."),
+    Family("extract", "movement", "Extraction to a packed buffer", "movement/extract.h", PLAIN,
+           "src and dst must not overlap.",
+           "Elements are moved bit for bit. The packed position of element (i, j) of object k is "
+           "k*width*height + i*width + j, in elements; width and height are those of the packed matrices. Table entries "
+           "are not tested. A count of zero is ZELM_ERR_SIZE."),
+    Family("identity", "movement", "Identity matrices", "movement/identity.h", PLAIN, "There is no source.",
+           "The letter of the name is the layout of dst: S for S2, P for PS2, L for LS2. The column of the one runs on "
+           "from row to row and from object to object: in object k the one of row i stands at column k*height + i, "
+           "behind the row where that is not below width. So only object 0 is an identity: call once per object, or "
+           "set height to fit. An element stride below the size of an element counts as that size, a row stride below "
+           "width elements as that, and so does in P an object stride below the size of an element; the strides are "
+           "compared as unsigned numbers. width and height are signed, and not tested: below 1 there is no row or "
+           "column, but each row still gets its one. Table entries are not tested. A count of zero is ZELM_ERR_SIZE."),
 )}
 
 
@@ -319,16 +337,22 @@ def _movement():
     for kind, cls in (("m", "SM"), ("ma", "AM")):
         k, count = ("[k]", " count") if kind == "ma" else ("", "")
         yield Row("transpose", "Transpose", kind, cls, f"src:{kind} width height dst:{kind}{count}",
-                  f"dst{k}[j][i] = src{k}[i][j]")
-    yield Row("copy", "Copy", "va", "copy", "src:va dst:va len count", "dst[k][j] = src[k][j]")
-    yield Row("copy", "Copy", "ma", "copy", "src:ma dst:ma width height count", "dst[k][i][j] = src[k][i][j]")
+                  f"dst{k}[j][i] = src{k}[i][j]",
+                  ("transposeArray" if count else "transposeSingle", "{src}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
+    yield Row("copy", "Copy", "va", "copy", "src:va dst:va len count", "dst[k][j] = src[k][j]",
+              ("copyVectors", "{src}", "{dst}", "{size}", "{count}"))
+    yield Row("copy", "Copy", "ma", "copy", "src:ma dst:ma width height count", "dst[k][i][j] = src[k][i][j]",
+              ("copyMatrices", "{src}", "{dst}", "{size}", "{count}"))
     for kind in ("v", "m", "mT", "va", "ma", "maT"):
         array = "a" in kind
         dimensions = "len" if kind[0] == "v" else "width height"
         yield Row("extract", "Extract", kind, "extract, array" if array else "extract, single",
-                  f"src:{kind} dst:packed {dimensions}" + " count" * array, "dst = the elements of src, packed")
+                  f"src:{kind} dst:packed {dimensions}" + " count" * array, "dst = the elements of src, packed",
+                  ("extractArray" if array else "extractSingle", "{src}", "{dst}", "{size}") + ("{count}",) * array)
     yield Row("identity", "LoadIdentity", "ma", "identity", "dst:ma width height count",
               "dst[k] = ones on a running diagonal, zeros elsewhere",
+              ("identities", "{dst}", "width", "height", "{count}"),
               signed={"width": ("S", "P", "L"), "height": ("S", "P", "L")})
 
 
@@ -384,6 +408,20 @@ def _departures():
     yield "zelmDotProduct_vav_64f_3x1_L", Departure("dotTestingAllFirst", "tests all entries of src1Table before it"
                                                     " writes anything")
     yield "zelmL2Norm_va_32f_4x1_L", Departure("l2NormUntested", "no entry of srcTable is tested")
+
+    for element_type in TYPES:
+        yield f"zelmCopy_va_{element_type}_PP", Departure("copyByTargetTable", "takes the pointers of both sides from"
+                                                          " dstTable; srcTable is tested and otherwise not read")
+        yield f"zelmExtract_m_{element_type}_P", Departure("extractUntested", "tests nothing; a dimension of zero moves"
+                                                           " nothing")
+        yield f"zelmExtract_mT_{element_type}_P", Departure(
+            "extractColumnsUntested", "tests nothing; srcShift is not read; takes srcTable as height rows of width entries"
+            " and packs width rows of height elements")
+        yield f"zelmExtract_maT_{element_type}_PS2", Departure("extractUntransposed", "does not transpose")
+    yield "zelmExtract_v_64f_P", Departure("extractUntested", "tests nothing; a dimension of zero moves nothing")
+    for name, function in (("m_32f", "transposeSingleWhole"), ("m_64f", "transposeSingleWhole"),
+                           ("ma_32f", "transposeArrayWhole")):
+        yield f"zelmTranspose_{name}_4x4", Departure(function, "reads a whole matrix first: dst may be src")
 
 
 HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"

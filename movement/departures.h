@@ -1,0 +1,110 @@
+// The members of this subsystem that depart from their rows, each written out here. The catalogue names them
+// and points their exported functions here. (What departs in whole rows stands with the rows: the table
+// indices of transposes, and the running diagonal of identities.)
+#pragma once
+
+#include "movement/copy.h"
+#include "movement/extract.h"
+#include "movement/transpose.h"
+
+namespace zelm::movement::departures {
+
+// zelmCopy_va_*_PP: both sides take their pointers from dstTable; srcTable is tested and otherwise not read.
+template <typename T>
+ZELM_INLINE ZelmStatus copyByTargetTable(const TableArray<const T> &s, const TableArray<T> &d,
+                                         RunTimeShape shape, std::uint32_t count) {
+    if (s.isNull())
+        return ZELM_ERR_NULL_PTR;
+    TableArray<const T> source(d.table, 0, 0);
+    source.shift = s.shift;
+    source.objStride = s.objStride;
+    return copyVectors(source, d, shape, count);
+}
+
+// zelmExtract_v_64f_P, zelmExtract_m_*_P: nothing is tested. Of a matrix the number of its elements counts,
+// so that either dimension may be zero.
+template <typename T>
+ZELM_INLINE ZelmStatus extractUntested(const Table<const T> &s, T *dst, RunTimeShape shape) {
+    const std::uint32_t elements = shape.height * shape.width;
+    for (std::uint32_t e = 0; e < elements; ++e)
+        copyElement<T>(addressOf(dst) + e * sizeof(T), s.position(e));
+    return ZELM_OK;
+}
+
+// zelmExtract_mT_*_P: nothing is tested, srcShift is not read, and the table is the one that is read row by
+// row: `height` rows of `width` entries, which become the columns of the packed matrix.
+template <typename T>
+ZELM_INLINE ZelmStatus extractColumnsUntested(const Table<const T> &s, T *dst, RunTimeShape shape) {
+    for (std::uint32_t i = 0; i < shape.height; ++i)
+        for (std::uint32_t j = 0; j < shape.width; ++j)
+            copyElement<T>(addressOf(dst) + (Address{j} * shape.height + i) * sizeof(T),
+                           addressOf(s.table[Address{i} * shape.width + j]));
+    return ZELM_OK;
+}
+
+// zelmExtract_maT_*_PS2: not transposed.
+template <typename T>
+ZELM_INLINE ZelmStatus extractUntransposed(const TableArray<const T> &s, T *dst, RunTimeShape shape,
+                                           std::uint32_t count) {
+    return extractArray(s, dst, shape, count);
+}
+
+// zelmTranspose_m_32f_4x4, zelmTranspose_m_64f_4x4, zelmTranspose_ma_32f_4x4: a whole matrix is read before
+// it is written, so that dst may be src.
+ZELM_INLINE void loadTransposed(const Dense<const float> &s, __m128 (&rows)[4]) {
+#pragma GCC unroll 4
+    for (std::uint32_t i = 0; i < 4; ++i)
+        rows[i] = loadPack<float>(s.rowStart(i));
+    _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+}
+
+ZELM_INLINE void loadTransposed(const Dense<const double> &s, __m128d (&rows)[8]) {
+#pragma GCC unroll 4
+    for (std::uint32_t i = 0; i < 4; ++i) {
+        const Address from = s.start + i % 2 * kPackBytes, pair = i / 2 * 2;
+        const __m128d a = loadPack<double>(from + pair * s.rowStride);
+        const __m128d b = loadPack<double>(from + (pair + 1) * s.rowStride);
+        rows[i % 2 * 4 + i / 2] = _mm_unpacklo_pd(a, b);
+        rows[i % 2 * 4 + 2 + i / 2] = _mm_unpackhi_pd(a, b);
+    }
+}
+
+template <typename T>
+ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, FixedShape<4, 4>, bool apart) {
+    constexpr unsigned packs = sizeof(T);
+    Pack<T> rows[packs];
+    loadTransposed(s, rows);
+    if (apart) {
+#pragma GCC unroll 8
+        for (unsigned p = 0; p < packs; ++p)
+            storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kPackBytes, rows[p]);
+    } else {
+        T whole[16];
+        for (unsigned p = 0; p < packs; ++p)
+            storePack(addressOf(whole) + p * kPackBytes, rows[p]);
+        for (std::uint32_t e = 0; e < 16; ++e)
+            copyElement<T>(d.address(e % 4, e / 4, 4), addressOf(whole + e % 4 * 4 + e / 4));
+    }
+}
+
+template <typename T>
+ZELM_INLINE ZelmStatus transposeSingleWhole(const Dense<const T> &s, const Dense<T> &d,
+                                            FixedShape<4, 4> shape) {
+    if (ZelmStatus status = checkSingle(false, s, d); status != kProceed)
+        return status;
+    transposeWhole(s, d, shape, objectElementsAreApart(d, 4, 4));
+    return ZELM_OK;
+}
+
+template <typename T>
+ZELM_INLINE ZelmStatus transposeArrayWhole(const DenseArray<const T> &s, const DenseArray<T> &d,
+                                           FixedShape<4, 4> shape, std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(s, 0), tested(d, 0)); status != kProceed)
+        return status;
+    const bool apart = objectElementsAreApart(d, 4, 4);
+    for (std::uint32_t k = 0; k < count; ++k)
+        transposeWhole(s.object(k), d.object(k), shape, apart);
+    return ZELM_OK;
+}
+
+} // namespace zelm::movement::departures

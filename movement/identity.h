@@ -1,0 +1,73 @@
+// Identity matrices. Strides that are too small for the elements they span are taken as packed ones.
+#pragma once
+
+#include "frame/checks.h"
+
+namespace zelm::movement {
+
+using namespace zelm::frame;
+
+// A negative stride is a large number, and stands.
+ZELM_INLINE Address atLeast(Address least, Address stride) {
+    return stride > least ? stride : least;
+}
+
+template <typename T>
+ZELM_INLINE StridedArray<T> withEffectiveStrides(StridedArray<T> d, std::int32_t width) {
+    d.elemStride = atLeast(sizeof(T), d.elemStride);
+    d.rowStride = atLeast(distance(width) * sizeof(T), d.rowStride);
+    return d;
+}
+
+template <typename T>
+ZELM_INLINE StridedList<T> withEffectiveStrides(StridedList<T> d, std::int32_t width) {
+    d.elemStride = atLeast(sizeof(T), d.elemStride);
+    d.rowStride = atLeast(distance(width) * sizeof(T), d.rowStride);
+    return d;
+}
+
+template <typename T>
+ZELM_INLINE TableArray<T> withEffectiveStrides(TableArray<T> d, std::int32_t) {
+    d.objStride = atLeast(sizeof(T), d.objStride);
+    return d;
+}
+
+// Element (row, column), where the column may lie behind the row.
+template <typename T>
+ZELM_INLINE Address position(const Strided<T> &d, std::uint32_t row, std::uint32_t column, std::int32_t) {
+    return d.address(row, column, 0);
+}
+
+template <typename T>
+ZELM_INLINE Address position(const Table<T> &d, std::uint32_t row, std::uint32_t column, std::int32_t width) {
+    const Address entry = row * distance(width) + column;
+    return addressOf(load<T *>(addressOf(d.table) + entry * sizeof(T *))) + d.shift;
+}
+
+// The diagonal runs on from object to object: only the first object has its ones where an identity has them.
+template <typename D>
+ZELM_INLINE ZelmStatus identities(const D &dst, std::int32_t width, std::int32_t height,
+                                  std::uint32_t count) {
+    using T = typename D::Element;
+    if (dst.isNull())
+        return ZELM_ERR_NULL_PTR;
+    if (count == 0)
+        return ZELM_ERR_SIZE;
+    const std::uint32_t rows = height < 0 ? 0 : static_cast<std::uint32_t>(height);
+    const std::uint32_t columns = width < 0 ? 0 : static_cast<std::uint32_t>(width);
+    const D d = withEffectiveStrides(dst, width);
+    std::uint32_t diagonal = 0;
+    if (rows == 0)
+        return ZELM_OK;
+    for (std::uint32_t k = 0; k < count; ++k) {
+        const auto object = d.object(k);
+        for (std::uint32_t i = 0; i < rows; ++i, ++diagonal) {
+            for (std::uint32_t c = 0; c < columns; ++c)
+                store(position(object, i, c, width), T{0});
+            store(position(object, i, diagonal, width), T{1});
+        }
+    }
+    return ZELM_OK;
+}
+
+} // namespace zelm::movement

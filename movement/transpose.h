@@ -1,0 +1,184 @@
+// Transposes. The element (i, j) of src goes to (j, i) of dst, rows of src in ascending order.
+#pragma once
+
+#include "frame/checks.h"
+#include "frame/groups.h"
+#include "frame/objects.h"
+#include "frame/overlap.h"
+#include "frame/shapes.h"
+#include "movement/planes.h"
+
+namespace zelm::movement {
+
+// The tables of the run-time P and PS2 forms depart from the rule: each index is made with the row length of
+// the other operand. For square matrices that is the ordinary table; for others it reaches behind the entries
+// that are tested. Operands without a table have no use for the number.
+template <typename Shape>
+ZELM_INLINE std::uint32_t sourcePitch(Shape shape) {
+    return shape.rows();
+}
+
+template <typename Shape>
+ZELM_INLINE std::uint32_t targetPitch(Shape shape) {
+    return shape.columns();
+}
+
+// Element by element in the order of src. `shape` is that of src as stored.
+template <typename S, typename D, typename Shape>
+ZELM_INLINE void transposeInOrder(const S &s, const D &d, Shape shape) {
+    using T = typename D::Element;
+    whileTrue(
+        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+            copyElement<T>(d.address(j, i, targetPitch(shape)), s.address(i, j, sourcePitch(shape)));
+            return true;
+        });
+}
+
+ZELM_INLINE void transposeBlock(const Dense<const float> &s, const Dense<float> &d, std::uint32_t i,
+                                std::uint32_t j) {
+    __m128 rows[4];
+#pragma GCC unroll 4
+    for (std::uint32_t r = 0; r < 4; ++r)
+        rows[r] = loadPack<float>(s.address(i + r, j, 0));
+    _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+#pragma GCC unroll 4
+    for (std::uint32_t r = 0; r < 4; ++r)
+        storePack(d.address(j + r, i, 0), rows[r]);
+}
+
+ZELM_INLINE void transposeBlock(const Dense<const double> &s, const Dense<double> &d, std::uint32_t i,
+                                std::uint32_t j) {
+    const __m128d a = loadPack<double>(s.address(i, j, 0)), b = loadPack<double>(s.address(i + 1, j, 0));
+    storePack(d.address(j, i, 0), _mm_unpacklo_pd(a, b));
+    storePack(d.address(j + 1, i, 0), _mm_unpackhi_pd(a, b));
+}
+
+// Square blocks in registers, and the edge element by element: for a dst that is apart from src.
+template <typename T, typename Shape>
+ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Shape shape) {
+    constexpr std::uint32_t side = kLanes<T>;
+    const std::uint32_t rows = shape.rows() / side * side, columns = shape.columns() / side * side;
+    const auto edge = [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+        copyElement<T>(d.address(j, i, 0), s.address(i, j, 0));
+    };
+    if constexpr (Shape::isFixed) {
+        whileTrue(
+            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+                if (i >= rows || j >= columns)
+                    edge(i, j);
+                else if (i % side == 0 && j % side == 0)
+                    transposeBlock(s, d, i, j);
+                return true;
+            });
+    } else {
+        for (std::uint32_t i = 0; i < rows; i += side) {
+            for (std::uint32_t j = 0; j < columns; j += side)
+                transposeBlock(s, d, i, j);
+            for (std::uint32_t j = columns; j < shape.columns(); ++j)
+                for (std::uint32_t r = i; r < i + side; ++r)
+                    edge(r, j);
+        }
+        for (std::uint32_t i = rows; i < shape.rows(); ++i)
+            for (std::uint32_t j = 0; j < shape.columns(); ++j)
+                edge(i, j);
+    }
+}
+
+// More rows and columns than this are moved one by one: the arithmetic on ranges could overflow.
+constexpr std::uint32_t kMostInBlocks = std::uint32_t{1} << 24;
+
+// Whether blocks leave in every object what the order of elements leaves: asked once for the strides, and
+// then for each object.
+struct Blocks {
+    Extent source, target;
+    bool possible;
+    template <typename S, typename D, typename Shape>
+    ZELM_INLINE Blocks(const S &s, const D &d, Shape shape) {
+        possible = shape.rows() <= kMostInBlocks && shape.columns() <= kMostInBlocks;
+        if (!possible)
+            return;
+        source = extentOf(s, shape.rows(), shape.columns());
+        target = extentOf(d, shape.columns(), shape.rows());
+        possible = objectElementsAreApart(d, shape.columns(), shape.rows());
+    }
+    ZELM_INLINE bool suit(Address from, Address to) const {
+        return possible && areDisjoint(from + source.lowest, source.bytes, to + target.lowest, target.bytes);
+    }
+};
+
+template <typename S, typename D, typename Shape>
+ZELM_INLINE void transposeObject(const S &s, const D &d, Shape shape, const Blocks &blocks) {
+    if (blocks.suit(s.start, d.start))
+        transposeBlocks(s, d, shape);
+    else
+        transposeInOrder(s, d, shape);
+}
+
+// ---- one matrix
+
+template <typename S, typename D, typename Shape>
+ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
+    if (ZelmStatus status = checkSingle(shape.isZero(), s, d); status != kProceed)
+        return status;
+    if constexpr (D::isTable) {
+        using T = typename D::Element;
+        const bool complete = whileTrue(
+            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+                const Address to = Address{j} * targetPitch(shape) + i;
+                const Address from = Address{i} * sourcePitch(shape) + j;
+                if (d.elementIsNull(to) || s.elementIsNull(from))
+                    return false;
+                copyElement<T>(d.position(to), s.position(from));
+                return true;
+            });
+        return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
+    } else if constexpr (D::isDense) {
+        transposeObject(s, d, shape, Blocks(s, d, shape));
+    } else {
+        transposeInOrder(s, d, shape);
+    }
+    return ZELM_OK;
+}
+
+// ---- arrays
+
+template <typename T, typename Shape>
+ZELM_INLINE bool transposePlanes(const PackedTableArray<const T> &s, const PackedTableArray<T> &d,
+                                 Shape shape, std::uint32_t count) {
+    if (!planesMayMove(s, d, shape.elements(), count))
+        return false;
+    const auto from = s.object(0);
+    const auto to = d.object(0);
+    for (std::uint32_t i = 0; i < shape.rows(); ++i)
+        for (std::uint32_t j = 0; j < shape.columns(); ++j)
+            moveRun<T>(to.address(j, i, shape.rows()), from.address(i, j, shape.columns()), count);
+    return true;
+}
+
+template <typename S, typename D, typename Shape>
+ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::uint32_t count) {
+    const Address n = shape.elements();
+    if (ZelmStatus status = checkArray(shape.isZero(), count, tested(s, n), tested(d, n)); status != kProceed)
+        return status;
+    if constexpr (D::isSideBySide && Shape::isFixed)
+        if (transposePlanes(s, d, shape, count))
+            return ZELM_OK;
+    if constexpr (decltype(d.object(0))::isDense) {
+        const Blocks blocks(s, d, shape);
+        const auto one = [&](std::uint32_t k) {
+            transposeObject(s.object(k), d.object(k), shape, blocks);
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, s, d);
+    } else {
+        const auto one = [&](std::uint32_t k) {
+            transposeInOrder(s.object(k), d.object(k), shape);
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, s, d);
+    }
+}
+
+} // namespace zelm::movement
+
+#include "movement/departures.h"
