@@ -4,6 +4,7 @@
 namespace zelmbench {
 
 void addVectorSumRows();
+void addElementwiseRows();
 void addLuRows();
 
 } // namespace zelmbench

@@ -52,6 +52,7 @@ int main(int argc, char **argv) {
         return 2;
     }
     zelmbench::addVectorSumRows();
+    zelmbench::addElementwiseRows();
     zelmbench::addLuRows();
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
