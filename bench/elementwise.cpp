@@ -11,7 +11,10 @@
 namespace zelmbench {
 namespace {
 
-constexpr double scale1 = 0.3, scale2 = 0.7;
+template <class T>
+struct Factors {
+    T first = static_cast<T>(0.3), second = static_cast<T>(0.7);
+};
 
 // What varies from row to row: which operands there are, and the formula over elements or Eigen's
 // expressions. A single object's row has the same name without `a`.
@@ -28,7 +31,7 @@ struct AddMatrices {
         return std::pair(std::tuple(), std::tuple());
     }
     template <class T, class A, class B>
-    static auto formula(const A &a, const B &b) {
+    static auto formula(const A &a, const B &b, Factors<T>) {
         return a + b;
     }
 };
@@ -47,7 +50,7 @@ struct SubFromInvariantMatrix : AddMatrices {
     static constexpr const char *array = "Sub_mma", *single = "Sub_mm";
     static constexpr Shape shape{.firstIsArray = false};
     template <class T, class A, class B>
-    static auto formula(const A &a, const B &b) {
+    static auto formula(const A &a, const B &b, Factors<T>) {
         return a - b;
     }
 };
@@ -57,11 +60,11 @@ struct ScaleMatrices {
     static constexpr Shape shape{.hasSecond = false};
     template <class T>
     static auto constants() {
-        return std::pair(std::tuple(static_cast<T>(scale1)), std::tuple());
+        return std::pair(std::tuple(Factors<T>().first), std::tuple());
     }
     template <class T, class A, class B>
-    static auto formula(const A &a, const B &) {
-        return a * static_cast<T>(scale1);
+    static auto formula(const A &a, const B &, Factors<T> by) {
+        return a * by.first;
     }
 };
 
@@ -78,8 +81,8 @@ struct Saxpy : ScaleMatrices {
     static constexpr const char *array = "Saxpy_vava", *single = "Saxpy_vv";
     static constexpr Shape shape{};
     template <class T, class A, class B>
-    static auto formula(const A &a, const B &b) {
-        return a * static_cast<T>(scale1) + b;
+    static auto formula(const A &a, const B &b, Factors<T> by) {
+        return a * by.first + b;
     }
 };
 
@@ -93,11 +96,11 @@ struct LinearCombination {
     static constexpr Shape shape{};
     template <class T>
     static auto constants() {
-        return std::pair(std::tuple(static_cast<T>(scale1)), std::tuple(static_cast<T>(scale2)));
+        return std::pair(std::tuple(Factors<T>().first), std::tuple(Factors<T>().second));
     }
     template <class T, class A, class B>
-    static auto formula(const A &a, const B &b) {
-        return a * static_cast<T>(scale1) + b * static_cast<T>(scale2);
+    static auto formula(const A &a, const B &b, Factors<T> by) {
+        return a * by.first + b * by.second;
     }
 };
 
@@ -125,6 +128,13 @@ auto sources(const First &first, const Second &second) {
     }
 }
 
+// The factors as a peer takes them, behind its operands.
+template <class Row, class T>
+auto factors() {
+    const auto [behindFirst, behindSecond] = Row::template constants<T>();
+    return std::tuple_cat(behindFirst, behindSecond);
+}
+
 template <class T>
 using FlatArray = Eigen::Map<Eigen::Array<T, Eigen::Dynamic, 1>>;
 template <class T, std::size_t rows, std::size_t columns>
@@ -145,7 +155,8 @@ template <class Row, class T, std::size_t rows, std::size_t columns>
 void runEigenWhole(Operands<T, Layout::Standard, rows, columns> &o) {
     const auto size = static_cast<Eigen::Index>(o.dst.count() * rows * columns);
     FlatArray<T> result(o.dst.data(), size);
-    result = Row::template formula<T>(FlatArray<T>(o.src1.data(), size), FlatArray<T>(o.src2.data(), size));
+    result = Row::template formula<T>(FlatArray<T>(o.src1.data(), size), FlatArray<T>(o.src2.data(), size),
+                                      Factors<T>());
 }
 
 template <class Row, class T, std::size_t rows, std::size_t columns>
@@ -157,12 +168,15 @@ void runEigenEach(Operands<T, Layout::Standard, rows, columns> &o) {
     for (std::size_t e = 0; e < o.dst.count() * rows * columns; e += rows * columns) {
         Map result(o.dst.data() + e);
         if constexpr (!shape.firstIsArray) {
-            result = Row::template formula<T>(first, used<shape.secondIsTransposed>(Map(o.src2.data() + e)));
+            result = Row::template formula<T>(first, used<shape.secondIsTransposed>(Map(o.src2.data() + e)),
+                                              Factors<T>());
         } else if constexpr (!shape.secondIsArray) {
-            result = Row::template formula<T>(used<shape.firstIsTransposed>(Map(o.src1.data() + e)), second);
+            result = Row::template formula<T>(used<shape.firstIsTransposed>(Map(o.src1.data() + e)), second,
+                                              Factors<T>());
         } else {
             result = Row::template formula<T>(used<shape.firstIsTransposed>(Map(o.src1.data() + e)),
-                                              used<shape.secondIsTransposed>(Map(o.src2.data() + e)));
+                                              used<shape.secondIsTransposed>(Map(o.src2.data() + e)),
+                                              Factors<T>());
         }
     }
 }
@@ -175,7 +189,7 @@ void runLoop(Operands<T, layout, rows, columns> &o) {
                               shape.firstIsTransposed ? i : j);
         const T b = o.src2.at(shape.secondIsArray ? k : 0, shape.secondIsTransposed ? j : i,
                               shape.secondIsTransposed ? i : j);
-        o.dst.at(k, i, j) = Row::template formula<T>(a, b);
+        o.dst.at(k, i, j) = Row::template formula<T>(a, b, Factors<T>());
     };
     const std::size_t count = o.dst.count();
     if constexpr (layout == Layout::P || layout == Layout::PS2) {
@@ -216,9 +230,10 @@ Comparison compareArrays(std::size_t count) {
                 return source.invariant();
             }
         };
-        return std::tuple_cat(sources<Row, T>(operand(o->src1, std::bool_constant<shape.firstIsArray>()),
-                                              operand(o->src2, std::bool_constant<shape.secondIsArray>())),
-                              o->dst.array(k), countArgument(objects));
+        return std::tuple_cat(
+            sources<Row, T>(operand(o->src1, std::bool_constant<Row::shape.firstIsArray>()),
+                            operand(o->src2, std::bool_constant<Row::shape.secondIsArray>())),
+            o->dst.array(k), countArgument(objects));
     };
     const std::string name = nameOf<T, layout, rows, columns>(Row::array);
     const auto results = [o] { return o->dst.values(); };
@@ -240,13 +255,19 @@ Comparison compareArrays(std::size_t count) {
     return comparison;
 }
 
-template <class Row, class T, std::size_t rows, std::size_t columns>
-__attribute__((noinline)) ZelmStatus eigenSingle(const T *src1, const T *src2, T *dst) {
+template <class Row, class T, std::size_t rows, std::size_t columns, class... Factor>
+__attribute__((noinline)) ZelmStatus eigenSingle(const T *src1, const T *src2, T *dst, Factor... factors) {
     using Source = Eigen::Map<const typename SmallMap<T, rows, columns>::PlainObject>;
     SmallMap<T, rows, columns> result(dst);
-    result = Row::template formula<T>(used<Row::shape.firstIsTransposed>(Source(src1)),
-                                      used<Row::shape.secondIsTransposed>(Source(src2)));
+    result =
+        Row::template formula<T>(used<Row::shape.firstIsTransposed>(Source(src1)),
+                                 used<Row::shape.secondIsTransposed>(Source(src2)), Factors<T>{factors...});
     return ZELM_OK;
+}
+
+template <class Row, class T, std::size_t rows, std::size_t columns, class... Factor>
+constexpr auto eigenSingleWith(std::tuple<Factor...>) {
+    return &eigenSingle<Row, T, rows, columns, Factor...>;
 }
 
 template <class Row, class T, std::size_t rows, std::size_t columns>
@@ -257,24 +278,33 @@ Comparison compareSingle() {
                               o->dst.object(k));
     };
     const auto pointers = [o](std::size_t, std::size_t k) {
-        return std::tuple(static_cast<const T *>(&o->src1.at(k, 0, 0)),
-                          static_cast<const T *>(&o->src2.at(k, 0, 0)), &o->dst.at(k, 0, 0));
+        return std::tuple_cat(std::tuple(static_cast<const T *>(&o->src1.at(k, 0, 0)),
+                                         static_cast<const T *>(&o->src2.at(k, 0, 0)), &o->dst.at(k, 0, 0)),
+                              factors<Row, T>());
     };
     const auto results = [o] { return o->dst.values(); };
     const std::string name = nameOf<T, Layout::Standard, rows, columns>(Row::single);
-    return {singles,
-            1e-5,
-            {{own, callPerObject(name, singles, arguments), results},
-             {eigen, callPerObject(&eigenSingle<Row, T, rows, columns>, singles, pointers), results}}};
+    return {
+        singles,
+        1e-5,
+        {{own, callPerObject(name, singles, arguments), results},
+         {eigen, callPerObject(eigenSingleWith<Row, T, rows, columns>(factors<Row, T>()), singles, pointers),
+          results}}};
 }
 
-template <class Row, class T>
-__attribute__((noinline)) ZelmStatus eigenLength(const T *src1, const T *src2, T *dst, std::uint32_t len) {
+template <class Row, class T, class... Factor>
+__attribute__((noinline)) ZelmStatus eigenLength(const T *src1, const T *src2, T *dst, std::uint32_t len,
+                                                 Factor... factors) {
     using Source = Eigen::Map<const Eigen::Array<T, Eigen::Dynamic, 1>>;
     const auto size = static_cast<Eigen::Index>(len);
     FlatArray<T> result(dst, size);
-    result = Row::template formula<T>(Source(src1, size), Source(src2, size));
+    result = Row::template formula<T>(Source(src1, size), Source(src2, size), Factors<T>{factors...});
     return ZELM_OK;
+}
+
+template <class Row, class T, class... Factor>
+constexpr auto eigenLengthWith(std::tuple<Factor...>) {
+    return &eigenLength<Row, T, Factor...>;
 }
 
 // Vectors of run-time length: `len` objects of one element hold the elements of one vector.
@@ -289,12 +319,12 @@ Comparison compareLength(const std::string &name, std::size_t len) {
     };
     const auto pointers = [o, len](std::size_t, std::size_t) {
         return std::tuple_cat(o->src1.constObject(0), o->src2.constObject(0), o->dst.object(0),
-                              countArgument(len));
+                              countArgument(len), factors<Row, T>());
     };
     return {calls,
             1e-5,
             {{own, callPerObject(name, calls, arguments), results},
-             {eigen, callPerObject(&eigenLength<Row, T>, calls, pointers), results}}};
+             {eigen, callPerObject(eigenLengthWith<Row, T>(factors<Row, T>()), calls, pointers), results}}};
 }
 
 template <class Row, class T, Layout layout, std::size_t rows, std::size_t columns>

@@ -29,18 +29,59 @@ ZELM_INLINE const HeldVector<T, N> &inputRow(const HeldVector<T, N> &held, std::
     return held;
 }
 
+template <typename T, unsigned R, unsigned C>
+ZELM_INLINE HeldStream<T> inputRow(const HeldMatrix<T, R, C> &held, std::uint32_t i) {
+    return held.row(i);
+}
+
+// ---- a whole object of fixed shape as the input of one run
+
+template <typename Shape, typename Object>
+ZELM_INLINE decltype(auto) inputOf(const Object &object) {
+    return inputRow(object, 0);
+}
+
+template <typename Shape, typename T>
+ZELM_INLINE TransposedStream<T, Shape::columns()> inputOf(const Transposed<Dense<const T>> &object) {
+    return {object};
+}
+
+template <typename Operand>
+constexpr bool kIsConstant = false;
+template <typename T>
+constexpr bool kIsConstant<Constant<T>> = true;
+
+// ---- all objects of an array, one behind the other, as the input of one run
+
+template <typename Array>
+ZELM_INLINE decltype(auto) inputOfAll(const Array &array) {
+    return inputRow(array.object(0), 0);
+}
+
+template <typename T, unsigned R, unsigned C>
+ZELM_INLINE HeldVector<T, R * C> inputOfAll(const HeldMatrix<T, R, C> &held) {
+    return HeldVector<T, R * C>(held.row(0));
+}
+
+template <typename Operand>
+constexpr bool kIsHeldMatrix = false;
+template <typename T, unsigned R, unsigned C>
+constexpr bool kIsHeldMatrix<HeldMatrix<T, R, C>> = true;
+
+// From how many objects on one run over all of them is worth repeating a held matrix for it.
+constexpr std::uint32_t kHeldMatrixCount = 16;
+
 // ---- whether the rows of an object, and the objects of an array, follow each other without a gap
 
 template <typename Object, typename Shape>
 ZELM_INLINE bool rowsAreGapless(const Object &object, Shape shape) {
-    if constexpr (requires { object.rowStride; })
+    if constexpr (requires { object.rowStride; } && !kIsTransposed<Object>)
         return shape.rows() == 1 || object.rowStride == shape.columns() * sizeof(typename Object::Element);
     else
         return true;
 }
 
-// An invariant that is read anew for every object can't be part of one run over all objects; a held vector
-// can.
+// An invariant that is read anew for every object can't be part of one run over all objects; a held one can.
 template <typename Operand, typename Shape>
 ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
     if constexpr (requires { operand.objStride; })
@@ -49,10 +90,7 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
     else
         return !requires {
             operand.rowStride;
-        }
-    &&!requires {
-        operand.elements;
-    };
+        };
 }
 
 // ---- one object
@@ -69,9 +107,16 @@ ZELM_INLINE void plainObject(const A &a, const B &b, const D &d, Shape shape) {
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    const bool gapless = rowsAreGapless(a, shape) & rowsAreGapless(b, shape) & rowsAreGapless(d, shape);
     if constexpr (kIsTransposed<A> || kIsTransposed<B>) {
+        // Sums of fixed size may read ahead of what they write; scaling reads each element just before it
+        // writes one.
+        if constexpr (Shape::isFixed && !kIsConstant<B>) {
+            if (gapless)
+                return shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
+        }
         plainObject<Op>(a, b, d, shape);
-    } else if (rowsAreGapless(a, shape) && rowsAreGapless(b, shape) && rowsAreGapless(d, shape)) {
+    } else if (gapless) {
         if constexpr (Shape::isFixed)
             shortRun<Op, T, shape.elements()>(inputRow(a, 0), inputRow(b, 0), d.start);
         else
@@ -92,8 +137,10 @@ template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     using T = typename D::Element;
     if constexpr (!D::isList && !kIsTransposed<A> && !kIsTransposed<B>) {
-        if (isGapless(a, shape) && isGapless(b, shape) && isGapless(d, shape)) {
-            run<Op, T>(inputRow(a.object(0), 0), inputRow(b.object(0), 0), d.start, count * shape.elements());
+        constexpr bool holdsMatrix = kIsHeldMatrix<A> || kIsHeldMatrix<B>;
+        if ((!holdsMatrix || count >= kHeldMatrixCount) && isGapless(a, shape) && isGapless(b, shape) &&
+            isGapless(d, shape)) {
+            run<Op, T>(inputOfAll(a), inputOfAll(b), d.start, count * shape.elements());
             return ZELM_OK;
         }
     }

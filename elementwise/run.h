@@ -45,6 +45,12 @@ struct ScaledStream {
     ZELM_INLINE bool isCloselyBehind(Address to) const { return stream.isCloselyBehind(to); }
 };
 
+// Adjacent elements that nothing writes.
+template <typename T>
+struct HeldStream : Stream<T> {
+    static constexpr bool isCloselyBehind(Address) { return false; }
+};
+
 // An invariant vector of N elements, read once and held, over and over.
 template <typename T, unsigned N>
 struct HeldVector : WithoutTable {
@@ -56,6 +62,14 @@ struct HeldVector : WithoutTable {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
             store(addressOf(&pattern[j]), value(object, 0, j, FixedShape<1, N>{}));
+        repeat();
+    }
+    ZELM_INLINE explicit HeldVector(const HeldStream<T> &elements) {
+        for (unsigned j = 0; j < N; ++j)
+            store(addressOf(&pattern[j]), elements.element(j));
+        repeat();
+    }
+    ZELM_INLINE void repeat() {
 #pragma GCC unroll 20
         for (unsigned i = N; i < period * kLanes<T>; ++i)
             copyElement<T>(addressOf(&pattern[i]), addressOf(&pattern[i - N]));
@@ -77,6 +91,7 @@ struct HeldVector : WithoutTable {
 // An invariant matrix, read once and held as it is used.
 template <typename T, unsigned R, unsigned C>
 struct HeldMatrix : WithoutTable {
+    using Element = T;
     T elements[R * C];
     template <typename Object>
     ZELM_INLINE explicit HeldMatrix(const Object &object) {
@@ -84,9 +99,31 @@ struct HeldMatrix : WithoutTable {
         for (unsigned e = 0; e < R * C; ++e)
             store(addressOf(&elements[e]), value(object, e / C, e % C, FixedShape<R, C>{}));
     }
-    ZELM_INLINE Dense<const T> object(std::uint32_t) const {
-        return Dense<const T>(addressOf(elements), Address{C * sizeof(T)});
+    ZELM_INLINE const HeldMatrix &object(std::uint32_t) const {
+        return *this;
     }
+    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const {
+        return elements[i * C + j];
+    }
+    ZELM_INLINE HeldStream<T> row(std::uint32_t i) const {
+        return {{addressOf(&elements[i * C])}};
+    }
+};
+
+// The elements of a matrix used transposed, row after row of R rows of C elements.
+template <typename T, unsigned C>
+struct TransposedStream {
+    Dense<const T> stored;
+    ZELM_INLINE T element(Address e) const {
+        return stored.get(static_cast<std::uint32_t>(e % C), static_cast<std::uint32_t>(e / C), 0);
+    }
+    ZELM_INLINE Pack<T> pack(Address e, unsigned) const {
+        if constexpr (sizeof(T) == 4)
+            return _mm_setr_ps(element(e), element(e + 1), element(e + 2), element(e + 3));
+        else
+            return _mm_setr_pd(element(e), element(e + 1));
+    }
+    static constexpr bool isCloselyBehind(Address) { return false; }
 };
 
 template <typename Op, typename T, typename A, typename B>
@@ -95,7 +132,7 @@ ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Add
     constexpr unsigned round = period < 3 ? 4 : period;
     constexpr unsigned lanes = kLanes<T>;
     for (; length - i >= round * lanes; i += round * lanes) {
-#pragma GCC unroll 8
+#pragma GCC unroll 25
         for (unsigned p = 0; p < round; ++p) {
             const Address at = i + p * lanes;
             storePack(dst + at * sizeof(T), Op::apply(a.pack(at, p), b.pack(at, p)));
@@ -122,15 +159,15 @@ ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     constexpr unsigned lanes = kLanes<T>;
     unsigned packed = 0;
     if constexpr (N >= lanes) {
-        if (!a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
+        if (!(a.isCloselyBehind(dst) | b.isCloselyBehind(dst))) {
             packed = N / lanes * lanes;
-#pragma GCC unroll 3
+#pragma GCC unroll 18
             for (unsigned p = 0; p < N / lanes; ++p)
                 storePack(dst + p * kPackBytes, Op::apply(a.pack(p * lanes, p), b.pack(p * lanes, p)));
         }
     }
     if (packed == 0) {
-#pragma GCC unroll 6
+#pragma GCC unroll 36
         for (unsigned j = 0; j < N; ++j)
             store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
     } else {

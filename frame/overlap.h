@@ -107,6 +107,14 @@ ZELM_INLINE bool elementsAreApart(const Array &array, unsigned rows, unsigned co
 // A table's positions: no two closer than `bytes`.
 template <typename T>
 bool positionsAreApart(const Table<T> &object, unsigned entries, std::int64_t bytes) {
+    // Positions in ascending order need no comparison of each with each.
+    unsigned ascending = 1;
+    while (ascending < entries &&
+           rangeFrom(object.position(ascending), 0).low - rangeFrom(object.position(ascending - 1), 0).low >=
+               bytes)
+        ++ascending;
+    if (ascending >= entries)
+        return true;
     for (unsigned e = 1; e < entries; ++e) {
         const std::int64_t at = rangeFrom(object.position(e), 0).low;
         for (unsigned f = 0; f < e; ++f) {
