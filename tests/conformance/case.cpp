@@ -91,8 +91,17 @@ private:
                 // all of 0 to 9 and 16 to 70 in turn, the small ones more often
                 const auto turn = static_cast<std::uint32_t>(case_.number % 85);
                 size = turn < 30 ? turn % 10 : turn - 14;
+                if (size == 0 && readsEntryBefore())
+                    size = 1;
             }
         }
+    }
+
+    // A list whose last object is used where there is none: what lies before a table is for tests by name.
+    bool readsEntryBefore() const { return countsZeroAsOne() && layoutIs(Layout::L, Layout::LS2); }
+
+    bool countsZeroAsOne() const {
+        return target_.family->countsZeroAsOne && target_.family->countsZeroAsOne(target_.cell);
     }
 
     void drawRelation() {
@@ -136,6 +145,8 @@ private:
         o.packed = parameter.kind == Kind::Result;
         o.perObject = o.table && layoutIs(Layout::L, Layout::LS2);
         o.objects = o.array ? case_.call.count() : 1;
+        if (o.objects == 0 && countsZeroAsOne())
+            o.objects = 1;
         o.rows = case_.call.dimension(parameter.rows);
         o.columns = case_.call.dimension(parameter.columns);
         o.slab = case_.operands.size();
@@ -445,6 +456,8 @@ private:
     }
 
     void passOperands() {
+        for (Placement &o : case_.operands)
+            o.behind = entriesBehind(o);
         const bool oneTable = random_.chance(50);
         const auto common = static_cast<std::int32_t>(8 * random_.between(-64, 64));
         for (std::size_t n = 0; n < case_.operands.size(); ++n) {
@@ -477,11 +490,19 @@ private:
                     p.shift = passed(first).shift;
                 continue;
             }
-            const auto bytes = static_cast<std::int64_t>(o.entries.size() * sizeof(void *));
+            const auto bytes = static_cast<std::int64_t>((o.entries.size() + o.behind) * sizeof(void *));
             const std::size_t slab = firstTableSlab + n;
             p.base = reinterpret_cast<std::uintptr_t>(arena_.slab(slab)) +
                      static_cast<std::uintptr_t>(place(slab, bytes, sizeof(void *)));
         }
+    }
+
+    std::size_t entriesBehind(const Placement &o) const {
+        const auto reached = target_.family->entriesReached;
+        if (!reached || !o.table)
+            return 0;
+        const std::size_t entries = reached(case_.call, target_.signature[o.parameter]);
+        return entries > o.entries.size() ? entries - o.entries.size() : 0;
     }
 
     std::size_t firstTable() const {
@@ -494,7 +515,7 @@ private:
     // May this operand use the table of the first operand that has one?
     bool sharesTable(const Placement &o) const {
         const Placement &first = case_.operands[firstTable()];
-        if (&first == &o || o.slab != first.slab || o.entries != first.entries)
+        if (&first == &o || o.slab != first.slab || o.entries != first.entries || o.behind != first.behind)
             return false;
         return o.origin == first.origin || (relation_ == Relation::Interleaved && o.perObject);
     }
@@ -505,13 +526,13 @@ private:
                 continue;
             Passed &p = passed(o);
             const bool intoGuard = target_.family->neverReads && !o.perObject && random_.chance(50);
-            for (std::size_t e = 0; e < o.entries.size(); ++e) {
+            for (std::size_t e = 0; e < o.entries.size() + o.behind; ++e) {
                 const auto i = static_cast<std::uint32_t>(e / o.columns),
                            j = static_cast<std::uint32_t>(e % o.columns);
                 const bool astray = intoGuard && target_.family->neverReads(case_.call, i, j);
                 const std::uintptr_t place =
                     astray ? reinterpret_cast<std::uintptr_t>(arena_.slab(o.slab)) + Arena::slabSize + 64
-                           : address(o, o.entries[e]);
+                           : address(o, o.entries[e % o.entries.size()]);
                 const auto shift = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(p.shift));
                 zelmref::writeWord(p.base + e * sizeof(void *), place - shift);
             }
@@ -639,8 +660,9 @@ private:
         if (entries)
             for (const Placement &o : case_.operands) {
                 const bool here = random_.chance(50);
-                const std::uint32_t entry = random_.below(static_cast<std::uint32_t>(o.entries.size() + 1));
-                if (here && entry < o.entries.size() && !followsNull(entry))
+                const std::uint32_t entry =
+                    random_.below(static_cast<std::uint32_t>(o.entries.size() + o.behind + 1));
+                if (here && entry < o.entries.size() + o.behind && !followsNull(entry))
                     zelmref::writeWord(passed(o).base + entry * sizeof(void *), std::uintptr_t{0});
             }
         if (!arguments)
@@ -650,9 +672,9 @@ private:
             Passed &passed = case_.call.passed[p];
             if (!random_.chance(25))
                 continue;
-            if (kind == Kind::Dimension || kind == Kind::Count)
+            if (kind == Kind::Dimension || (kind == Kind::Count && !readsEntryBefore()))
                 passed.size = 0;
-            else if (kind != Kind::Constant)
+            else if (kind != Kind::Constant && kind != Kind::Count)
                 passed.base = 0;
         }
     }

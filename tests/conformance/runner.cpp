@@ -43,6 +43,13 @@ std::optional<Mismatch> Runner::run(const Target &target, std::uint64_t seed, st
     nameRunningCase(target.function->name, seed, number);
     makeCase(target, seed, number, arena_, case_);
 
+    const auto isMapped = [this](zelmref::Address address) {
+        std::size_t slab, offset;
+        return arena_.locate(address, slab, offset) && offset < Arena::slabSize;
+    };
+    if (target.family->raisesFault && target.family->raisesFault(case_.call, isMapped))
+        return std::nullopt;
+
     results_.clear();
     const ZelmStatus expected = target.family->run(case_.call, results_);
     for (const Window &w : case_.windows) {

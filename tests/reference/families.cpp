@@ -4,6 +4,9 @@ namespace zelmref {
 
 // One line for each family: declared here, defined in the file of its name.
 extern const Family vectorAddSub;
+extern const Family matrixAddSub;
+extern const Family scaling;
+extern const Family saxpyLcomb;
 extern const Family luDecomp;
 extern const Family luBackSubst;
 extern const Family dotProduct;
@@ -13,8 +16,8 @@ extern const Family frobeniusNorm;
 extern const Family trace;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family : {&vectorAddSub, &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm,
-                                 &frobeniusNorm, &trace})
+    for (const Family *family : {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &luDecomp, &luBackSubst,
+                                 &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
         if (family->serves(cell))
             return family;
     return nullptr;

@@ -6,6 +6,8 @@
 
 #include "zelm.h"
 
+#include <functional>
+
 namespace zelmref {
 
 // Which overlaps of dst with a source have a defined result.
@@ -23,6 +25,9 @@ enum class Content {
     Sums,     // numbers whose sum depends on its order
 };
 
+// Can an element be read at an address?
+using IsMapped = std::function<bool(Address)>;
+
 struct Family {
     bool (*serves)(const Cell &cell);
     Signature (*signature)(const Cell &cell);
@@ -37,6 +42,12 @@ struct Family {
     bool (*followsNull)(const Call &call, std::size_t entry) = nullptr;
     // Is an element of the source never read? Then a table's entry for it may lead anywhere.
     bool (*neverReads)(const Call &call, std::uint32_t i, std::uint32_t j) = nullptr;
+    // The number of table entries that a call may use, where an index reaches behind the operand's positions.
+    std::size_t (*entriesReached)(const Call &call, const Parameter &parameter) = nullptr;
+    // Is there an object even where `count` is 0?
+    bool (*countsZeroAsOne)(const Cell &cell) = nullptr;
+    // Does the call raise a fault, as it may? No case has one.
+    bool (*raisesFault)(const Call &call, const IsMapped &isMapped) = nullptr;
 };
 
 // The family that serves a cell, or null.
