@@ -32,6 +32,7 @@
 #include "zelm/types.h" /* IWYU pragma: export */
 
 #include "zelm/elementwise.h" /* IWYU pragma: export */
+#include "zelm/movement.h"    /* IWYU pragma: export */
 #include "zelm/solvers.h"     /* IWYU pragma: export */
 #include "zelm/vector.h"      /* IWYU pragma: export */
 

@@ -30,12 +30,12 @@ enum class Relation {
 };
 
 bool isOperand(Kind kind) {
-    return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result;
+    return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result || kind == Kind::Packed;
 }
 
 bool fitsShape(const Placement &a, const Placement &b) {
     return a.array == b.array && a.rows == b.rows && a.columns == b.columns && a.table == b.table &&
-           a.packed == b.packed;
+           a.layout == b.layout && a.packed == b.packed;
 }
 
 class Maker {
@@ -77,7 +77,6 @@ public:
 private:
     Placement &dst() { return case_.operands.back(); }
     Passed &passed(const Placement &operand) { return case_.call.passed[operand.parameter]; }
-    bool layoutIs(Layout a, Layout b) const { return target_.cell.layout == a || target_.cell.layout == b; }
 
     void drawSizes() {
         for (std::size_t p = 0; p < target_.signature.size(); ++p) {
@@ -93,12 +92,14 @@ private:
                 size = turn < 30 ? turn % 10 : turn - 14;
                 if (size == 0 && readsEntryBefore())
                     size = 1;
+                if (target_.family->columnsReached) // the memory grows with the square of their rows
+                    size %= 1 + 60 / case_.call.dimension("height");
             }
         }
     }
 
     // A list whose last object is used where there is none: what lies before a table is for tests by name.
-    bool readsEntryBefore() const { return countsZeroAsOne() && layoutIs(Layout::L, Layout::LS2); }
+    bool readsEntryBefore() const { return countsZeroAsOne() && target_.cell.layout == Layout::L; }
 
     bool countsZeroAsOne() const {
         return target_.family->countsZeroAsOne && target_.family->countsZeroAsOne(target_.cell);
@@ -142,13 +143,16 @@ private:
         o.parameter = p;
         o.array = parameter.array;
         o.table = zelmref::hasTable(target_.cell, parameter);
-        o.packed = parameter.kind == Kind::Result;
-        o.perObject = o.table && layoutIs(Layout::L, Layout::LS2);
+        o.layout = zelmref::layoutOf(target_.cell, parameter);
+        o.packed = parameter.kind == Kind::Result || parameter.kind == Kind::Packed;
+        o.perObject = o.table && (o.layout == Layout::L || o.layout == Layout::LS2);
         o.objects = o.array ? case_.call.count() : 1;
         if (o.objects == 0 && countsZeroAsOne())
             o.objects = 1;
         o.rows = case_.call.dimension(parameter.rows);
         o.columns = case_.call.dimension(parameter.columns);
+        if (const auto reached = target_.family->columnsReached)
+            o.columns = reached(case_.call);
         o.slab = case_.operands.size();
 
         // A destination whose elements coincide within one object: not in every case of a solver.
@@ -161,7 +165,7 @@ private:
     }
 
     void drawStrides(Placement &o, bool mayOverlap) {
-        const bool strided = layoutIs(Layout::S2, Layout::LS2) && !o.packed;
+        const bool strided = (o.layout == Layout::S2 || o.layout == Layout::LS2) && !o.packed;
         const bool perPosition = o.table && !o.perObject;
         const std::uint32_t special = random_.below(100);
 
@@ -180,11 +184,32 @@ private:
             o.elem = size_ * o.objects;
             o.obj = size_;
         }
-        if (o.packed || target_.cell.layout == Layout::P)
+        if (o.packed || o.layout == Layout::P)
             o.obj = size_;
+        if (target_.signature[o.parameter].kind == Kind::Packed) {
+            o.elem = size_;
+            o.row = o.rows == 1 ? 0 : size_ * o.columns;
+            o.obj = size_ * o.rows * o.columns;
+        }
+        if (target_.family->columnsReached)
+            keepAtLeastPacked(o);
         if (o.table)
             drawEntries(o, mayOverlap);
         measure(o);
+    }
+
+    // Strides below those of a packed matrix are not what the function works with.
+    void keepAtLeastPacked(Placement &o) const {
+        const auto atLeast = [](std::int64_t &stride, std::int64_t least) {
+            if (stride >= 0 && stride < least)
+                stride = least;
+        };
+        if (o.table && !o.perObject) {
+            atLeast(o.obj, size_);
+            return;
+        }
+        atLeast(o.elem, size_);
+        atLeast(o.row, size_ * case_.call.dimension("width"));
     }
 
     // Bytes from the first to the last byte of one object of a strided operand.
@@ -202,7 +227,7 @@ private:
         const std::size_t positions = static_cast<std::size_t>(o.rows) * o.columns;
         const std::size_t count = o.perObject ? o.objects : positions;
         std::int64_t slot = 0, first = 0;
-        const bool records = !o.perObject && target_.cell.layout == Layout::PS2 && random_.chance(30);
+        const bool records = !o.perObject && o.layout == Layout::PS2 && random_.chance(30);
         const std::int64_t gap = size_ * (random_.chance(50) ? random_.between(0, 5) : 0);
         if (o.perObject) {
             slot = objectBytes(o) + gap;
@@ -269,6 +294,8 @@ private:
 
     void relate() {
         const std::size_t sources = case_.operands.size() - 1;
+        if (sources == 0)
+            return;
         const std::size_t chosen = random_.below(static_cast<std::uint32_t>(sources));
         const Overlap overlap = overlapWith(case_.operands[chosen]);
         switch (relation_) {
@@ -354,7 +381,7 @@ private:
     }
 
     void interleave() {
-        if (layoutIs(Layout::P, Layout::P) || !zelmref::isArray(target_.cell)) {
+        if (target_.cell.layout == Layout::P || !zelmref::isArray(target_.cell)) {
             touch();
             return;
         }
@@ -475,6 +502,8 @@ private:
             // Strides that are multiplied with nothing but zero may be anything.
             p.elemStride = garbage && o.columns == 1 ? anyElem : static_cast<std::int32_t>(o.elem);
             p.rowStride = garbage && o.rows == 1 ? anyRow : static_cast<std::int32_t>(o.row);
+            if (target_.family->columnsReached)
+                passBelowPacked(o, p);
             p.objStride = unread || (garbage && o.objects <= 1) ? anyObj : static_cast<std::int32_t>(o.obj);
             if (!o.table) {
                 p.base = address(o, 0);
@@ -495,6 +524,19 @@ private:
             p.base = reinterpret_cast<std::uintptr_t>(arena_.slab(slab)) +
                      static_cast<std::uintptr_t>(place(slab, bytes, sizeof(void *)));
         }
+    }
+
+    // A stride that the function will raise to that of a packed matrix.
+    void passBelowPacked(const Placement &o, Passed &p) {
+        const auto below = [&](std::int64_t least) {
+            return static_cast<std::int32_t>(random_.between(0, least));
+        };
+        const std::int64_t row = size_ * case_.call.dimension("width");
+        const std::int32_t elem = below(size_), rowStride = below(row);
+        if (o.elem == size_)
+            p.elemStride = elem;
+        if (o.row == row)
+            p.rowStride = rowStride;
     }
 
     std::size_t entriesBehind(const Placement &o) const {

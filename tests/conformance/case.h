@@ -15,7 +15,8 @@ namespace zelmtest {
 struct Placement {
     std::size_t parameter = 0;
     bool array = false, table = false;
-    bool packed = false; // one number per object, whatever the layout
+    zelmref::Layout layout = zelmref::Layout::Standard;
+    bool packed = false; // without gaps, whatever the layout
     std::uint32_t objects = 0, rows = 1, columns = 1;
     std::int64_t elem = 0, row = 0, obj = 0;
     std::vector<std::int64_t> entries; // tables: where each entry points to, without the shift

@@ -37,7 +37,7 @@ Operand::Operand(const Call &call, std::string_view name) {
     const Parameter &parameter = (*call.signature)[index];
     const Passed &passed = call.passed[index];
     const auto size = static_cast<std::int32_t>(elementSize(*call.cell));
-    const Layout layout = call.cell->layout;
+    const Layout layout = layoutOf(*call.cell, parameter);
 
     base_ = passed.base;
     table_ = zelmref::hasTable(*call.cell, parameter);
@@ -54,6 +54,11 @@ Operand::Operand(const Call &call, std::string_view name) {
     }
     rows_ = call.dimension(parameter.rows);
     columns_ = call.dimension(parameter.columns);
+    if (parameter.kind == Kind::Packed) { // likewise
+        elemStride_ = size;
+        rowStride_ = size * static_cast<std::int32_t>(columns_);
+        objStride_ = rowStride_ * static_cast<std::int32_t>(rows_);
+    }
 }
 
 Address Operand::element(std::uint32_t k, std::uint32_t i, std::uint32_t j) const {

@@ -22,6 +22,20 @@ Layout parseLayout(std::string_view token) {
     throw std::invalid_argument("no layout: " + std::string(token));
 }
 
+// The letters of Copy and LoadIdentity stand for layouts with all strides.
+Layout parseLetter(char letter) {
+    switch (letter) {
+    case 'S':
+        return Layout::S2;
+    case 'P':
+        return Layout::PS2;
+    case 'L':
+        return Layout::LS2;
+    default:
+        throw std::invalid_argument(std::string("no layout: ") + letter);
+    }
+}
+
 Type parseType(std::string_view token) {
     if (token == "32f")
         return Type::Float32;
@@ -42,7 +56,13 @@ std::uint32_t parseOrder(std::string_view token) {
 
 Cell parseCell(std::string_view operation, std::string_view descriptor, std::string_view type,
                std::string_view size, std::string_view layout) {
-    return {operation, descriptor, parseType(type), parseLayout(layout), parseOrder(size)};
+    if (operation == "Copy" && layout.size() == 2)
+        return {operation,        descriptor,
+                parseType(type),  parseLetter(layout[0]),
+                parseOrder(size), parseLetter(layout[1])};
+    const bool isLetter = operation == "LoadIdentity" && layout.size() == 1;
+    const Layout its = isLetter ? parseLetter(layout[0]) : parseLayout(layout);
+    return {operation, descriptor, parseType(type), its, parseOrder(size), its};
 }
 
 } // namespace zelmref

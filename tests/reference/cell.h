@@ -14,6 +14,7 @@ struct Cell {
     Type type;
     Layout layout;
     std::uint32_t order; // the N of the size token; 0 for a run-time form
+    Layout dstLayout;    // another one in Copy only
 };
 
 constexpr bool isArray(const Cell &cell) {

@@ -4,8 +4,8 @@ namespace zelmref {
 namespace {
 
 bool isPointer(Kind kind) {
-    return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result || kind == Kind::PivotIndex ||
-           kind == Kind::Scratch;
+    return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result || kind == Kind::Packed ||
+           kind == Kind::PivotIndex || kind == Kind::Scratch;
 }
 
 bool isPerPosition(const Cell &cell) {
@@ -14,17 +14,28 @@ bool isPerPosition(const Cell &cell) {
 
 } // namespace
 
+bool pointerIsNull(const Call &call) {
+    for (std::size_t p = 0; p < call.signature->size(); ++p)
+        if (isPointer((*call.signature)[p].kind) && call.passed[p].base == 0)
+            return true;
+    return false;
+}
+
+bool dimensionIsZero(const Call &call) {
+    for (std::size_t p = 0; p < call.signature->size(); ++p)
+        if ((*call.signature)[p].kind == Kind::Dimension && call.passed[p].size == 0)
+            return true;
+    return false;
+}
+
 std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables, std::size_t entries) {
     const Signature &signature = *call.signature;
     const bool array = isArray(*call.cell);
 
-    for (std::size_t p = 0; p < signature.size(); ++p)
-        if (isPointer(signature[p].kind) && call.passed[p].base == 0)
-            return ZELM_ERR_NULL_PTR;
-
-    for (std::size_t p = 0; p < signature.size(); ++p)
-        if (signature[p].kind == Kind::Dimension && call.passed[p].size == 0)
-            return ZELM_ERR_SIZE;
+    if (pointerIsNull(call))
+        return ZELM_ERR_NULL_PTR;
+    if (dimensionIsZero(call))
+        return ZELM_ERR_SIZE;
 
     if (isPerPosition(*call.cell) && (array || singleTables == SingleTables::TestedFirst)) {
         for (const Parameter &parameter : signature) {

@@ -19,6 +19,10 @@ enum class SingleTables {
 std::optional<ZelmStatus> checkArguments(const Call &call, SingleTables singleTables,
                                          std::size_t entries = SIZE_MAX);
 
+// The first two of these steps by themselves, for families that go their own way.
+bool pointerIsNull(const Call &call);
+bool dimensionIsZero(const Call &call);
+
 // Is an entry null in any table of one entry per object?
 bool objectIsNull(const Call &call, std::uint32_t k);
 

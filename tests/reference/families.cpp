@@ -7,6 +7,10 @@ extern const Family vectorAddSub;
 extern const Family matrixAddSub;
 extern const Family scaling;
 extern const Family saxpyLcomb;
+extern const Family transpose;
+extern const Family copy;
+extern const Family extract;
+extern const Family loadIdentity;
 extern const Family luDecomp;
 extern const Family luBackSubst;
 extern const Family dotProduct;
@@ -16,8 +20,9 @@ extern const Family frobeniusNorm;
 extern const Family trace;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family : {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &luDecomp, &luBackSubst,
-                                 &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
+    for (const Family *family :
+         {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
+          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
         if (family->serves(cell))
             return family;
     return nullptr;

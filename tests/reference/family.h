@@ -48,6 +48,9 @@ struct Family {
     bool (*countsZeroAsOne)(const Cell &cell) = nullptr;
     // Does the call raise a fault, as it may? No case has one.
     bool (*raisesFault)(const Call &call, const IsMapped &isMapped) = nullptr;
+    // The number of columns of dst that a call writes, where that is more than its width; its strides are
+    // then at least those of a packed matrix.
+    std::uint32_t (*columnsReached)(const Call &call) = nullptr;
 };
 
 // The family that serves a cell, or null.

@@ -53,6 +53,13 @@ public:
         elements_.push_back({address, true});
     }
 
+    // An element that was read before, bit by bit.
+    template <class T>
+    void place(Address to, Bits<T> bits) {
+        writeWord(to, bits);
+        elements_.push_back({to, false});
+    }
+
     template <class T>
     void copy(Address to, Address from) {
         writeWord(to, readWord<Bits<T>>(from));

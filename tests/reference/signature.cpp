@@ -24,6 +24,10 @@ Parameter result(bool array) {
     return {"dst", Kind::Result, array, "", ""};
 }
 
+Parameter packed(bool array, std::string height, std::string width) {
+    return {"dst", Kind::Packed, array, std::move(height), std::move(width)};
+}
+
 Parameter dimension(std::string name) {
     return {std::move(name), Kind::Dimension, false, "", ""};
 }
@@ -32,10 +36,14 @@ Parameter objectCount() {
     return {"count", Kind::Count, false, "", ""};
 }
 
+Layout layoutOf(const Cell &cell, const Parameter &parameter) {
+    return parameter.name == "dst" ? cell.dstLayout : cell.layout;
+}
+
 bool hasTable(const Cell &cell, const Parameter &parameter) {
     if (parameter.kind != Kind::Vector && parameter.kind != Kind::Matrix)
         return false;
-    switch (cell.layout) {
+    switch (layoutOf(cell, parameter)) {
     case Layout::P:
     case Layout::PS2:
         return true;
@@ -54,7 +62,8 @@ std::vector<CArgument> argumentList(const Cell &cell, const Signature &signature
         const auto add = [&](Part part, const char *suffix) {
             list.push_back({index, part, parameter.name + suffix});
         };
-        const bool strided = cell.layout == Layout::S2 || cell.layout == Layout::LS2;
+        const Layout layout = layoutOf(cell, parameter);
+        const bool strided = layout == Layout::S2 || layout == Layout::LS2;
 
         if (parameter.kind != Kind::Vector && parameter.kind != Kind::Matrix) {
             add(Part::Value, "");
@@ -69,11 +78,11 @@ std::vector<CArgument> argumentList(const Cell &cell, const Signature &signature
         } else {
             add(Part::Table, "Table");
             add(Part::Shift, "Shift");
-            if (cell.layout == Layout::PS2 && parameter.array)
+            if (layout == Layout::PS2 && parameter.array)
                 add(Part::ObjStride, "ObjStride");
-            if ((cell.layout == Layout::L || cell.layout == Layout::LS2) && parameter.kind == Kind::Matrix)
+            if ((layout == Layout::L || layout == Layout::LS2) && parameter.kind == Kind::Matrix)
                 add(Part::RowStride, "RowStride");
-            if (cell.layout == Layout::LS2)
+            if (layout == Layout::LS2)
                 add(Part::ElemStride, "ElemStride");
         }
     }

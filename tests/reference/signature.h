@@ -8,7 +8,7 @@
 
 namespace zelmref {
 
-enum class Kind { Vector, Matrix, Constant, Result, PivotIndex, Scratch, Dimension, Count };
+enum class Kind { Vector, Matrix, Constant, Result, Packed, PivotIndex, Scratch, Dimension, Count };
 
 // A parameter of a function. An operand without `array` in a function with arrays is the invariant one.
 // `rows` and `columns` name the dimensions of the operand as it is stored; a fixed size stands for all of
@@ -28,7 +28,8 @@ Parameter vector(std::string name, bool array, std::string length = "len");
 Parameter matrix(std::string name, bool array, std::string height = "n", std::string width = "n");
 Parameter constant(std::string name);
 Parameter pivotIndex(bool array);
-Parameter result(bool array); // dst, one number per object
+Parameter result(bool array);                                        // dst, one number per object
+Parameter packed(bool array, std::string height, std::string width); // dst, whole objects without a gap
 Parameter dimension(std::string name);
 Parameter objectCount();
 
@@ -39,6 +40,9 @@ struct CArgument {
     Part part;
     std::string name;
 };
+
+// The layout of one operand.
+Layout layoutOf(const Cell &cell, const Parameter &parameter);
 
 // Does the operand come as a table of pointers in this cell?
 bool hasTable(const Cell &cell, const Parameter &parameter);
