@@ -8,7 +8,7 @@
 
 namespace zelmref::departs {
 
-inline bool isOneOf(const Cell &cell, std::initializer_list<std::string_view> descriptors) {
+inline bool hasDescriptor(const Cell &cell, std::initializer_list<std::string_view> descriptors) {
     return std::find(descriptors.begin(), descriptors.end(), cell.descriptor) != descriptors.end();
 }
 
@@ -22,44 +22,44 @@ struct Equal {
 };
 
 inline Equal equalDimensions(const Cell &c) {
-    if (isOneOf(c, {"mm", "mam"}))
+    if (hasDescriptor(c, {"mm", "mam"}))
         return {"src1Width", "src2Height"};
-    if (isOneOf(c, {"mmT", "mmaT", "mamT", "mamaT"}))
+    if (hasDescriptor(c, {"mmT", "mmaT", "mamT", "mamaT"}))
         return {"src1Width", "src2Width"};
-    if (isOneOf(c, {"mTm", "mTma", "maTm", "maTma"}))
+    if (hasDescriptor(c, {"mTm", "mTma", "maTm", "maTma"}))
         return {"src1Height", "src2Height"};
     return {"src1Height", "src2Width"}; // the transposed of both, and also mma and mama
 }
 
 // src2Width may be zero: no columns.
 inline bool mayHaveNoColumns(const Cell &c) {
-    return isOneOf(c, {"mam"});
+    return hasDescriptor(c, {"mam"});
 }
 
 // The true product of src1 by the transpose of src2 as stored, where the row's other forms keep bounds that
 // speak of src2 as used.
 inline bool hasBoundsOfStored(const Cell &c) {
-    return c.order == 0 && c.layout == Layout::Standard && isOneOf(c, {"mmT"});
+    return c.order == 0 && c.layout == Layout::Standard && hasDescriptor(c, {"mmT"});
 }
 
 // ((p0 + p1) + (p2 + p3)) + (p4 + p5)
 inline bool sumsInTree(const Cell &c) {
     return c.type == Type::Float32 && c.order == 6 && c.layout == Layout::S2 &&
-           isOneOf(c, {"mm", "mmT", "mTmT"});
+           hasDescriptor(c, {"mm", "mmT", "mTmT"});
 }
 
 // On data at multiples of 16 every object of dst is computed from object 0 of src1.
 inline bool mayStayAtFirstObject(const Cell &c) {
     return c.type == Type::Float64 && c.order != 0 && c.layout == Layout::Standard &&
-           isOneOf(c, {"mama", "maTma", "mamaT", "maTmaT"});
+           hasDescriptor(c, {"mama", "maTma", "mamaT", "maTmaT"});
 }
 
 inline bool testsNoEntry(const Cell &c) {
     if (c.type != Type::Float32 || c.order != 3)
         return false;
     if (c.layout == Layout::P || c.layout == Layout::PS2)
-        return isOneOf(c, {"mam", "maTm", "mamT"});
-    return c.layout == Layout::LS2 && isOneOf(c, {"mam", "maTm", "mamT", "maTmT"});
+        return hasDescriptor(c, {"mam", "maTm", "mamT"});
+    return c.layout == Layout::LS2 && hasDescriptor(c, {"mam", "maTm", "mamT", "maTmT"});
 }
 
 // The fixed sizes that work in place, but for the forms of single objects in P, which never do.
@@ -67,17 +67,18 @@ inline bool worksInPlaceOfFirst(const Cell &c) {
     const bool wide = c.type == Type::Float64;
     switch (c.layout) {
     case Layout::Standard:
-        return isOneOf(c, {"mm", "mmT", "mam", "mamT", "mama", "mamaT"}) && (wide || hasOrder(c, {3, 4, 5}));
+        return hasDescriptor(c, {"mm", "mmT", "mam", "mamT", "mama", "mamaT"}) &&
+               (wide || hasOrder(c, {3, 4, 5}));
     case Layout::L:
-        return isOneOf(c, {"mam", "mamT", "mama", "mamaT"}) && (wide || hasOrder(c, {3, 4, 5}));
+        return hasDescriptor(c, {"mam", "mamT", "mama", "mamaT"}) && (wide || hasOrder(c, {3, 4, 5}));
     case Layout::S2:
-        if (isOneOf(c, {"mm", "mmT"}))
+        if (hasDescriptor(c, {"mm", "mmT"}))
             return !wide && c.order == 6;
-        if (isOneOf(c, {"mam", "mama"}))
+        if (hasDescriptor(c, {"mam", "mama"}))
             return !wide && hasOrder(c, {3, 4});
-        return isOneOf(c, {"mamT"}) && !wide && c.order == 3;
+        return hasDescriptor(c, {"mamT"}) && !wide && c.order == 3;
     default:
-        return isOneOf(c, {"mam", "mamT"}) && !wide && c.order == 3;
+        return hasDescriptor(c, {"mam", "mamT"}) && !wide && c.order == 3;
     }
 }
 
@@ -85,17 +86,17 @@ inline bool worksInPlaceOfSecond(const Cell &c) {
     const bool wide = c.type == Type::Float64;
     switch (c.layout) {
     case Layout::Standard:
-        if (isOneOf(c, {"mm", "mTm"}))
+        if (hasDescriptor(c, {"mm", "mTm"}))
             return wide || hasOrder(c, {3, 4, 6});
-        if (isOneOf(c, {"mmT", "mTmT"}))
+        if (hasDescriptor(c, {"mmT", "mTmT"}))
             return wide || hasOrder(c, {3, 4, 5});
         return true;
     case Layout::L:
         return true;
     case Layout::S2:
-        if (isOneOf(c, {"mm", "mmT", "mTmT"}))
+        if (hasDescriptor(c, {"mm", "mmT", "mTmT"}))
             return !wide && c.order == 6;
-        return isOneOf(c, {"mama"}) && !wide && hasOrder(c, {3, 4});
+        return hasDescriptor(c, {"mama"}) && !wide && hasOrder(c, {3, 4});
     default:
         return false;
     }
