@@ -40,10 +40,11 @@ __attribute__((noinline)) void choleskySolveInRegisters(const A &a, const B &b, 
         d.set(i, x[i]);
     }
 #pragma GCC unroll 6
-    for (unsigned i = N; i-- > 0;) {
+    for (unsigned back = 1; back <= N; ++back) {
+        const unsigned i = N - back;
         T sum = x[i];
 #pragma GCC unroll 6
-        for (unsigned k = N; k-- > i + 1;)
+        for (unsigned k = N - 1; k > i; --k)
             sum = sum - a.get(k, i, N) * x[k];
         x[i] = sum * a.get(i, i, N);
         d.set(i, x[i]);

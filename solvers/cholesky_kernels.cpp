@@ -40,10 +40,11 @@ void choleskySolve(const Pack<T> (&a)[N][N], Pack<T> (&x)[N]) {
         x[i] = sum * a[i][i];
     }
 #pragma GCC unroll 6
-    for (unsigned i = N; i-- > 0;) {
+    for (unsigned back = 1; back <= N; ++back) {
+        const unsigned i = N - back;
         Pack<T> sum = x[i];
 #pragma GCC unroll 6
-        for (unsigned k = N; k-- > i + 1;)
+        for (unsigned k = N - 1; k > i; --k)
             sum = sum - a[k][i] * x[k];
         x[i] = sum * a[i][i];
     }

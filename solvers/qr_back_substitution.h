@@ -48,8 +48,8 @@ __attribute__((noinline)) void qrSolveInCopy(const A &a, Address scratch, const 
         for (unsigned j = 0; j < N; ++j)
             factors[i][j] = a.get(i, j, N);
     }
-    qrScales<T, N>(factors, scale);
-    qrSolve<T, N>(factors, scale, w, x);
+    qrScales(factors, scale);
+    qrSolve(factors, scale, w, x);
     storeScratch(scratch, w);
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
@@ -70,8 +70,8 @@ __attribute__((noinline)) void qrSolveGroupShared(const Pack<T> (&factors)[N][N]
                                                   Address scratch, const Group<B> &b, const Group<D> &d) {
     Pack<T> w[N], x[N];
     loadRow<N>(b, 0, w);
-    qrSolve<Pack<T>, N>(factors, scale, w, x);
-    storeScratchOfGroup(scratch, w);
+    qrSolve(factors, scale, w, x);
+    storeScratchOfGroup<T, N>(scratch, w);
     storeRow<N>(d, 0, x);
 }
 
@@ -85,9 +85,9 @@ __attribute__((noinline)) void qrSolveGroup(const Group<A> &a, Address scratch, 
     for (unsigned i = 0; i < N; ++i)
         loadRow<N>(a, i, factors[i]);
     loadRow<N>(b, 0, w);
-    qrScales<Pack<T>, N>(factors, scale);
-    qrSolve<Pack<T>, N>(factors, scale, w, x);
-    storeScratchOfGroup(scratch, w);
+    qrScales(factors, scale);
+    qrSolve(factors, scale, w, x);
+    storeScratchOfGroup<T, N>(scratch, w);
     storeRow<N>(d, 0, x);
 }
 
@@ -147,7 +147,7 @@ ZELM_INLINE ZelmStatus qrSolveShared(const A &a, const void *scratch, const B &b
     for (unsigned i = 0; i < N; ++i)
         for (unsigned j = 0; j < N; ++j)
             factors[i][j] = broadcast(a.get(i, j, N));
-    qrScales<Pack<T>, N>(factors, scale);
+    qrScales(factors, scale);
     const auto solve = [&](std::uint32_t k) {
         qrSolveGroupShared<N, T>(factors, scale, addressOf(scratch), groupAt(b, k), groupAt(d, k));
         return true;

@@ -67,9 +67,8 @@ ZELM_INLINE void storeScratch(Address scratch, const T (&v)[N]) {
 }
 
 // The same as the last object of a group leaves it.
-template <unsigned N, typename V>
-ZELM_INLINE void storeScratchOfGroup(Address scratch, const V (&v)[N]) {
-    using T = std::conditional_t<std::is_same_v<V, __m128>, float, double>;
+template <typename T, unsigned N>
+ZELM_INLINE void storeScratchOfGroup(Address scratch, const Pack<T> (&v)[N]) {
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
         copyElement<T>(scratch + i * sizeof(T), addressOf(&v[i]) + kPackBytes - sizeof(T));
@@ -117,7 +116,7 @@ __attribute__((noinline)) bool qrGroup(const Group<S> &s, Address scratch, const
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
         storeRow<N>(d, i, a[i]);
-    storeScratchOfGroup(scratch, v);
+    storeScratchOfGroup<T, N>(scratch, v);
     return true;
 }
 

@@ -2,25 +2,34 @@
 
 #include "solvers/roots.h"
 
-#include <type_traits>
-
 namespace zelm::solvers {
 
-template <typename V>
-using ElementOf = std::conditional_t<std::is_same_v<V, float> || std::is_same_v<V, __m128>, float, double>;
-
 // A constant as an element or in all lanes.
+ZELM_INLINE void spread(float &to, float value) {
+    to = value;
+}
+ZELM_INLINE void spread(double &to, float value) {
+    to = value;
+}
+ZELM_INLINE void spread(__m128 &to, float value) {
+    to = broadcast(value);
+}
+ZELM_INLINE void spread(__m128d &to, float value) {
+    to = broadcast(static_cast<double>(value));
+}
+
 template <typename V>
-ZELM_INLINE V constant(ElementOf<V> value) {
-    if constexpr (std::is_same_v<V, ElementOf<V>>)
-        return value;
-    else
-        return broadcast(value);
+ZELM_INLINE V constant(float value) {
+    V v;
+    spread(v, value);
+    return v;
 }
 
 // -s where not (a > 0). s is not zero, so the sign bit is all there is to it; a NaN stays one.
-template <typename T>
-ZELM_INLINE T negatedUnlessPositive(T s, T a) {
+ZELM_INLINE float negatedUnlessPositive(float s, float a) {
+    return a > 0 ? s : 0 - s;
+}
+ZELM_INLINE double negatedUnlessPositive(double s, double a) {
     return a > 0 ? s : 0 - s;
 }
 ZELM_INLINE __m128 negatedUnlessPositive(__m128 s, __m128 a) {
@@ -129,7 +138,8 @@ void qrSolve(const V (&a)[N][N], const V (&scale)[N], V (&w)[N], V (&x)[N]) {
     }
     x[N - 1] = w[N - 1] / a[N - 1][N - 1];
 #pragma GCC unroll 6
-    for (unsigned i = N - 1; i-- > 0;) {
+    for (unsigned back = 2; back <= N; ++back) {
+        const unsigned i = N - back;
         V sum = constant<V>(0);
 #pragma GCC unroll 6
         for (unsigned j = i + 1; j < N; ++j)
@@ -139,13 +149,12 @@ void qrSolve(const V (&a)[N][N], const V (&scale)[N], V (&w)[N], V (&x)[N]) {
 }
 
 #define ZELM_QR(T, N)                                                                                        \
-    template unsigned qrFactor<T, N>(T(&)[N][N], T(&)[N]);                                                   \
+    template unsigned qrFactor(T(&)[N][N], T(&)[N]);                                                         \
     template bool qrFactorGroup<T, N>(Pack<T>(&)[N][N], Pack<T>(&)[N]);                                      \
-    template void qrScales<T, N>(const T(&)[N][N], T(&)[N]);                                                 \
-    template void qrScales<Pack<T>, N>(const Pack<T>(&)[N][N], Pack<T>(&)[N]);                               \
-    template void qrSolve<T, N>(const T(&)[N][N], const T(&)[N], T(&)[N], T(&)[N]);                          \
-    template void qrSolve<Pack<T>, N>(const Pack<T>(&)[N][N], const Pack<T>(&)[N], Pack<T>(&)[N],            \
-                                      Pack<T>(&)[N])
+    template void qrScales(const T(&)[N][N], T(&)[N]);                                                       \
+    template void qrScales(const Pack<T>(&)[N][N], Pack<T>(&)[N]);                                           \
+    template void qrSolve(const T(&)[N][N], const T(&)[N], T(&)[N], T(&)[N]);                                \
+    template void qrSolve(const Pack<T>(&)[N][N], const Pack<T>(&)[N], Pack<T>(&)[N], Pack<T>(&)[N])
 
 ZELM_QR(float, 3);
 ZELM_QR(float, 4);
