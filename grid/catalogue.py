@@ -112,12 +112,32 @@ FAMILIES = {family.name: family for family in (
     Family("l2-norm", "vector", "Euclidean length", "vector/l2_norm.h", PLAIN, "dst is written once per object."),
     Family("frobenius-norm", "vector", "Frobenius norm", "vector/frobenius_norm.h", PLAIN, "dst is written once per object."),
     Family("trace", "vector", "Trace", "vector/trace.h", PLAIN, "dst must not lie on the diagonal of src."),
-    Family("matrix-vector-product", "products", "Product of a matrix and a vector", "", PLAIN,
-           "dst must overlap no source in the run-time forms."),
-    Family("matrix-product", "products", "Product of two matrices", "", PLAIN,
-           "dst must overlap no source in the run-time forms."),
-    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "", PLAIN,
-           "dst must overlap no source."),
+    Family("matrix-vector-product", "products", "Product of a matrix and a vector", "products/matrix_vector.h", PLAIN,
+           "dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single or "
+           "both arrays. Otherwise dst must overlap no source.",
+           "For square matrices the product. In the run-time forms src1Width and src1Height are those of src1 as stored, "
+           "and src2Len must equal src1Width, or src1Height where src1 is used transposed: ZELM_ERR_SIZE otherwise. The "
+           "loops take them as those of the matrix as used: dst[i] for i below src1Height is the sum over t below "
+           "src1Width of src1[i][t] * src2[t], of src1[t][i] * src2[t] where src1 is used transposed. The stored element "
+           "(r, c) is at entry r*src1Width + c of a table, r*src1Height + c where it is used transposed. Sums run from "
+           "+0 in ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product "
+           "and have an order of their own in the standard and L layouts (docs/products.md)."),
+    Family("matrix-product", "products", "Product of two matrices", "products/matrix_matrix.h", PLAIN,
+           "dst must overlap no source in the run-time forms; some fixed-size forms work in place (docs/products.md).",
+           "For square matrices the product. In the run-time forms the widths and heights are those of the operands as "
+           "stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else "
+           "src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height = "
+           "src2Width instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height "
+           "and j below src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices "
+           "that fit, and the other descriptors that of square ones. The stored element (r, c) of a source is at entry "
+           "r*Width + c of its table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of "
+           "dstTable as many entries are tested as the product of the two dimensions named first. Sums run from +0 in "
+           "ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product."),
+    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "products/matrix_vector.h", PLAIN,
+           "dst must overlap no source.",
+           "src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in "
+           "ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with "
+           "the first product and have an order of their own (docs/products.md)."),
     Family("determinant", "solvers", "Determinant", "", PLAIN, "dst must overlap neither src nor scratch."),
     Family("inverse", "solvers", "Inverse", "", PLAIN + (DIV,), "dst must not overlap src."),
     Family("lu-decomposition", "solvers", "LU decomposition", "solvers/lu_decomposition.h", PLAIN + (DIV,),
@@ -135,14 +155,40 @@ FAMILIES = {family.name: family for family in (
            "Solves A*x = b by forward and back substitution (Golub and Van Loan, Matrix Computations, section 3.1): "
            "src1 and pivotIndex are as zelmLUDecomp_* left them, src2 is b and dst is x. All arithmetic is in the "
            "element type. The diagonal is not tested: a zero on it gives infinities or NaN with ZELM_OK."),
-    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", "", PLAIN + (POS,),
-           "dst may be src of the same addressing."),
-    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution", "", PLAIN,
-           "dst may be src2 of the same addressing."),
-    Family("qr-decomposition", "solvers", "QR decomposition", "", PLAIN + (DIV,),
-           "dst may be src of the same addressing."),
-    Family("qr-back-substitution", "solvers", "QR back substitution", "", PLAIN,
-           "dst may be src2 of the same addressing."),
+    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", "solvers/cholesky_decomposition.h",
+           PLAIN + (POS,),
+           "dst may be src (same start, same strides, same table). Any other overlap is not provided for.",
+           "A = L*L^T for a symmetric positive definite A (Golub and Van Loan, Matrix Computations, section 4.2). "
+           "dst[i][j] holds L[i][j] for j < i and dst[i][i] holds 1 / L[i][i]. Only lower triangles, diagonals "
+           "included, are read and written. A pivot d with not (d > 0) ends the call with ZELM_ERR_NOT_POS_DEF: earlier "
+           "objects are complete, of the failing one everything ahead of its pivot is written, later ones are "
+           "untouched. The 32f forms compute 1 / sqrt(d) in 64-bit float and round it once, but in P and PS2 in 32-bit "
+           "float. In S2 and LS2 element strides are rounded down to whole elements where n is 3 to 6. Table entries "
+           "are not tested. A count of zero is ZELM_ERR_SIZE; where count is signed, one below zero does nothing. An "
+           "object of an array whose start comes to null ends the call there with ZELM_ERR_NULL_PTR."),
+    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution",
+           "solvers/cholesky_back_substitution.h", PLAIN,
+           "dst may be src2 (same start, same strides, same table). It must not overlap src1.",
+           "Solves A*x = b by forward and back substitution: src1 is as zelmCholeskyDecomp_* left it, src2 is b and "
+           "dst is x. All arithmetic is in the element type, and nothing is divided: the diagonal of src1 holds "
+           "reciprocals. It is not tested. Table entries are not tested. A count of zero is ZELM_ERR_SIZE; an n or a "
+           "count below zero does nothing. An object of an array whose start comes to null is passed over."),
+    Family("qr-decomposition", "solvers", "QR decomposition", "solvers/qr_decomposition.h", PLAIN + (DIV,),
+           "dst may be src (same start, same strides, same table). Any other overlap is not provided for.",
+           "A = Q*R by Householder reflections (Golub and Van Loan, Matrix Computations, section 5.2), A of height rows "
+           "and width columns. dst[i][j] holds R[i][j] for j >= i, and below the diagonal of column k the reflector "
+           "vector v of H = I - (2 / v.v) * v * v^T whose element k is 1 and not stored. A square matrix has no reflector "
+           "for its last column. scratch takes height elements, also in array forms; its contents don't matter. A "
+           "column whose sum of squares q, from the diagonal down, has not (q >= 2^-23), in both element types, ends the "
+           "call with ZELM_ERR_DIV_BY_ZERO: earlier objects are complete, the failing one stands as the earlier "
+           "reflectors left it, later ones are untouched. A width above height always ends so."),
+    Family("qr-back-substitution", "solvers", "QR back substitution", "solvers/qr_back_substitution.h", PLAIN,
+           "dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any operand.",
+           "Solves A*x = b, for a height above width in the sense of least squares: src1 is as zelmQRDecomp_* left it, "
+           "src2 is b with height elements and dst is x with width elements. scratch takes height elements, also in "
+           "array forms; its contents don't matter. All arithmetic is in the element type. The diagonal of R is not "
+           "tested: a zero on it gives infinities or NaN with ZELM_OK. Of src2Table in P and PS2, and of dstTable, the "
+           "first width entries are tested."),
     Family("transpose", "movement", "Transpose", "movement/transpose.h", PLAIN, "dst must not overlap src.",
            "Elements are moved bit for bit. width and height are those of src as stored. In the run-time P and PS2 forms "
            "the tables are numbered with the row length of the other operand: element (i, j) of src is at "
@@ -287,17 +333,23 @@ def _products():
         array = "a" in descriptor
         yield Row("matrix-vector-product", "Mul", descriptor, "AM" if array else "SM",
                   f"src1:{first} src1Width src1Height src2:{second} src2Len dst:{'va' if array else 'v'}"
-                  + " count" * array, "dst = src1 * src2")
+                  + " count" * array, "dst = src1 * src2",
+                  ("multiplyVectors" if array else "multiplyVector", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * array)
     for descriptor in ("mm", "mmT", "mTm", "mTmT", "mam", "mamT", "mama", "mamaT", "maTm", "maTmT", "maTma",
                        "maTmaT", "mma", "mmaT", "mTma", "mTmaT"):
         first, second = operand_kinds(descriptor)
         array = "a" in descriptor
         yield Row("matrix-product", "Mul", descriptor, "AM" if array else "SM",
                   f"src1:{first} src1Width src1Height src2:{second} src2Width src2Height dst:{'ma' if array else 'm'}"
-                  + " count" * array, "dst = src1 * src2")
-    yield Row("gaxpy", "Gaxpy", "v", "SM", "src1:m src2:v src3:v dst:v width height", "dst = src1 * src2 + src3")
+                  + " count" * array, "dst = src1 * src2",
+                  ("multiplyArray" if array else "multiplySingle", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * array)
+    yield Row("gaxpy", "Gaxpy", "v", "SM", "src1:m src2:v src3:v dst:v width height", "dst = src1 * src2 + src3",
+              ("gaxpy", "{src1}", "{src2}", "{src3}", "{dst}", "{size}"))
     yield Row("gaxpy", "Gaxpy", "va", "AM", "src1:m src2:va src3:va dst:va width height count",
-              "dst[k] = src1 * src2[k] + src3[k]")
+              "dst[k] = src1 * src2[k] + src3[k]",
+              ("gaxpys", "{src1}", "{src2}", "{src3}", "{dst}", "{size}", "{count}"))
 
 
 def _solvers():
@@ -312,9 +364,13 @@ def _solvers():
                   ("luDecompArray" if count else "luDecompSingle", "{src}", "{pivotIndex}", "{dst}", "{size}")
                   + ("{count}",) * bool(count))
         yield Row("cholesky-decomposition", "CholeskyDecomp", kind, cls, f"src:{kind} dst:{kind} n{count}",
-                  f"dst{k} = the factor L of src{k}", signed={"count": ("", "S2", "L", "LS2")} if count else {})
+                  f"dst{k} = the factor L of src{k}",
+                  ("choleskyArray" if count else "choleskySingle", "{src}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count), signed={"count": ("", "S2", "L", "LS2")} if count else {})
         yield Row("qr-decomposition", "QRDecomp", kind, cls, f"src:{kind} scratch dst:{kind} width height{count}",
-                  f"dst{k} = R and the reflectors of src{k}")
+                  f"dst{k} = R and the reflectors of src{k}",
+                  ("qrArray" if count else "qrSingle", "{src}", "{scratch}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
     for descriptor, cls in (("mv", "SM"), ("mva", "AM"), ("mava", "AM")):
         matrix, vector = operand_kinds(descriptor)
         kept = "m+obj" if descriptor == "mva" else matrix
@@ -328,10 +384,13 @@ def _solvers():
         yield Row("cholesky-back-substitution", "CholeskyBackSubst", descriptor, cls,
                   f"src1:{matrix} src2:{vector} dst:{vector} n{count}",
                   f"dst{k} = x with A*x = src2{k}; src1{km} holds the Cholesky factor of A",
-                  signed={"n": LAYOUTS, "count": LAYOUTS})
+                  ("choleskySolveArray" if count else "choleskySolveSingle", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count), signed={"n": LAYOUTS, "count": LAYOUTS})
         yield Row("qr-back-substitution", "QRBackSubst", descriptor, cls,
                   f"src1:{kept} scratch src2:{vector} dst:{vector} width height{count}",
-                  f"dst{k} = x that minimises |A*x - src2{k}|; src1{km} holds the QR factors of A")
+                  f"dst{k} = x that minimises |A*x - src2{k}|; src1{km} holds the QR factors of A",
+                  ("qrSolveArray" if count else "qrSolveSingle", "{src1}", "{scratch}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
 
 
 def _movement():
@@ -423,6 +482,22 @@ def _departures():
     for name, function in (("m_32f", "transposeSingleWhole"), ("m_64f", "transposeSingleWhole"),
                            ("ma_32f", "transposeArrayWhole")):
         yield f"zelmTranspose_{name}_4x4", Departure(function, "reads a whole matrix first: dst may be src")
+
+    for element_type in TYPES:
+        yield f"zelmMul_mmT_{element_type}", Departure(
+            "multiplyByTranspose", "dst has src2Height columns, and the sums have src2Width terms: the true product by the"
+            " transpose of src2")
+    for row in ("mama", "maTma", "mamaT", "maTmaT"):
+        for size in MATRIX_SIZES[1:]:
+            yield f"zelmMul_{row}_64f_{size}", Departure(
+                "advancingByAlignment", "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16,"
+                " every object is computed from object 0 of src1")
+    for row in ("mam", "maTm", "mamT"):
+        for layout in ("P", "PS2"):
+            yield f"zelmMul_{row}_32f_3x3_{layout}", Departure(
+                "multiplyUntested", "tests no table entry; src2 may be read also where count is 0")
+    for row in ("mam", "maTm", "mamT", "maTmT"):
+        yield f"zelmMul_{row}_32f_3x3_LS2", Departure("multiplyUntestedLists", "tests no entry of src1Table or dstTable")
 
 
 HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"

@@ -122,11 +122,18 @@ def size_expression(member):
     n = member.size[:1]
     if member.row.operation == "CrossProduct":
         return "FixedShape<1, 3>{}"
+    if FAMILIES[member.row.family].subsystem == "products" and "src1Width" in words:
+        if n:
+            return f"FixedSizes<{n}>{{}}"
+        names = [word for word in words if word in DIMENSIONS]
+        return f"{'Matrix' if len(names) == 4 else 'Vector'}Sizes{{{', '.join(names)}}}"
     if "len" in words:
         return f"FixedShape<1, {n}>{{}}" if n else "RunTimeShape{1, len}"
     if "width" in words:
         return f"FixedShape<{n}, {n}>{{}}" if n else "RunTimeShape{height, width}"
-    return f"FixedSize<{n}>{{}}" if n else "RunTimeSize{n}"
+    if n:
+        return f"FixedSize<{n}>{{}}"
+    return "RunTimeSize{static_cast<std::uint32_t>(n)}" if "n" in member.row.signed else "RunTimeSize{n}"
 
 
 def plan(member):
