@@ -58,6 +58,12 @@ ZELM_INLINE __m128 greater(__m128 a, __m128 b) {
 ZELM_INLINE __m128d greater(__m128d a, __m128d b) {
     return _mm_cmpgt_pd(a, b);
 }
+ZELM_INLINE __m128 notGreater(__m128 a, __m128 b) {
+    return _mm_cmpngt_ps(a, b);
+}
+ZELM_INLINE __m128d notGreater(__m128d a, __m128d b) {
+    return _mm_cmpngt_pd(a, b);
+}
 ZELM_INLINE __m128 notGreaterEqual(__m128 a, __m128 b) {
     return _mm_cmpnge_ps(a, b);
 }

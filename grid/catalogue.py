@@ -155,14 +155,40 @@ FAMILIES = {family.name: family for family in (
            "Solves A*x = b by forward and back substitution (Golub and Van Loan, Matrix Computations, section 3.1): "
            "src1 and pivotIndex are as zelmLUDecomp_* left them, src2 is b and dst is x. All arithmetic is in the "
            "element type. The diagonal is not tested: a zero on it gives infinities or NaN with ZELM_OK."),
-    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", "", PLAIN + (POS,),
-           "dst may be src of the same addressing."),
-    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution", "", PLAIN,
-           "dst may be src2 of the same addressing."),
-    Family("qr-decomposition", "solvers", "QR decomposition", "", PLAIN + (DIV,),
-           "dst may be src of the same addressing."),
-    Family("qr-back-substitution", "solvers", "QR back substitution", "", PLAIN,
-           "dst may be src2 of the same addressing."),
+    Family("cholesky-decomposition", "solvers", "Cholesky decomposition", "solvers/cholesky_decomposition.h",
+           PLAIN + (POS,),
+           "dst may be src (same start, same strides, same table). Any other overlap is not provided for.",
+           "A = L*L^T for a symmetric positive definite A (Golub and Van Loan, Matrix Computations, section 4.2). "
+           "dst[i][j] holds L[i][j] for j < i and dst[i][i] holds 1 / L[i][i]. Only lower triangles, diagonals "
+           "included, are read and written. A pivot d with not (d > 0) ends the call with ZELM_ERR_NOT_POS_DEF: earlier "
+           "objects are complete, of the failing one everything ahead of its pivot is written, later ones are "
+           "untouched. The 32f forms compute 1 / sqrt(d) in 64-bit float and round it once, but in P and PS2 in 32-bit "
+           "float. In S2 and LS2 element strides are rounded down to whole elements where n is 3 to 6. Table entries "
+           "are not tested. A count of zero is ZELM_ERR_SIZE; where count is signed, one below zero does nothing. An "
+           "object of an array whose start comes to null ends the call there with ZELM_ERR_NULL_PTR."),
+    Family("cholesky-back-substitution", "solvers", "Cholesky back substitution",
+           "solvers/cholesky_back_substitution.h", PLAIN,
+           "dst may be src2 (same start, same strides, same table). It must not overlap src1.",
+           "Solves A*x = b by forward and back substitution: src1 is as zelmCholeskyDecomp_* left it, src2 is b and "
+           "dst is x. All arithmetic is in the element type, and nothing is divided: the diagonal of src1 holds "
+           "reciprocals. It is not tested. Table entries are not tested. A count of zero is ZELM_ERR_SIZE; an n or a "
+           "count below zero does nothing. An object of an array whose start comes to null is passed over."),
+    Family("qr-decomposition", "solvers", "QR decomposition", "solvers/qr_decomposition.h", PLAIN + (DIV,),
+           "dst may be src (same start, same strides, same table). Any other overlap is not provided for.",
+           "A = Q*R by Householder reflections (Golub and Van Loan, Matrix Computations, section 5.2), A of height rows "
+           "and width columns. dst[i][j] holds R[i][j] for j >= i, and below the diagonal of column k the reflector "
+           "vector v of H = I - (2 / v.v) * v * v^T whose element k is 1 and not stored. A square matrix has no reflector "
+           "for its last column. scratch takes height elements, also in array forms; its contents don't matter. A "
+           "column whose sum of squares q, from the diagonal down, has not (q >= 2^-23), in both element types, ends the "
+           "call with ZELM_ERR_DIV_BY_ZERO: earlier objects are complete, the failing one stands as the earlier "
+           "reflectors left it, later ones are untouched. A width above height always ends so."),
+    Family("qr-back-substitution", "solvers", "QR back substitution", "solvers/qr_back_substitution.h", PLAIN,
+           "dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any operand.",
+           "Solves A*x = b, for a height above width in the sense of least squares: src1 is as zelmQRDecomp_* left it, "
+           "src2 is b with height elements and dst is x with width elements. scratch takes height elements, also in "
+           "array forms; its contents don't matter. All arithmetic is in the element type. The diagonal of R is not "
+           "tested: a zero on it gives infinities or NaN with ZELM_OK. Of src2Table in P and PS2, and of dstTable, the "
+           "first width entries are tested."),
     Family("transpose", "movement", "Transpose", "movement/transpose.h", PLAIN, "dst must not overlap src.",
            "Elements are moved bit for bit. width and height are those of src as stored. In the run-time P and PS2 forms "
            "the tables are numbered with the row length of the other operand: element (i, j) of src is at "
@@ -338,9 +364,13 @@ def _solvers():
                   ("luDecompArray" if count else "luDecompSingle", "{src}", "{pivotIndex}", "{dst}", "{size}")
                   + ("{count}",) * bool(count))
         yield Row("cholesky-decomposition", "CholeskyDecomp", kind, cls, f"src:{kind} dst:{kind} n{count}",
-                  f"dst{k} = the factor L of src{k}", signed={"count": ("", "S2", "L", "LS2")} if count else {})
+                  f"dst{k} = the factor L of src{k}",
+                  ("choleskyArray" if count else "choleskySingle", "{src}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count), signed={"count": ("", "S2", "L", "LS2")} if count else {})
         yield Row("qr-decomposition", "QRDecomp", kind, cls, f"src:{kind} scratch dst:{kind} width height{count}",
-                  f"dst{k} = R and the reflectors of src{k}")
+                  f"dst{k} = R and the reflectors of src{k}",
+                  ("qrArray" if count else "qrSingle", "{src}", "{scratch}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
     for descriptor, cls in (("mv", "SM"), ("mva", "AM"), ("mava", "AM")):
         matrix, vector = operand_kinds(descriptor)
         kept = "m+obj" if descriptor == "mva" else matrix
@@ -354,10 +384,13 @@ def _solvers():
         yield Row("cholesky-back-substitution", "CholeskyBackSubst", descriptor, cls,
                   f"src1:{matrix} src2:{vector} dst:{vector} n{count}",
                   f"dst{k} = x with A*x = src2{k}; src1{km} holds the Cholesky factor of A",
-                  signed={"n": LAYOUTS, "count": LAYOUTS})
+                  ("choleskySolveArray" if count else "choleskySolveSingle", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count), signed={"n": LAYOUTS, "count": LAYOUTS})
         yield Row("qr-back-substitution", "QRBackSubst", descriptor, cls,
                   f"src1:{kept} scratch src2:{vector} dst:{vector} width height{count}",
-                  f"dst{k} = x that minimises |A*x - src2{k}|; src1{km} holds the QR factors of A")
+                  f"dst{k} = x that minimises |A*x - src2{k}|; src1{km} holds the QR factors of A",
+                  ("qrSolveArray" if count else "qrSolveSingle", "{src1}", "{scratch}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
 
 
 def _movement():

@@ -131,7 +131,9 @@ def size_expression(member):
         return f"FixedShape<1, {n}>{{}}" if n else "RunTimeShape{1, len}"
     if "width" in words:
         return f"FixedShape<{n}, {n}>{{}}" if n else "RunTimeShape{height, width}"
-    return f"FixedSize<{n}>{{}}" if n else "RunTimeSize{n}"
+    if n:
+        return f"FixedSize<{n}>{{}}"
+    return "RunTimeSize{static_cast<std::uint32_t>(n)}" if "n" in member.row.signed else "RunTimeSize{n}"
 
 
 def plan(member):

@@ -75,16 +75,6 @@ ZELM_INLINE bool rowsAreInside(Address pivots) {
     return inside;
 }
 
-// Whether the elements of one result are distinct; those of an array's objects all are if those of the first
-// are.
-template <unsigned N, typename D>
-ZELM_INLINE bool resultIsDistinct(const D &d) {
-    if constexpr (D::isTable)
-        return positionsAreApart(d.object(0), N, sizeof(typename D::Element));
-    else
-        return span(d.elemStride) >= std::int64_t{sizeof(typename D::Element)};
-}
-
 // The same for the blocks of `entries` row numbers of a group, four at a time where they last.
 template <unsigned N, unsigned entries>
 ZELM_INLINE bool rowsOfGroupAreInside(Address pivots) {
@@ -270,11 +260,6 @@ ZELM_INLINE ZelmStatus luBackSubstSingle(const A &a, const std::uint32_t *pivotI
 }
 
 // A matrix of each object's own has its own block of pivotIndex; a matrix that serves all objects has one.
-template <typename A>
-constexpr bool kIsShared = requires(const A &a) {
-    a.get(0u, 0u, 0u);
-};
-
 template <typename A, typename B, typename D, typename Size>
 ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIndex, const B &b, const D &d,
                                         Size size, std::uint32_t count) {

@@ -1,9 +1,7 @@
 // LU decomposition with partial pivoting: P*A = L*U, rows of the result left where A has them.
 #pragma once
 
-#include "frame/groups.h"
-#include "frame/objects.h"
-#include "frame/overlap.h"
+#include "solvers/groups.h"
 #include "solvers/lu_kernels.h"
 
 namespace zelm::solvers {
@@ -245,9 +243,6 @@ __attribute__((noinline)) bool luDecompGroup(const Group<S> &s, Address pivots, 
     }
     return true;
 }
-
-// From how many objects on a test that looks at every table entry is worth its time.
-constexpr std::uint32_t kGroupsInTablesCount = 16;
 
 // Whether groups of objects may be factored, asked once for a whole array.
 template <unsigned N, typename S, typename D>

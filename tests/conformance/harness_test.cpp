@@ -58,8 +58,9 @@ ZelmStatus right(const Case &c) {
 }
 
 TEST_F(Harness, AcceptsRightFunctions) {
-    for (const char *name : {"zelmAdd_vv_32f_3x1", "zelmSub_cva_64f_PS2", "zelmLUDecomp_ma_32f_4x4_L",
-                             "zelmLUBackSubst_mava_64f_LS2"})
+    for (const char *name :
+         {"zelmAdd_vv_32f_3x1", "zelmSub_cva_64f_PS2", "zelmLUDecomp_ma_32f_4x4_L",
+          "zelmLUBackSubst_mava_64f_LS2", "zelmCholeskyDecomp_ma_64f_S2", "zelmQRBackSubst_mv_32f"})
         EXPECT_EQ(found(target(name), [](const Case &c, const auto &) { return right(c); }), 0) << name;
     EXPECT_TRUE(arena().intact());
 }
@@ -103,6 +104,20 @@ TEST_F(Harness, FindsAByteWrittenOutside) {
     };
     EXPECT_GT(found(target("zelmSub_vv_64f_5x1_S2"), after), 300);
     EXPECT_GT(found(target("zelmSub_vv_64f_5x1_S2"), before), 300);
+}
+
+TEST_F(Harness, FindsAByteWrittenBehindScratch) {
+    const auto behind = [](bool inside) {
+        return [inside](const Case &c, const auto &) {
+            const ZelmStatus status = right(c);
+            const Window &scratch = c.anything[0];
+            if (scratch.end < Arena::slabSize)
+                arena().slab(scratch.slab)[inside ? scratch.end - 1 : scratch.end] ^= 1;
+            return status;
+        };
+    };
+    EXPECT_GT(found(target("zelmQRDecomp_m_64f"), behind(false)), 300);
+    EXPECT_EQ(found(target("zelmQRDecomp_m_64f"), behind(true)), 0) << "what is in scratch is open";
 }
 
 TEST_F(Harness, FindsAByteFarOutside) {
@@ -259,6 +274,20 @@ TEST_F(HarnessDeathTest, AByteReadOutsideNamesTheCase) {
     };
     EXPECT_DEATH(runAll(readsAfter), "crash .* in zelmAdd_vv_32f_3x1, seed 1, case [0-9]+");
     EXPECT_DEATH(runAll(readsBefore), "crash .* in zelmAdd_vv_32f_3x1, seed 1, case [0-9]+");
+}
+
+TEST_F(HarnessDeathTest, AnElementAboveTheDiagonalNamesTheCase) {
+    const auto readsAbove = [](const Case &c, const auto &) {
+        const Placement &src = c.operands[0];
+        volatile unsigned char *last = start(src) + src.offset(0, 0, src.columns - 1);
+        (void)*last;
+        return right(c);
+    };
+    const auto runAll = [&] {
+        installCrashHandler();
+        found(target("zelmCholeskyDecomp_m_32f"), readsAbove);
+    };
+    EXPECT_DEATH(runAll(), "crash .* in zelmCholeskyDecomp_m_32f, seed 1, case [0-9]+");
 }
 
 } // namespace

@@ -13,6 +13,10 @@ extern const Family extract;
 extern const Family loadIdentity;
 extern const Family luDecomp;
 extern const Family luBackSubst;
+extern const Family choleskyDecomp;
+extern const Family choleskyBackSubst;
+extern const Family qrDecomp;
+extern const Family qrBackSubst;
 extern const Family dotProduct;
 extern const Family crossProduct;
 extern const Family l2Norm;
@@ -25,8 +29,8 @@ extern const Family gaxpy;
 const Family *familyOf(const Cell &cell) {
     for (const Family *family :
          {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace,
-          &matrixVectorProduct, &matrixProduct, &gaxpy})
+           &luDecomp, &luBackSubst, &choleskyDecomp, &choleskyBackSubst, &qrDecomp, &qrBackSubst, &dotProduct,
+           &crossProduct, &l2Norm, &frobeniusNorm, &trace, &matrixVectorProduct, &matrixProduct, &gaxpy})
         if (family->serves(cell))
             return family;
     return nullptr;

@@ -63,10 +63,18 @@ public:
     template <class T>
     void copy(Address to, Address from) {
         writeWord(to, readWord<Bits<T>>(from));
-        elements_.push_back({to, false});
+        elements_.push_back({to, readNumber<T>(from) != readNumber<T>(from) && isComputed(from)});
     }
 
 private:
+    // A NaN that was made for one object may be copied as an element of the next.
+    bool isComputed(Address address) const {
+        for (std::size_t e = elements_.size(); e-- > 0;)
+            if (elements_[e].address == address)
+                return elements_[e].computed;
+        return false;
+    }
+
     std::vector<Element> elements_;
 };
 
