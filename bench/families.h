@@ -7,5 +7,6 @@ void addVectorSumRows();
 void addElementwiseRows();
 void addVectorAlgebraRows();
 void addLuRows();
+void addCholeskyAndQrRows();
 
 } // namespace zelmbench
