@@ -73,6 +73,42 @@ std::uint64_t nearThreshold(Random &random, const Format &format) {
     }
 }
 
+std::uint64_t encode(const Format &format, double value) {
+    if (format.fractionBits == 23)
+        return std::bit_cast<std::uint32_t>(static_cast<float>(value));
+    return std::bit_cast<std::uint64_t>(value);
+}
+
+// The product of L, D and the transpose of L, all but D in small integers, so that each pivot is exact.
+std::vector<double> exactSymmetric(Random &random, std::uint32_t n) {
+    constexpr double others[] = {0.0, -1.0, 0x1p-20, -0x1p-20};
+    std::vector<double> l(n * n), d(n), product(n * n);
+    const std::uint32_t position = random.below(n), other = random.below(4);
+    for (std::uint32_t i = 0; i < n; ++i) {
+        const bool four = random.chance(50);
+        d[i] = i == position ? others[other] : four ? 4 : 1;
+        for (std::uint32_t j = 0; j < n; ++j)
+            l[i * n + j] = i == j ? 1 : j < i ? static_cast<double>(random.between(-2, 2)) : 0;
+    }
+    for (std::uint32_t i = 0; i < n; ++i)
+        for (std::uint32_t j = 0; j < n; ++j)
+            for (std::uint32_t k = 0; k < n; ++k)
+                product[i * n + j] += l[i * n + k] * d[k] * l[j * n + k];
+    return product;
+}
+
+// Positive definite by its heavy diagonal.
+std::vector<double> heavySymmetric(Random &random, std::uint32_t n) {
+    std::vector<double> matrix(n * n);
+    const auto number = [&] { return static_cast<double>(random.between(-(1 << 20), 1 << 20)) * 0x1p-20; };
+    for (std::uint32_t i = 0; i < n; ++i)
+        for (std::uint32_t j = 0; j < i; ++j)
+            matrix[i * n + j] = matrix[j * n + i] = number();
+    for (std::uint32_t i = 0; i < n; ++i)
+        matrix[i * n + i] = 0.6 * n + number() / 2;
+    return matrix;
+}
+
 } // namespace
 
 std::uint64_t drawNumber(Random &random, Style style, bool wide64) {
@@ -124,6 +160,63 @@ void drawMatrix(Random &random, Style style, bool wide64, std::uint32_t n,
         for (std::uint32_t j = 0; j < n; ++j)
             std::swap(elements[i * n + j], elements[other * n + j]);
     }
+}
+
+void drawSymmetricMatrix(Random &random, Style style, bool wide64, std::uint32_t n,
+                         std::vector<std::uint64_t> &elements) {
+    const Format &format = wide64 ? format64 : format32;
+    const bool wholly = random.chance(20), noise = random.chance(50);
+    const std::uint32_t position = random.below(n), row = random.below(n), column = random.below(n);
+    const std::vector<double> numbers =
+        style == Style::Threshold ? exactSymmetric(random, n) : heavySymmetric(random, n);
+    elements.clear();
+    for (const double number : numbers)
+        elements.push_back(encode(format, number));
+    if (style != Style::Plain && style != Style::Threshold) {
+        elements[position * n + position] = drawNumber(random, style, wide64);
+        elements[row * n + column] = drawNumber(random, style, wide64);
+    }
+    for (std::uint32_t i = 0; i < n; ++i)
+        for (std::uint32_t j = 0; j < n; ++j) {
+            if (wholly && style != Style::Plain)
+                elements[i * n + j] = drawNumber(random, style, wide64);
+            if (noise && j > i)
+                elements[i * n + j] = drawNumber(random, Style::AnyBits, wide64);
+        }
+}
+
+void drawColumns(Random &random, Style style, bool wide64, std::uint32_t rows, std::uint32_t columns,
+                 std::vector<std::uint64_t> &elements) {
+    const Format &format = wide64 ? format64 : format32;
+    elements.clear();
+    if (style != Style::Threshold) {
+        const bool zeroColumn = random.chance(10);
+        const std::uint32_t zeros = random.below(columns);
+        for (std::uint32_t i = 0; i < rows; ++i)
+            for (std::uint32_t j = 0; j < columns; ++j) {
+                const std::uint64_t number = drawNumber(random, style, wide64);
+                elements.push_back(zeroColumn && style == Style::Plain && j == zeros && i >= j ? 0 : number);
+            }
+        return;
+    }
+    // Triangular, so that a reflector changes no column behind its row, with squares of 2^-24 twice in one
+    // column.
+    const std::uint32_t position = random.below(columns), second = random.below(rows);
+    const bool negative = random.chance(50);
+    const std::uint64_t exact = encode(format, negative ? -0x1p-12 : 0x1p-12);
+    for (std::uint32_t i = 0; i < rows; ++i)
+        for (std::uint32_t j = 0; j < columns; ++j) {
+            const std::uint64_t number = drawNumber(random, Style::Plain, wide64);
+            elements.push_back(i > j || j == position ? 0 : number);
+        }
+    const std::uint32_t below = random.below(3);
+    const std::uint64_t near = below == 0 ? exact - 1 : exact + (below - 1) * 4;
+    if (position < rows)
+        elements[position * columns + position] = exact;
+    if (position < second)
+        elements[second * columns + position] = near;
+    else if (position + 1 < rows)
+        elements[(position + 1) * columns + position] = near;
 }
 
 } // namespace zelmtest

@@ -13,6 +13,10 @@ extern const Family extract;
 extern const Family loadIdentity;
 extern const Family luDecomp;
 extern const Family luBackSubst;
+extern const Family choleskyDecomp;
+extern const Family choleskyBackSubst;
+extern const Family qrDecomp;
+extern const Family qrBackSubst;
 extern const Family dotProduct;
 extern const Family crossProduct;
 extern const Family l2Norm;
@@ -22,7 +26,8 @@ extern const Family trace;
 const Family *familyOf(const Cell &cell) {
     for (const Family *family :
          {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
+          &luDecomp, &luBackSubst, &choleskyDecomp, &choleskyBackSubst, &qrDecomp, &qrBackSubst, &dotProduct,
+          &crossProduct, &l2Norm, &frobeniusNorm, &trace})
         if (family->serves(cell))
             return family;
     return nullptr;
