@@ -103,7 +103,7 @@ const Family determinant = {.serves = serves,
                             .signature = signature,
                             .run = run,
                             .overlap = Overlap::Any,
-                            .content = Content::Pivoting,
+                            .content = Content::Inverting,
                             .overlapWith = overlapWith,
                             .scratchBytes = scratchBytes};
 

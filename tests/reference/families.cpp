@@ -22,12 +22,19 @@ extern const Family crossProduct;
 extern const Family l2Norm;
 extern const Family frobeniusNorm;
 extern const Family trace;
+extern const Family determinant;
+extern const Family extendedDeterminants;
+extern const Family inverse;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family :
-         {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-          &luDecomp, &luBackSubst, &choleskyDecomp, &choleskyBackSubst, &qrDecomp, &qrBackSubst, &dotProduct,
-          &crossProduct, &l2Norm, &frobeniusNorm, &trace})
+    for (const Family *family : {&vectorAddSub, &matrixAddSub,   &scaling,
+                                 &saxpyLcomb,   &transpose,      &copy,
+                                 &extract,      &loadIdentity,   &luDecomp,
+                                 &luBackSubst,  &choleskyDecomp, &choleskyBackSubst,
+                                 &qrDecomp,     &qrBackSubst,    &dotProduct,
+                                 &crossProduct, &l2Norm,         &frobeniusNorm,
+                                 &trace,        &determinant,    &extendedDeterminants,
+                                 &inverse})
         if (family->serves(cell))
             return family;
     return nullptr;

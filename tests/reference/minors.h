@@ -14,15 +14,14 @@ using Columns = std::uint32_t;
 // determinant, and returns what is left of it where it is kept.
 template <class Number, class Element, class Keep>
 Number minor(const std::vector<Element> &a, std::uint32_t n, Columns columns, const Keep &keep) {
-    std::vector<std::uint32_t> c;
+    std::uint32_t c[6], m = 0;
     for (std::uint32_t j = 0; j < n; ++j)
         if (columns >> j & 1)
-            c.push_back(j);
-    const auto m = static_cast<std::uint32_t>(c.size());
+            c[m++] = j;
     const std::uint32_t r = n - m;
     const auto at = [&](std::uint32_t i, std::uint32_t j) { return static_cast<Number>(a[i * n + j]); };
 
-    Number sum;
+    Number sum = 0;
     if (m == 2) {
         const Number positive = at(r, c[0]) * at(r + 1, c[1]);
         const Number negative = at(r + 1, c[0]) * at(r, c[1]);
