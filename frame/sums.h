@@ -1,5 +1,5 @@
-// The orders in which short sums are formed. Each order rounds differently, and each is part of what a function
-// returns: the families say which of their members sums how.
+// The orders in which short sums are formed. Each order rounds differently, and each is part of what a
+// function returns: the families say which of their members sums how.
 #pragma once
 
 #include "frame/memory.h"
@@ -11,7 +11,9 @@ enum class Sum {
     Pairs,           // of 4: (p0 + p1) + (p2 + p3); of 5: that + p4; of 6: that + (p4 + p5)
     EvenOdd,         // of 3: (p0 + p2) + p1; of 4: (p0 + p2) + (p1 + p3); of 5: ((p0 + p2) + p4) + (p1 + p3);
                      // of 6: ((p0 + p2) + p4) + ((p1 + p3) + p5)
-    EvenOddThenRest, // of 4: (p0 + p2) + (p1 + p3); of 5: that + p4; of 6: (p0 + (p2 + p4)) + (p1 + (p3 + p5))
+    PairsAroundLast, // of 5: ((p0 + p1) + p4) + (p2 + p3); else as Pairs
+    EvenOddThenRest, // of 4: (p0 + p2) + (p1 + p3); of 5: that + p4; of 6: (p0 + (p2 + p4)) + (p1 + (p3 +
+                     // p5))
 };
 
 // Of elements or of packs. Sums of three are chains but in EvenOdd.
@@ -27,7 +29,9 @@ ZELM_INLINE V sumOf(const V (&p)[N]) {
             return ((p[0] + p[2]) + p[4]) + (p[1] + p[3]);
         else
             return ((p[0] + p[2]) + p[4]) + ((p[1] + p[3]) + p[5]);
-    } else if constexpr (order == Sum::Pairs && N > 3) {
+    } else if constexpr (order == Sum::PairsAroundLast && N == 5) {
+        return ((p[0] + p[1]) + p[4]) + (p[2] + p[3]);
+    } else if constexpr ((order == Sum::Pairs || order == Sum::PairsAroundLast) && N > 3) {
         const V four = (p[0] + p[1]) + (p[2] + p[3]);
         if constexpr (N == 4)
             return four;

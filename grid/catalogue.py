@@ -112,12 +112,32 @@ FAMILIES = {family.name: family for family in (
     Family("l2-norm", "vector", "Euclidean length", "vector/l2_norm.h", PLAIN, "dst is written once per object."),
     Family("frobenius-norm", "vector", "Frobenius norm", "vector/frobenius_norm.h", PLAIN, "dst is written once per object."),
     Family("trace", "vector", "Trace", "vector/trace.h", PLAIN, "dst must not lie on the diagonal of src."),
-    Family("matrix-vector-product", "products", "Product of a matrix and a vector", "", PLAIN,
-           "dst must overlap no source in the run-time forms."),
-    Family("matrix-product", "products", "Product of two matrices", "", PLAIN,
-           "dst must overlap no source in the run-time forms."),
-    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "", PLAIN,
-           "dst must overlap no source."),
+    Family("matrix-vector-product", "products", "Product of a matrix and a vector", "products/matrix_vector.h", PLAIN,
+           "dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single or "
+           "both arrays. Otherwise dst must overlap no source.",
+           "For square matrices the product. In the run-time forms src1Width and src1Height are those of src1 as stored, "
+           "and src2Len must equal src1Width, or src1Height where src1 is used transposed: ZELM_ERR_SIZE otherwise. The "
+           "loops take them as those of the matrix as used: dst[i] for i below src1Height is the sum over t below "
+           "src1Width of src1[i][t] * src2[t], of src1[t][i] * src2[t] where src1 is used transposed. The stored element "
+           "(r, c) is at entry r*src1Width + c of a table, r*src1Height + c where it is used transposed. Sums run from "
+           "+0 in ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product "
+           "and have an order of their own in the standard and L layouts (docs/products.md)."),
+    Family("matrix-product", "products", "Product of two matrices", "products/matrix_matrix.h", PLAIN,
+           "dst must overlap no source in the run-time forms; some fixed-size forms work in place (docs/products.md).",
+           "For square matrices the product. In the run-time forms the widths and heights are those of the operands as "
+           "stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else "
+           "src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height = "
+           "src2Width instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height "
+           "and j below src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices "
+           "that fit, and the other descriptors that of square ones. The stored element (r, c) of a source is at entry "
+           "r*Width + c of its table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of "
+           "dstTable as many entries are tested as the product of the two dimensions named first. Sums run from +0 in "
+           "ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product."),
+    Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "products/matrix_vector.h", PLAIN,
+           "dst must overlap no source.",
+           "src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in "
+           "ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with "
+           "the first product and have an order of their own (docs/products.md)."),
     Family("determinant", "solvers", "Determinant", "solvers/determinant.h", PLAIN,
            "dst must overlap neither src nor scratch.",
            "Run-time forms: Gaussian elimination with partial pivoting in scratch, n*n elements and n numbers of 32 bits "
@@ -304,17 +324,23 @@ def _products():
         array = "a" in descriptor
         yield Row("matrix-vector-product", "Mul", descriptor, "AM" if array else "SM",
                   f"src1:{first} src1Width src1Height src2:{second} src2Len dst:{'va' if array else 'v'}"
-                  + " count" * array, "dst = src1 * src2")
+                  + " count" * array, "dst = src1 * src2",
+                  ("multiplyVectors" if array else "multiplyVector", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * array)
     for descriptor in ("mm", "mmT", "mTm", "mTmT", "mam", "mamT", "mama", "mamaT", "maTm", "maTmT", "maTma",
                        "maTmaT", "mma", "mmaT", "mTma", "mTmaT"):
         first, second = operand_kinds(descriptor)
         array = "a" in descriptor
         yield Row("matrix-product", "Mul", descriptor, "AM" if array else "SM",
                   f"src1:{first} src1Width src1Height src2:{second} src2Width src2Height dst:{'ma' if array else 'm'}"
-                  + " count" * array, "dst = src1 * src2")
-    yield Row("gaxpy", "Gaxpy", "v", "SM", "src1:m src2:v src3:v dst:v width height", "dst = src1 * src2 + src3")
+                  + " count" * array, "dst = src1 * src2",
+                  ("multiplyArray" if array else "multiplySingle", "{src1}", "{src2}", "{dst}", "{size}")
+                  + ("{count}",) * array)
+    yield Row("gaxpy", "Gaxpy", "v", "SM", "src1:m src2:v src3:v dst:v width height", "dst = src1 * src2 + src3",
+              ("gaxpy", "{src1}", "{src2}", "{src3}", "{dst}", "{size}"))
     yield Row("gaxpy", "Gaxpy", "va", "AM", "src1:m src2:va src3:va dst:va width height count",
-              "dst[k] = src1 * src2[k] + src3[k]")
+              "dst[k] = src1 * src2[k] + src3[k]",
+              ("gaxpys", "{src1}", "{src2}", "{src3}", "{dst}", "{size}", "{count}"))
 
 
 def _solvers():
@@ -457,6 +483,22 @@ def _departures():
     for name, function in (("m_32f", "transposeSingleWhole"), ("m_64f", "transposeSingleWhole"),
                            ("ma_32f", "transposeArrayWhole")):
         yield f"zelmTranspose_{name}_4x4", Departure(function, "reads a whole matrix first: dst may be src")
+
+    for element_type in TYPES:
+        yield f"zelmMul_mmT_{element_type}", Departure(
+            "multiplyByTranspose", "dst has src2Height columns, and the sums have src2Width terms: the true product by the"
+            " transpose of src2")
+    for row in ("mama", "maTma", "mamaT", "maTmaT"):
+        for size in MATRIX_SIZES[1:]:
+            yield f"zelmMul_{row}_64f_{size}", Departure(
+                "advancingByAlignment", "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16,"
+                " every object is computed from object 0 of src1")
+    for row in ("mam", "maTm", "mamT"):
+        for layout in ("P", "PS2"):
+            yield f"zelmMul_{row}_32f_3x3_{layout}", Departure(
+                "multiplyUntested", "tests no table entry; src2 may be read also where count is 0")
+    for row in ("mam", "maTm", "mamT", "maTmT"):
+        yield f"zelmMul_{row}_32f_3x3_LS2", Departure("multiplyUntestedLists", "tests no entry of src1Table or dstTable")
 
 
 HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"

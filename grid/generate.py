@@ -151,6 +151,11 @@ def size_expression(member):
     n = member.size[:1]
     if member.row.operation == "CrossProduct":
         return "FixedShape<1, 3>{}"
+    if FAMILIES[member.row.family].subsystem == "products" and "src1Width" in words:
+        if n:
+            return f"FixedSizes<{n}>{{}}"
+        names = [word for word in words if word in DIMENSIONS]
+        return f"{'Matrix' if len(names) == 4 else 'Vector'}Sizes{{{', '.join(names)}}}"
     if "len" in words:
         return f"FixedShape<1, {n}>{{}}" if n else "RunTimeShape{1, len}"
     if "width" in words:

@@ -16,7 +16,7 @@ using zelmref::Overlap;
 using zelmref::Parameter;
 using zelmref::Passed;
 
-constexpr std::size_t firstTableSlab = 4, pivotSlab = 8;
+constexpr std::size_t firstTableSlab = 4, pivotSlab = 8, scratchSlab = 8;
 constexpr std::int64_t roomForOperand = 60000, margin = 96;
 
 // How the operands of a case lie to each other.
@@ -52,6 +52,7 @@ public:
         case_.call.passed.assign(target.signature.size(), Passed{});
         case_.operands.clear();
         case_.windows.clear();
+        case_.anything.clear();
     }
 
     void make() {
@@ -64,12 +65,14 @@ public:
         placeSlabs();
         passOperands();
         placePivots();
+        placeScratch();
         drawConstants();
         fillWindows();
         writeTables();
         writeElements();
         writePivots();
         drawNulls();
+        drawNegatives();
         for (const Window &w : case_.windows)
             std::memcpy(arena_.before(w.slab) + w.begin, arena_.slab(w.slab) + w.begin, w.end - w.begin);
     }
@@ -96,6 +99,20 @@ private:
                     size %= 1 + 60 / case_.call.dimension("height");
             }
         }
+        drawShape();
+    }
+
+    void drawShape() {
+        const zelmref::Shapes shapes = target_.family->shapes;
+        if (shapes == zelmref::Shapes::Any || target_.cell.order != 0)
+            return;
+        std::uint32_t &width = case_.call.passed[case_.call.index("width")].size;
+        std::uint32_t &height = case_.call.passed[case_.call.index("height")].size;
+        const bool square = random_.chance(40), mayBeWide = random_.chance(15);
+        if (square)
+            width = height;
+        if (width > height && !(mayBeWide && shapes == zelmref::Shapes::MostlyTall))
+            std::swap(width, height);
     }
 
     // A list whose last object is used where there is none: what lies before a table is for tests by name.
@@ -157,7 +174,8 @@ private:
 
         // A destination whose elements coincide within one object: not in every case of a solver.
         const bool isDst = parameter.name == "dst";
-        const bool mayOverlap = !isDst || overlap_ == Overlap::Any || random_.chance(10);
+        const bool mayOverlap =
+            !isDst || (!target_.family->writesInAnyOrder && (overlap_ == Overlap::Any || random_.chance(10)));
         drawStrides(o, mayOverlap);
         if (extent(o) > roomForOperand)
             packTightly(o);
@@ -170,6 +188,8 @@ private:
         const std::uint32_t special = random_.below(100);
 
         o.elem = strided ? drawStride(size_, mayOverlap) : size_;
+        if (target_.family->roundsElemStride && target_.family->roundsElemStride(case_.call))
+            o.elem -= o.elem % size_;
         o.row = drawStride(std::max<std::int64_t>(size_, std::abs(o.elem) * o.columns), mayOverlap);
         if (strided && special < 8) { // columns first
             o.elem = size_ * o.rows;
@@ -278,8 +298,12 @@ private:
             (stride < 0 ? low : high) += stride * steps;
         };
         if (!o.table || o.perObject) {
-            stretch(o.row, o.rows - 1);
-            stretch(o.elem, o.columns - 1);
+            if (isPartlyRead(o))
+                spanRead(o, low, high);
+            else {
+                stretch(o.row, o.rows - 1);
+                stretch(o.elem, o.columns - 1);
+            }
         }
         if (o.array && !o.perObject)
             stretch(o.obj, std::int64_t{o.objects} - 1);
@@ -290,6 +314,26 @@ private:
         }
         o.low = low;
         o.high = high;
+    }
+
+    bool isRead(const Placement &o, std::uint32_t i, std::uint32_t j) const {
+        return !target_.family->neverReads || target_.signature[o.parameter].kind != Kind::Matrix ||
+               !target_.family->neverReads(case_.call, i, j);
+    }
+
+    // A source of which only the elements that are read need memory: the others may lie behind the guard.
+    bool isPartlyRead(const Placement &o) const {
+        return target_.family->neverReads && relation_ == Relation::Apart &&
+               target_.signature[o.parameter].name != "dst";
+    }
+
+    void spanRead(const Placement &o, std::int64_t &low, std::int64_t &high) const {
+        for (std::uint32_t i = 0; i < o.rows; ++i)
+            for (std::uint32_t j = 0; j < o.columns; ++j)
+                if (isRead(o, i, j)) {
+                    low = std::min(low, i * o.row + j * o.elem);
+                    high = std::max(high, i * o.row + j * o.elem + size_);
+                }
     }
 
     void relate() {
@@ -504,6 +548,9 @@ private:
             p.rowStride = garbage && o.rows == 1 ? anyRow : static_cast<std::int32_t>(o.row);
             if (target_.family->columnsReached)
                 passBelowPacked(o, p);
+            if (target_.family->roundsElemStride && target_.family->roundsElemStride(case_.call))
+                p.elemStride +=
+                    static_cast<std::int32_t>(random_.chance(20) ? random_.between(1, size_ - 1) : 0);
             p.objStride = unread || (garbage && o.objects <= 1) ? anyObj : static_cast<std::int32_t>(o.obj);
             if (!o.table) {
                 p.base = address(o, 0);
@@ -571,7 +618,7 @@ private:
             for (std::size_t e = 0; e < o.entries.size() + o.behind; ++e) {
                 const auto i = static_cast<std::uint32_t>(e / o.columns),
                            j = static_cast<std::uint32_t>(e % o.columns);
-                const bool astray = intoGuard && target_.family->neverReads(case_.call, i, j);
+                const bool astray = intoGuard && !isRead(o, i, j);
                 const std::uintptr_t place =
                     astray ? reinterpret_cast<std::uintptr_t>(arena_.slab(o.slab)) + Arena::slabSize + 64
                            : address(o, o.entries[e % o.entries.size()]);
@@ -591,6 +638,19 @@ private:
             case_.call.passed[p].base = reinterpret_cast<std::uintptr_t>(arena_.slab(pivotSlab)) +
                                         static_cast<std::uintptr_t>(place(pivotSlab, 4 * entries, 4));
         }
+    }
+
+    void placeScratch() {
+        if (!target_.family->scratchBytes)
+            return;
+        const std::size_t bytes = target_.family->scratchBytes(case_.call);
+        if (bytes == 0)
+            return;
+        const auto begin = static_cast<std::size_t>(
+            place(scratchSlab, static_cast<std::int64_t>(bytes), sizeof(void *) == 8 ? size_ : 4));
+        case_.anything.push_back({scratchSlab, begin, begin + bytes});
+        case_.call.passed[case_.call.index("scratch")].base =
+            reinterpret_cast<std::uintptr_t>(arena_.slab(scratchSlab)) + begin;
     }
 
     void fillWindows() {
@@ -617,6 +677,11 @@ private:
                     static_cast<std::size_t>(size_));
     }
 
+    // Has the element memory of its own?
+    bool isMapped(const Placement &o, std::uint32_t i, std::uint32_t j) const {
+        return !isPartlyRead(o) || isRead(o, i, j);
+    }
+
     void writeElements() {
         writeNumbers(dst(), Style::AnyBits);
         for (std::size_t n = 0; n + 1 < case_.operands.size(); ++n) {
@@ -626,6 +691,9 @@ private:
                 writeNumbers(o, drawStyle());
                 break;
             case Content::Pivoting:
+            case Content::Inverting:
+            case Content::PositiveDefinite:
+            case Content::Reflecting:
                 writeMatrices(o);
                 break;
             case Content::Solving:
@@ -639,8 +707,11 @@ private:
     void writeNumbers(const Placement &o, Style style) {
         for (std::uint32_t k = 0; k < o.objects; ++k)
             for (std::uint32_t i = 0; i < o.rows; ++i)
-                for (std::uint32_t j = 0; j < o.columns; ++j)
-                    writeElement(o, k, i, j, drawNumber(random_, style, size_ == 8));
+                for (std::uint32_t j = 0; j < o.columns; ++j) {
+                    const std::uint64_t number = drawNumber(random_, style, size_ == 8);
+                    if (isMapped(o, i, j))
+                        writeElement(o, k, i, j, number);
+                }
     }
 
     // Most cases have sound matrices up to some object, so that an array form comes far.
@@ -655,10 +726,23 @@ private:
                               : kind < 85 && random_.chance(90) ? Style::Plain
                               : kind < 85                       ? drawStyle()
                                                                 : style;
-            drawMatrix(random_, its, size_ == 8, o.rows, elements);
+            switch (target_.family->content) {
+            case Content::PositiveDefinite:
+                drawSymmetricMatrix(random_, its, size_ == 8, o.rows, elements);
+                break;
+            case Content::Inverting:
+                drawSquare(random_, its, size_ == 8, o.rows, elements);
+                break;
+            case Content::Reflecting:
+                drawColumns(random_, its, size_ == 8, o.rows, o.columns, elements);
+                break;
+            default:
+                drawMatrix(random_, its, size_ == 8, o.rows, elements);
+            }
             for (std::uint32_t i = 0; i < o.rows; ++i)
                 for (std::uint32_t j = 0; j < o.columns; ++j)
-                    writeElement(o, k, i, j, elements[static_cast<std::size_t>(i) * o.columns + j]);
+                    if (isMapped(o, i, j))
+                        writeElement(o, k, i, j, elements[static_cast<std::size_t>(i) * o.columns + j]);
         }
     }
 
@@ -697,6 +781,25 @@ private:
         return target_.family->followsNull && target_.family->followsNull(case_.call, entry);
     }
 
+    // A size below 0 is followed by no other: the model's order of checks has them after the pointers.
+    void drawNegatives() {
+        if (!target_.family->isSigned)
+            return;
+        for (std::size_t p = 0; p < target_.signature.size(); ++p) {
+            const Kind kind = target_.signature[p].kind;
+            const bool here = random_.chance(4), least = random_.chance(30);
+            const std::uint32_t negative = least ? 0x80000000u : 0u - 1 - random_.below(1000);
+            if (here && (kind == Kind::Dimension || kind == Kind::Count) &&
+                target_.family->isSigned(target_.cell, target_.signature[p]))
+                case_.call.passed[p].size = negative;
+        }
+    }
+
+    bool isTested(const Placement &o, std::size_t entry) const {
+        const auto tested = target_.family->entriesTested;
+        return !tested || o.perObject || entry < tested(case_.call, target_.signature[o.parameter]);
+    }
+
     void drawNulls() {
         const bool arguments = random_.chance(12), entries = random_.chance(12);
         if (entries)
@@ -704,8 +807,8 @@ private:
                 const bool here = random_.chance(50);
                 const std::uint32_t entry =
                     random_.below(static_cast<std::uint32_t>(o.entries.size() + o.behind + 1));
-                if (here && entry < o.entries.size() + o.behind && !followsNull(entry))
-                    zelmref::writeWord(passed(o).base + entry * sizeof(void *), std::uintptr_t{0});
+                if (here && entry < o.entries.size() + o.behind && !followsNull(entry) && isTested(o, entry))
+                    zelmref::writeWord(passed(o).base + entry * sizeof(void *), nullEntry(o));
             }
         if (!arguments)
             return;
@@ -716,9 +819,14 @@ private:
                 continue;
             if (kind == Kind::Dimension || (kind == Kind::Count && !readsEntryBefore()))
                 passed.size = 0;
-            else if (kind != Kind::Constant && kind != Kind::Count)
+            else if (kind != Kind::Constant && kind != Kind::Count && !target_.family->testsNoPointer)
                 passed.base = 0;
         }
+    }
+
+    std::uintptr_t nullEntry(const Placement &o) {
+        const auto shift = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(passed(o).shift));
+        return target_.family->addsShiftBeforeNullTest ? 0 - shift : 0;
     }
 
     const Target &target_;

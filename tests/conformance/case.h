@@ -41,6 +41,7 @@ struct Case {
     zelmref::Call call{};
     std::vector<Placement> operands; // vectors and matrices; the destination is the last
     std::vector<Window> windows;
+    std::vector<Window> anything; // bytes that may hold anything after the call
 
     std::size_t elementCount() const;
 };

@@ -149,6 +149,9 @@ private:
                     const std::uintptr_t address =
                         reinterpret_cast<std::uintptr_t>(arena_.slab(o.slab)) +
                         static_cast<std::uintptr_t>(static_cast<std::intptr_t>(o.origin + o.offset(k, i, j)));
+                    std::size_t slab, offset;
+                    if (!arena_.locate(address, slab, offset) || offset >= Arena::slabSize)
+                        continue; // an element that is never read
                     const std::uint64_t bits = is64_ ? zelmref::readWord<std::uint64_t>(address)
                                                      : zelmref::readWord<std::uint32_t>(address);
                     const std::string number = literal(bits, is64_);

@@ -13,16 +13,28 @@ extern const Family extract;
 extern const Family loadIdentity;
 extern const Family luDecomp;
 extern const Family luBackSubst;
+extern const Family choleskyDecomp;
+extern const Family choleskyBackSubst;
+extern const Family qrDecomp;
+extern const Family qrBackSubst;
 extern const Family dotProduct;
 extern const Family crossProduct;
 extern const Family l2Norm;
 extern const Family frobeniusNorm;
 extern const Family trace;
+extern const Family determinant;
+extern const Family extendedDeterminants;
+extern const Family inverse;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family :
-         {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
+    for (const Family *family : {&vectorAddSub, &matrixAddSub,   &scaling,
+                                 &saxpyLcomb,   &transpose,      &copy,
+                                 &extract,      &loadIdentity,   &luDecomp,
+                                 &luBackSubst,  &choleskyDecomp, &choleskyBackSubst,
+                                 &qrDecomp,     &qrBackSubst,    &dotProduct,
+                                 &crossProduct, &l2Norm,         &frobeniusNorm,
+                                 &trace,        &determinant,    &extendedDeterminants,
+                                 &inverse})
         if (family->serves(cell))
             return family;
     return nullptr;

@@ -19,10 +19,20 @@ enum class Overlap {
 
 // What sort of numbers brings a family's branches to light.
 enum class Content {
-    Numbers,  // element by element: any number anywhere
-    Pivoting, // matrices to eliminate: ties, thresholds, singular ones
-    Solving,  // factors and right-hand sides
-    Sums,     // numbers whose sum depends on its order
+    Numbers,          // element by element: any number anywhere
+    Pivoting,         // matrices to eliminate: ties, thresholds, singular ones
+    Solving,          // factors and right-hand sides
+    Sums,             // numbers whose sum depends on its order
+    PositiveDefinite, // symmetric matrices, positive definite ones and others
+    Inverting,        // as Pivoting, with thresholds, bands and searches of Det and Invert
+    Reflecting,       // matrices to reflect: columns at the threshold, zero columns, both signs
+};
+
+// Which widths and heights.
+enum class Shapes {
+    Any,
+    MostlyTall, // seldom more columns than rows
+    Tall,       // never
 };
 
 // Can an element be read at an address?
@@ -51,6 +61,21 @@ struct Family {
     // The number of columns of dst that a call writes, where that is more than its width; its strides are
     // then at least those of a packed matrix.
     std::uint32_t (*columnsReached)(const Call &call) = nullptr;
+    // The bytes of scratch that a call may use. What they hold after it is open.
+    std::size_t (*scratchBytes)(const Call &call) = nullptr;
+    // The number of a table's first entries that are tested, where the others are followed untested.
+    std::size_t (*entriesTested)(const Call &call, const Parameter &parameter) = nullptr;
+    // Is the dimension or count signed, with a result below 0?
+    bool (*isSigned)(const Cell &cell, const Parameter &parameter) = nullptr;
+    // Is an element stride rounded down to a multiple of the element?
+    bool (*roundsElemStride)(const Call &call) = nullptr;
+    // Is it the sum of entry and shift that is tested?
+    bool addsShiftBeforeNullTest = false;
+    Shapes shapes = Shapes::Any;
+    // Are pointers followed untested? Then none is null.
+    bool testsNoPointer = false;
+    // Is the order open in which the elements of an object are written? Then no two are the same memory.
+    bool writesInAnyOrder = false;
 };
 
 // The family that serves a cell, or null.

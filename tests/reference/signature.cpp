@@ -20,6 +20,10 @@ Parameter pivotIndex(bool array) {
     return {"pivotIndex", Kind::PivotIndex, array, "", "n"};
 }
 
+Parameter scratch() {
+    return {"scratch", Kind::Scratch, false, "", ""};
+}
+
 Parameter result(bool array) {
     return {"dst", Kind::Result, array, "", ""};
 }

@@ -28,6 +28,7 @@ Parameter vector(std::string name, bool array, std::string length = "len");
 Parameter matrix(std::string name, bool array, std::string height = "n", std::string width = "n");
 Parameter constant(std::string name);
 Parameter pivotIndex(bool array);
+Parameter scratch();
 Parameter result(bool array);                                        // dst, one number per object
 Parameter packed(bool array, std::string height, std::string width); // dst, whole objects without a gap
 Parameter dimension(std::string name);

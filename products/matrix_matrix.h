@@ -1,0 +1,260 @@
+// Products of two matrices.
+#pragma once
+
+#include "frame/overlap.h"
+#include "products/accumulate.h"
+#include "products/matrix_rows.h"
+
+namespace zelm::products {
+
+// ---- one object of a fixed size, element by element
+
+// Both sources may be overwritten while they are read: every element of dst reads them anew.
+template <Sum order, unsigned N, typename A, typename B, typename D>
+__attribute__((noinline)) void multiplyAnew(const A &a, const B &b, const D &d) {
+    using T = typename D::Element;
+    for (unsigned i = 0; i < N; ++i) {
+        for (unsigned j = 0; j < N; ++j) {
+            T products[N];
+            for (unsigned t = 0; t < N; ++t)
+                products[t] = used(a, i, t, N) * used(b, t, j, N);
+            d.set(i, j, N, sumOf<order>(products));
+        }
+    }
+}
+
+// A matrix in locals, as it is used.
+template <typename T, unsigned N>
+struct HeldElements {
+    T element[N][N];
+    template <typename B>
+    ZELM_INLINE explicit HeldElements(const B &b) {
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t)
+#pragma GCC unroll 6
+            for (unsigned j = 0; j < N; ++j)
+                element[t][j] = used(b, t, j, N);
+    }
+    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const {
+        return element[i][j];
+    }
+};
+
+// src2 is read ahead of the writes, and each row of src1 ahead of dst's.
+template <Sum order, unsigned N, typename A, typename T, typename D>
+ZELM_INLINE void multiplyHeld(const A &a, const HeldElements<T, N> &b, const D &d) {
+    for (unsigned i = 0; i < N; ++i) {
+        T row[N];
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t)
+            row[t] = used(a, i, t, N);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j) {
+            T products[N];
+#pragma GCC unroll 6
+            for (unsigned t = 0; t < N; ++t)
+                products[t] = row[t] * b.element[t][j];
+            d.set(i, j, N, sumOf<order>(products));
+        }
+    }
+}
+
+// ---- what a form holds of src2, and one product with it
+
+template <unsigned N, typename D, typename B>
+ZELM_INLINE auto holdSecond(const B &b) {
+    using T = typename B::Element;
+    if constexpr (D::isDense)
+        return HeldRows<T, N>(b);
+    else
+        return HeldElements<T, N>(b);
+}
+
+template <Sum, unsigned N, typename A, typename T, typename D>
+ZELM_INLINE void multiplyWith(const A &a, const HeldRows<T, N> &held, const D &d) {
+    multiplyRows(a, held, d);
+}
+
+template <Sum order, unsigned N, typename A, typename T, typename D>
+ZELM_INLINE void multiplyWith(const A &a, const HeldElements<T, N> &held, const D &d) {
+    multiplyHeld<order, N>(a, held, d);
+}
+
+// dst begins where a source begins: no other overlap has a defined result.
+template <typename S, typename D>
+ZELM_INLINE bool beginsAt(const S &s, const D &d) {
+    return s.address(0, 0, 0) == d.address(0, 0, 0);
+}
+
+template <InPlace inPlace, Sum order, unsigned N, typename A, typename B, typename D>
+ZELM_INLINE void multiplyObject(const A &a, const B &b, const D &d) {
+    if ((!inPlace.first && beginsAt(a, d)) || (!inPlace.second && beginsAt(b, d)))
+        return multiplyAnew<order, N>(a, b, d);
+    multiplyWith<order, N>(a, holdSecond<N, D>(b), d);
+}
+
+// ---- single objects
+
+template <typename D>
+constexpr Form formOf() {
+    if constexpr (D::isList)
+        return requires(D d) {
+            d.elemStride = 0;
+        }
+    ? Form::ListOfStrided : Form::List;
+    else if constexpr (D::isTable) return kIsArray<D> && !D::isSideBySide ? Form::PS2 : Form::P;
+    else return requires(D d) {
+        d.elemStride = 0;
+    }
+    ? Form::S2 : Form::Standard;
+}
+
+template <typename A, typename B, typename D, unsigned N>
+constexpr InPlace kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, kIsArray<B>, kIsTransposed<A>,
+                                       kIsTransposed<B>, sizeof(typename D::Element) == 4, N);
+
+template <typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus accumulateSingle(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches) {
+    if constexpr (D::isTable)
+        return accumulateTested(a, b, d, bounds, pitches);
+    accumulateMatrix<false>(a, b, d, bounds, pitches);
+    return ZELM_OK;
+}
+
+template <typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus multiplySingle(const A &a, const B &b, const D &d, MatrixSizes sizes) {
+    if (ZelmStatus status = checkSingle(isWrongSize<A, B>(sizes), a, b, d); status != kProceed)
+        return status;
+    return accumulateSingle(a, b, d, boundsOf(sizes), pitchesOf<A, B>(sizes));
+}
+
+template <typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplySingle(const A &a, const B &b, const D &d, FixedSizes<N>) {
+    if (ZelmStatus status = checkSingle(false, a, b, d); status != kProceed)
+        return status;
+    if constexpr (D::isTable)
+        return accumulateTested(a, b, d, Bounds{N, N, N}, Pitches{N, N, N});
+    else
+        multiplyObject<kInPlace<A, B, D, N>, kMatrixSum<A, B, typename D::Element, N>, N>(a, b, d);
+    return ZELM_OK;
+}
+
+// ---- arrays
+
+template <typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixSizes sizes,
+                                     std::uint32_t count) {
+    const auto entries = Descriptor<A, B>::entries;
+    if (ZelmStatus status =
+            checkArray(isWrongSize<A, B>(sizes), count, tested(a, Address{sizes.width1} * sizes.height1),
+                       tested(b, Address{sizes.width2} * sizes.height2),
+                       tested(d, Address{sizes.*entries.first} * sizes.*entries.second));
+        status != kProceed)
+        return status;
+    const auto one = [&](std::uint32_t k) {
+        accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), boundsOf(sizes),
+                                            pitchesOf<A, B>(sizes));
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, b, d);
+}
+
+// P: the same element of successive objects is adjacent, so that packs of them need no shuffle.
+template <unsigned N, typename S>
+struct Planes {
+    using T = typename S::Element;
+    const S &operand;
+    ZELM_INLINE Pack<T> get(std::uint32_t k, std::uint32_t i, std::uint32_t j) const {
+        if constexpr (kIsArray<S>) {
+            const auto object = operand.object(k);
+            return loadPack<T>(kIsTransposed<S> ? object.address(j, i, N) : object.address(i, j, N));
+        } else {
+            return broadcast(used(operand, i, j, N));
+        }
+    }
+};
+
+// From how many objects on the overlap test is worth its time.
+constexpr std::uint32_t kPlanesCount = 8;
+
+template <unsigned N, typename A, typename B, typename T>
+ZELM_INLINE bool planesMayRun(const A &a, const B &b, const PackedTableArray<T> &d, std::uint32_t count) {
+    return count >= kPlanesCount && count <= kMostObjectsInRange && elementsAreApart(d, N, N, count) &&
+           isUntouched(a, N, N, d, N, N, count) && isUntouched(b, N, N, d, N, N, count);
+}
+
+template <unsigned N, typename A, typename B, typename T>
+ZELM_INLINE void multiplyPlanes(const Planes<N, A> &a, const Planes<N, B> &b, const PackedTableArray<T> &d,
+                                std::uint32_t k) {
+    Pack<T> second[N][N];
+#pragma GCC unroll 6
+    for (unsigned t = 0; t < N; ++t)
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            second[t][j] = b.get(k, t, j);
+    for (unsigned i = 0; i < N; ++i) {
+        Pack<T> row[N];
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t)
+            row[t] = a.get(k, i, t);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j) {
+            Pack<T> sum = row[0] * second[0][j];
+#pragma GCC unroll 5
+            for (unsigned t = 1; t < N; ++t)
+                sum = sum + row[t] * second[t][j];
+            storePack(d.object(k).address(i, j, N), sum);
+        }
+    }
+}
+
+template <typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSizes<N>, std::uint32_t count) {
+    constexpr InPlace inPlace = kInPlace<A, B, D, N>;
+    if constexpr (D::isSideBySide) {
+        if (planesMayRun<N>(a, b, d, count)) {
+            using T = typename D::Element;
+            const Planes<N, A> first{a};
+            const Planes<N, B> second{b};
+            std::uint32_t k = 0;
+            for (; count - k >= kLanes<T>; k += kLanes<T>)
+                multiplyPlanes<N>(first, second, d, k);
+            for (; k < count; ++k)
+                multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
+            return ZELM_OK;
+        }
+    }
+    if constexpr (kIsArray<B>) {
+        const auto one = [&](std::uint32_t k) {
+            multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, a, b, d);
+    } else {
+        // An invariant src2 is read once, ahead of the objects.
+        const auto held = holdSecond<N, std::remove_cvref_t<decltype(d.object(0))>>(b);
+        const auto one = [&](std::uint32_t k) {
+            const auto first = a.object(k);
+            const auto result = d.object(k);
+            if (!inPlace.first && beginsAt(first, result))
+                multiplyAnew<Sum::Chain, N>(first, b, result);
+            else
+                multiplyWith<Sum::Chain, N>(first, held, result);
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, a, b, d);
+    }
+}
+
+template <typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, FixedSizes<N> sizes,
+                                     std::uint32_t count) {
+    if (ZelmStatus status = checkArray(false, count, tested(a, N * N), tested(b, N * N), tested(d, N * N));
+        status != kProceed)
+        return status;
+    return multiplyFixed(a, b, d, sizes, count);
+}
+
+} // namespace zelm::products
+
+#include "products/departures.h"

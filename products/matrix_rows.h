@@ -1,0 +1,187 @@
+// Products of dense matrices inside one object: rows of the result as packs, each the sum of rows of src2
+// times an element of src1's row. Every element keeps its chain of sums.
+#pragma once
+
+#include "frame/groups.h"
+#include "products/rules.h"
+
+namespace zelm::products {
+
+template <typename T, unsigned N>
+constexpr unsigned kRowPacks = N / kLanes<T>;
+
+// The columns behind the packs: one element by element, two of 32f in pairs of rows.
+template <typename T, unsigned N>
+constexpr unsigned kRowRest = N % kLanes<T>;
+
+ZELM_INLINE __m128 packOf(float a, float b, float c, float d) {
+    return _mm_setr_ps(a, b, c, d);
+}
+
+template <unsigned first, typename B>
+ZELM_INLINE Pack<typename B::Element> packOfRow(const B &b, std::uint32_t row) {
+    using T = typename B::Element;
+    if constexpr (!kIsTransposed<B>)
+        return loadPack<T>(b.rowStart(row) + first * sizeof(T));
+    else if constexpr (sizeof(T) == 4)
+        return packOf(used(b, row, first, 0), used(b, row, first + 1, 0), used(b, row, first + 2, 0),
+                      used(b, row, first + 3, 0));
+    else
+        return _mm_setr_pd(used(b, row, first, 0), used(b, row, first + 1, 0));
+}
+
+// A matrix read ahead of the writes.
+template <typename T, unsigned N>
+struct HeldRows {
+    static constexpr unsigned packs = kRowPacks<T, N>, rest = kRowRest<T, N>;
+    Pack<T> pack[N][packs == 0 ? 1 : packs];
+    Pack<T> pair[rest == 2 ? N : 1]; // the last two elements, twice
+    T last[rest == 1 ? N : 1];
+
+    template <typename B>
+    ZELM_INLINE explicit HeldRows(const B &b) {
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t) {
+            pack[t][0] = packOfRow<0>(b, t);
+            if constexpr (packs > 1)
+                pack[t][1] = packOfRow<2>(b, t);
+            if constexpr (packs > 2)
+                pack[t][2] = packOfRow<4>(b, t);
+            if constexpr (rest == 2) {
+                const __m128 two =
+                    _mm_unpacklo_ps(_mm_set_ss(used(b, t, N - 2, 0)), _mm_set_ss(used(b, t, N - 1, 0)));
+                pair[t] = _mm_movelh_ps(two, two);
+            }
+            if constexpr (rest == 1)
+                last[t] = used(b, t, N - 1, 0);
+        }
+    }
+};
+
+template <typename T, unsigned N>
+struct RowResult {
+    Pack<T> pack[kRowPacks<T, N>];
+    T last;
+};
+
+template <typename T, unsigned N, typename A>
+ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T, N> &b) {
+    RowResult<T, N> row;
+    row.last = 0;
+#pragma GCC unroll 6
+    for (unsigned t = 0; t < N; ++t) {
+        const T element = used(a, i, t, 0);
+        const Pack<T> factor = broadcast(element);
+#pragma GCC unroll 3
+        for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
+            row.pack[p] = t == 0 ? factor * b.pack[t][p] : row.pack[p] + factor * b.pack[t][p];
+        if constexpr (kRowRest<T, N> == 1)
+            row.last = t == 0 ? element * b.last[t] : row.last + element * b.last[t];
+    }
+    return row;
+}
+
+template <typename T, unsigned N>
+ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::uint32_t i) {
+#pragma GCC unroll 3
+    for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
+        storePack(d.rowStart(i) + p * kPackBytes, row.pack[p]);
+    if constexpr (kRowRest<T, N> == 1)
+        d.set(i, N - 1, 0, row.last);
+}
+
+template <typename A>
+ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Dense<float> &d) {
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 6; i += 2) {
+        const RowResult<float, 6> upper = rowOf<float, 6>(a, i, b), lower = rowOf<float, 6>(a, i + 1, b);
+        __m128 pair;
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < 6; ++t) {
+            const __m128 two =
+                _mm_unpacklo_ps(_mm_set_ss(used(a, i, t, 0)), _mm_set_ss(used(a, i + 1, t, 0)));
+            const __m128 product = _mm_unpacklo_ps(two, two) * b.pair[t];
+            pair = t == 0 ? product : pair + product;
+        }
+        storeRowOf(upper, d, i);
+        storeRowOf(lower, d, i + 1);
+        _mm_storel_pi(reinterpret_cast<__m64 *>(d.rowStart(i) + 16), pair);
+        _mm_storeh_pi(reinterpret_cast<__m64 *>(d.rowStart(i + 1) + 16), pair);
+    }
+}
+
+template <typename T, unsigned N, typename A>
+ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        storeRowOf(rowOf<T, N>(a, i, b), d, i);
+}
+
+// ---- 32f 3x3: a row is a pack whose last element is not used. Rows that follow each other without a gap are
+// loaded and stored over each other, never outside of the matrix.
+
+template <typename A>
+ZELM_INLINE __m128 threeOfRow(const A &a, std::uint32_t row) {
+    if constexpr (kIsTransposed<A>)
+        return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), 0);
+    else
+        return _mm_movelh_ps(_mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(a.rowStart(row))),
+                             _mm_load_ss(reinterpret_cast<const float *>(a.rowStart(row) + 8)));
+}
+
+template <>
+struct HeldRows<float, 3> {
+    __m128 row[3];
+    template <typename A>
+    ZELM_INLINE explicit HeldRows(const A &a) {
+        if constexpr (!kIsTransposed<A>) {
+            if (a.rowStride == 12) {
+                row[0] = loadPack<float>(a.start);
+                row[1] = loadPack<float>(a.start + 12);
+                const __m128 last = loadPack<float>(a.start + 20);
+                row[2] = _mm_shuffle_ps(last, last, _MM_SHUFFLE(3, 3, 2, 1));
+                return;
+            }
+        }
+#pragma GCC unroll 3
+        for (unsigned t = 0; t < 3; ++t)
+            row[t] = threeOfRow(a, t);
+    }
+};
+
+ZELM_INLINE void storeThree(Address to, __m128 row) {
+    _mm_storel_pi(reinterpret_cast<__m64 *>(to), row);
+    _mm_store_ss(reinterpret_cast<float *>(to + 8), _mm_movehl_ps(row, row));
+}
+
+template <unsigned lane>
+ZELM_INLINE __m128 spread(__m128 pack) {
+    return _mm_shuffle_ps(pack, pack, _MM_SHUFFLE(lane, lane, lane, lane));
+}
+
+// A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.
+template <typename A>
+ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Dense<float> &d) {
+    const auto times = [&](__m128 row) __attribute__((always_inline)) {
+        return (spread<0>(row) * b.row[0] + spread<1>(row) * b.row[1]) + spread<2>(row) * b.row[2];
+    };
+    if constexpr (kIsTransposed<A>) {
+#pragma GCC unroll 3
+        for (unsigned i = 0; i < 3; ++i)
+            storeThree(d.rowStart(i), times(threeOfRow(a, i)));
+    } else {
+        const HeldRows<float, 3> first(a);
+        const __m128 rows[3] = {times(first.row[0]), times(first.row[1]), times(first.row[2])};
+        if (d.rowStride == 12) {
+            storePack(d.start, rows[0]);
+            storePack(d.start + 12, rows[1]);
+            storeThree(d.start + 24, rows[2]);
+        } else {
+#pragma GCC unroll 3
+            for (unsigned i = 0; i < 3; ++i)
+                storeThree(d.rowStart(i), rows[i]);
+        }
+    }
+}
+
+} // namespace zelm::products
