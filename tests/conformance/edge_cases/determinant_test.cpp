@@ -194,7 +194,8 @@ void expectNear(std::uint32_t n, Plain plain, Strided strided) {
         else
             EXPECT_EQ(zelmDet_m_64f(a, row, n, scratch, &byElimination), ZELM_OK);
         // One rounding of the result and at most one of each level of minors; one of each operation.
-        EXPECT_LE(std::fabs(extended - exact), unit * std::fabs(exact) * 1.01L + (n - 3) * unit * scale * 1.01L);
+        EXPECT_LE(std::fabs(extended - exact),
+                  unit * std::fabs(exact) * 1.01L + (n - 3) * unit * scale * 1.01L);
         EXPECT_LE(std::fabs(inT - exact), 2 * n * unit * scale);
         EXPECT_LE(std::fabs(byElimination - exact), 8 * n * n * unit * scale);
     }

@@ -194,10 +194,11 @@ TEST(ExtendedDeterminant, RunsWithThePrecisionOfTheCaller) {
     const double order3[] = {1, 0, 0, 0, 1 + e, 1 + 2 * e, 0, 1, 1 + e};
     const std::uint16_t before = controlWord();
     const std::uint16_t precisionOf53Bits = (before & ~0x300) | 0x200;
-    for (const auto &[kernels, m] : {std::pair{&kernels64[0], order3}, std::pair{&kernels64[1], matrix}}) {
-        const Results<double> extended = determinants(*kernels, m);
+    for (const Kernels<double> &kernels : {kernels64[0], kernels64[1]}) {
+        const double *m = kernels.n == 3 ? order3 : matrix;
+        const Results<double> extended = determinants(kernels, m);
         setControlWord(precisionOf53Bits);
-        const Results<double> narrow = determinants(*kernels, m);
+        const Results<double> narrow = determinants(kernels, m);
         const std::uint16_t after = controlWord();
         setControlWord(before);
         EXPECT_EQ(after, precisionOf53Bits);
