@@ -138,8 +138,25 @@ FAMILIES = {family.name: family for family in (
            "src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in "
            "ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with "
            "the first product and have an order of their own (docs/products.md)."),
-    Family("determinant", "solvers", "Determinant", "", PLAIN, "dst must overlap neither src nor scratch."),
-    Family("inverse", "solvers", "Inverse", "", PLAIN + (DIV,), "dst must not overlap src."),
+    Family("determinant", "solvers", "Determinant", "solvers/determinant.h", PLAIN,
+           "dst must overlap neither src nor scratch.",
+           "Run-time forms: Gaussian elimination with partial pivoting in scratch, n*n elements and n numbers of 32 bits "
+           "(one such space for all objects), not a byte more. A pivot p with not (|p| >= e) or a last element with not "
+           "(|last| > e), e = 2^-23 (32f) or 2^-52 (64f), gives 0 with ZELM_OK. In an array, where a pivot fails before "
+           "the last element passes, that 0 has the sign of the last element times that of the row exchanges (NaN if it "
+           "is infinite). Fixed forms: expansion by minors along the rows, without a pivot or a test: in the element type "
+           "(S2, P, PS2, LS2), or in x87 extended precision (standard, L) by the kernels a6_Det_*."),
+    Family("inverse", "solvers", "Inverse", "solvers/inverse.h", PLAIN + (DIV,), "dst must not overlap src.",
+           "Run-time forms: the determinant and every cofactor by Gaussian elimination in scratch, n*n elements and n "
+           "numbers of 32 bits (one such space for all objects), not a byte more. With e = 2^-23 (32f) or 2^-52 (64f), a "
+           "pivot p of the whole matrix with not (|p| >= e) or a last element with not (|last| > e) is "
+           "ZELM_ERR_DIV_BY_ZERO; in a cofactor it makes the element of the inverse zero. 3x3 and 4x4: the adjugate times "
+           "the reciprocal of the determinant. 5x5 and 6x6: pivots searched in the first rows and a Schur complement. S2, "
+           "P, PS2, LS2: ZELM_ERR_DIV_BY_ZERO if a determinant lies in -b < det < b, b = 1e-7 (32f) or 1e-15 (64f); "
+           "column 5 is never searched. Standard, L: exact tests; reciprocals of 32f are the processor's approximation "
+           "with one Newton step. A NaN is never singular in the fixed forms. A singular matrix ends the call: earlier "
+           "objects are complete, its own dst and later ones are untouched (but for the standard and L forms of 32f 5x5 "
+           "and 6x6, which leave working rows in row 0, in 6x6 rows 0 and 1)."),
     Family("lu-decomposition", "solvers", "LU decomposition", "solvers/lu_decomposition.h", PLAIN + (DIV,),
            "dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided "
            "for.",
@@ -356,9 +373,13 @@ def _solvers():
     for kind, cls in (("m", "SM"), ("ma", "AM")):
         k, count = ("[k]", " count") if kind == "ma" else ("", "")
         yield Row("determinant", "Det", kind, cls, f"src:{kind} n scratch@runtime dst:scalar{count}",
-                  f"dst{k} = determinant of src{k}")
+                  f"dst{k} = determinant of src{k}",
+                  ("determinantArray" if count else "determinantSingle", "{src}", "{scratch}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count) + ("{kernel}",))
         yield Row("inverse", "Invert", kind, cls, f"src:{kind} n scratch@runtime dst:{kind}{count}",
-                  f"dst{k} = inverse of src{k}")
+                  f"dst{k} = inverse of src{k}",
+                  ("invertArray" if count else "invertSingle", "{src}", "{scratch}", "{dst}", "{size}")
+                  + ("{count}",) * bool(count))
         yield Row("lu-decomposition", "LUDecomp", kind, cls, f"src:{kind} pivotIndex dst:{kind} n{count}",
                   f"dst{k}, pivotIndex{k} = the factors L and U of src{k} and the order of their rows",
                   ("luDecompArray" if count else "luDecompSingle", "{src}", "{pivotIndex}", "{dst}", "{size}")
@@ -418,6 +439,19 @@ def _movement():
 
 ROWS = tuple(row for rows in (_vector_add_sub, _matrix_add_sub, _scaling, _saxpy_lcomb, _vector_algebra, _products,
                               _solvers, _movement) for row in rows())
+
+
+# The kernels: functions beside the grid, exported under names of their own, that serve members of fixed size.
+KERNEL_LAYOUTS = ("", "L")
+KERNEL_ROWS = (
+    Row("determinant", "Det", "m", "SM", "src:m dst:scalar", "dst = determinant of src"),
+    Row("determinant", "Det", "ma", "AM", "src:ma dst:scalar count", "dst[k] = determinant of src[k]"),
+)
+KERNEL_NOTES = (
+    "Evaluate in x87 extended precision, or in what the caller's control word says, and round to the element type at the "
+    "store and, in orders 4 to 6, some minors before: docs/solvers.md names them. The functions zelmDet_* of the standard "
+    "and L layouts call them and are what callers use: a kernel tests nothing but the entries of srcTable. Result: 0, "
+    "or -2 at a null entry, with the determinants before it written.")
 
 
 def _departures():

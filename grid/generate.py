@@ -15,8 +15,8 @@ import textwrap
 from dataclasses import dataclass
 from pathlib import Path
 
-from catalogue import (BUILT, CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, LETTER_LAYOUT, ROWS, TYPES,
-                       operand_kinds)
+from catalogue import (BUILT, CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES,
+                       KERNEL_ROWS, LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
 
 C_TYPE = {"32f": "float", "64f": "double"}
 WIDTH = 116
@@ -55,6 +55,35 @@ class Member:
     @property
     def built(self):
         return self.row.family in BUILT
+
+
+class Kernel(Member):
+    """A function beside the grid that serves the members of one row, type, size and layout."""
+
+    @property
+    def name(self):
+        parts = [f"a6_{self.row.operation}", self.row.descriptor, self.type, self.size, self.layout]
+        return "_".join(part for part in parts if part)
+
+    @property
+    def result(self):
+        return "void" if self.row.is_array and not self.layout else "int32_t"
+
+    @property
+    def unit(self):
+        return f"solvers/asm/{self.row.operation.lower()}_{self.row.descriptor}_{self.size}.cpp"
+
+
+def kernels():
+    for row in KERNEL_ROWS:
+        sizes, _ = CLASSES[row.cls]
+        for element_type in TYPES:
+            for layout in KERNEL_LAYOUTS if row.is_array else ("",):
+                for size in sizes[1:]:
+                    yield Kernel(row, element_type, size, layout)
+
+
+KERNELS = {(k.row.operation, k.row.descriptor, k.type, k.size, k.layout): k for k in kernels()}
 
 
 def members():
@@ -138,7 +167,9 @@ def size_expression(member):
 
 def plan(member):
     """The member's arguments in order, and what its wrapper passes on, each under the word of the row's list."""
-    arguments, passed = [], {"size": size_expression(member)}
+    kernel = KERNELS.get((member.row.operation, member.row.descriptor, member.type, member.size, member.layout))
+    arguments, passed = [], {"size": size_expression(member), "kernel": kernel.name if kernel else "nullptr",
+                             "scratch": "nullptr"}
     element = C_TYPE[member.type]
     for word in member.row.arguments.split():
         base, _, runtime = word.partition("@")
@@ -184,7 +215,8 @@ def declaration(member, definition=False):
     arguments, _ = plan(member)
     texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}"
              for a in arguments]
-    return call_text(("" if definition else "ZELM_API ") + f"ZelmStatus {member.name}", texts)
+    result = getattr(member, "result", "ZelmStatus")
+    return call_text(("" if definition else "ZELM_API ") + f"{result} {member.name}", texts)
 
 
 def definition(member):
@@ -254,6 +286,14 @@ def block_comment(paragraphs):
     return "/*\n" + "\n".join(f" * {line}" for line in lines) + "\n */\n"
 
 
+def kernel_declarations(family):
+    built = [kernel for kernel in KERNELS.values() if kernel.row.family == family and kernel.built]
+    if not built:
+        return []
+    title = f"==== {FAMILIES[family].title}: the kernels ===="
+    return ["\n" + block_comment([title, KERNEL_NOTES]), *(declaration(kernel) + ";\n" for kernel in built)]
+
+
 def header(subsystem, all_members):
     guard = f"ZELM_{subsystem.upper()}_H"
     out = [f"/* Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py. */\n",
@@ -265,6 +305,7 @@ def header(subsystem, all_members):
             family = member.row.family
             about = FAMILIES[family]
             out.append("\n" + block_comment([f"==== {about.title} ====", *([about.notes] if about.notes else [])]))
+            out += kernel_declarations(family)
         if member.row is not row:
             row = member.row
             out.append("\n" + row_comment(row))
@@ -294,24 +335,30 @@ def unit(family, unit_members):
     return "".join(out)
 
 
+def argument_list(member):
+    return [{"name": a.name, "operand": a.operand, "kind": a.kind, "type": a.ctype.strip(),
+             **({"unread": True} if a.unread else {})} for a in plan(member)[0]]
+
+
 def grid_json(all_members):
     lines = []
     for m in all_members:
         family = FAMILIES[m.row.family]
-        arguments, _ = plan(m)
         fixed = bool(m.size)
         entry = {
             "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
             "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout, "built": m.built,
             "formula": m.row.formula,
-            "arguments": [{"name": a.name, "operand": a.operand, "kind": a.kind, "type": a.ctype.strip(),
-                           **({"unread": True} if a.unread else {})} for a in arguments],
+            "arguments": argument_list(m),
             "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
         }
         if m.name in DEPARTURES:
             entry["departure"] = DEPARTURES[m.name].note
         lines.append(json.dumps(entry))
-    return '{"version": "4.1", "functions": [\n' + ",\n".join(lines) + "\n]}\n"
+    beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
+                          "built": k.built, "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
+    return '{"version": "4.1", "functions": [\n' + ",\n".join(lines) + '\n],\n"kernels": [\n' \
+        + ",\n".join(beside) + "\n]}\n"
 
 
 TABLE_HEADER = """\
@@ -387,21 +434,25 @@ def grid_table(built):
     callers, lists, entries, checks = {}, {}, [], []
     for m in built:
         arguments, _ = plan(m)
-        signature = ", ".join(a.ctype.strip() for a in arguments)
+        result = getattr(m, "result", "ZelmStatus")
+        signature = result, ", ".join(a.ctype.strip() for a in arguments)
         values = ", ".join(value_expression(a, i) for i, a in enumerate(arguments))
         caller = callers.setdefault(signature, (f"call{len(callers)}", values))[0]
         kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}'
                           for a in arguments)
         array = lists.setdefault(kinds, f"arguments{len(lists)}")
-        entries.append(f'    {{"{m.name}", "{m.row.operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
+        operation = m.name.removeprefix("zelm").partition(f"_{m.row.descriptor}_")[0]
+        entries.append(f'    {{"{m.name}", "{operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
                        f'"{m.layout}", {array}, {len(arguments)}, {caller}}},\n')
-        checks.append(f"static_assert(std::is_same_v<decltype({m.name}), ZelmStatus({signature})>);\n")
+        checks.append(f"static_assert(std::is_same_v<decltype({m.name}), {result}({signature[1]})>);\n")
     out = ["// Written by grid/generate.py from grid/catalogue.py.\n#include \"grid_table.h\"\n\n"
            "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"]
     out += [f"const Argument {array}[] = {{{kinds}}};\n" for kinds, array in lists.items()]
-    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n"
-            f"    return reinterpret_cast<ZelmStatus (*)({signature})>(f)({values});\n}}\n"
-            for signature, (caller, values) in callers.items()]
+    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n    "
+            + ("" if result == "void" else "return ")
+            + f"reinterpret_cast<{result} (*)({types})>(f)({values});\n"
+            + ("    return 0;\n" if result == "void" else "") + "}\n"
+            for (result, types), (caller, values) in callers.items()]
     out += ["\n} // namespace\n\n", *checks, "\nconst Function functions[] = {\n", *entries, "};\n",
             f"const std::size_t functionCount = {len(entries)};\n\n}} // namespace zelmtest\n"]
     return "".join(out)
@@ -416,13 +467,15 @@ def write_build(directory):
         units.setdefault((m.row.family, m.layout or "standard"), []).append(m)
     for (family, layout), unit_members in units.items():
         files[directory / f"{family.replace('-', '_')}_{layout}.cpp"] = unit(family, unit_members)
-    listed = "\n".join(f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files))
+    built_kernels = [kernel for kernel in kernels() if kernel.built]
+    listed = "\n".join([f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files)]
+                       + [f"    {unit}" for unit in sorted({kernel.unit for kernel in built_kernels})])
     files[directory / "sources.cmake"] = f"set(ZELM_GENERATED_SOURCES\n{listed})\n"
-    exports = sorted([m.name for m in built] + ["zelmGetLibVersion"])
+    exports = sorted([m.name for m in built + built_kernels] + ["zelmGetLibVersion"])
     files[directory / "exports.txt"] = "\n".join(exports) + "\n"
     files[directory / "zelm-grid.json"] = grid_json(everything)
     files[directory / "grid_table.h"] = TABLE_HEADER
-    files[directory / "grid_table.cpp"] = grid_table(built)
+    files[directory / "grid_table.cpp"] = grid_table(built + built_kernels)
     return files
 
 

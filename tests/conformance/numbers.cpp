@@ -109,6 +109,16 @@ std::vector<double> heavySymmetric(Random &random, std::uint32_t n) {
     return matrix;
 }
 
+// A number at which a test of Det or Invert turns over, or one next to it.
+std::uint64_t nearTurn(Random &random, const Format &format) {
+    const bool wide64 = format.fractionBits == 52;
+    const double turns[] = {wide64 ? 0x1p-52 : 0x1p-23, wide64 ? 1e-15 : 1e-7};
+    const double turn = turns[random.below(2)];
+    const std::uint64_t step = random.below(3);
+    const bool negative = random.chance(50);
+    return encode(format, negative ? -turn : turn) + step - 1;
+}
+
 } // namespace
 
 std::uint64_t drawNumber(Random &random, Style style, bool wide64) {
@@ -159,6 +169,80 @@ void drawMatrix(Random &random, Style style, bool wide64, std::uint32_t n,
         const std::uint32_t other = random.below(i + 1);
         for (std::uint32_t j = 0; j < n; ++j)
             std::swap(elements[i * n + j], elements[other * n + j]);
+    }
+}
+
+void drawSquare(Random &random, Style style, bool wide64, std::uint32_t n,
+                std::vector<std::uint64_t> &elements) {
+    const Format &format = wide64 ? format64 : format32;
+    if (style == Style::Threshold && random.chance(60)) { // triangular, with exact pivots but one
+        const std::uint32_t position = random.chance(30) ? n - 1 : random.below(n);
+        const bool plain = random.chance(50), exchanged = random.chance(40);
+        elements.clear();
+        for (std::uint32_t i = 0; i < n; ++i)
+            for (std::uint32_t j = 0; j < n; ++j) {
+                const std::uint64_t above =
+                    plain ? drawNumber(random, Style::Plain, wide64) : integer(format, random.between(-1, 1));
+                const std::uint64_t one = integer(format, random.chance(50) ? 1 : -1);
+                elements.push_back(i > j           ? 0
+                                   : i < j         ? above
+                                   : i == position ? nearTurn(random, format)
+                                                   : one);
+            }
+        const std::uint32_t other = random.below(n);
+        for (std::uint32_t j = 0; exchanged && j < n; ++j)
+            std::swap(elements[j], elements[other * n + j]);
+        return;
+    }
+
+    drawMatrix(random, style, wide64, n, elements);
+    if (n < 2 || random.chance(40))
+        return;
+    const auto at = [&](std::uint32_t i, std::uint32_t j) -> std::uint64_t & { return elements[i * n + j]; };
+    const std::uint64_t tiny = random.chance(50) ? 0 : nearTurn(random, format);
+    const std::uint32_t p = random.below(n), q = random.below(n);
+    switch (random.below(9)) {
+    case 0: // no pivot where it is looked for first
+        at(0, 0) = tiny;
+        break;
+    case 1: // two columns with the same head
+        for (std::uint32_t i = 0; i < 2; ++i)
+            at(i, 0) = at(i, 1);
+        break;
+    case 2: // a first row of ties
+        for (std::uint32_t j = 0; j < n; ++j)
+            at(0, j) = integer(format, random.chance(50) ? 1 : -1);
+        at(0, p) = at(0, 0) = tiny;
+        break;
+    case 3: // ties in two rows
+        for (std::uint32_t i = 0; i < 2; ++i)
+            for (std::uint32_t j = 0; j < n; ++j)
+                at(i, j) = drawNumber(random, Style::Small, wide64);
+        break;
+    case 4: // two rows with two columns
+        for (std::uint32_t i = 0; i < 2; ++i)
+            for (std::uint32_t j = 0; j < n; ++j)
+                if (j != p && j != q)
+                    at(i, j) = tiny;
+        break;
+    case 5: // a first row with one column
+        for (std::uint32_t j = 0; j < n; ++j)
+            if (j != p)
+                at(0, j) = 0;
+        break;
+    case 6: // a zero row or column
+        for (std::uint32_t j = 0; j < n; ++j)
+            (p < n / 2 ? at(q, j) : at(j, q)) = 0;
+        break;
+    case 7: // two equal rows
+        for (std::uint32_t j = 0; j < n; ++j)
+            at(p, j) = at(q, j);
+        break;
+    default: // three rows with three columns
+        for (std::uint32_t i = 0; i < 3 && i < n; ++i)
+            for (std::uint32_t j = 0; j < n; ++j)
+                if ((j + p) % n >= 3)
+                    at(i, j) = 0;
     }
 }
 

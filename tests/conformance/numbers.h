@@ -28,6 +28,12 @@ std::uint64_t drawNumber(Random &random, Style style, bool wide64);
 void drawMatrix(Random &random, Style style, bool wide64, std::uint32_t n,
                 std::vector<std::uint64_t> &elements);
 
+// A square matrix to invert: as drawMatrix makes them, some of them with a first row to search in, with a
+// leading pair of columns to pass over, singular, or, for Threshold, with a determinant or pivot where a test
+// turns over.
+void drawSquare(Random &random, Style style, bool wide64, std::uint32_t n,
+                std::vector<std::uint64_t> &elements);
+
 // A symmetric matrix, row by row: for Plain a positive definite one, for Threshold one with exact pivots of
 // which one is 0, negative or tiny, else one whose numbers are partly in `style`. Above the diagonal there
 // may be anything.

@@ -66,6 +66,9 @@ LISTS = {
                                   " src2ElemStride dst dstObjStride dstElemStride width height count",
     "zelmDet_ma_32f": "src srcObjStride srcRowStride n scratch dst count",
     "zelmDet_ma_32f_4x4": "src srcObjStride srcRowStride dst count",
+    "a6_Det_m_32f_3x3": "src srcRowStride dst",
+    "a6_Det_ma_64f_6x6": "src srcObjStride srcRowStride dst count",
+    "a6_Det_ma_64f_5x5_L": "srcTable srcShift srcRowStride dst count",
     "zelmInvert_m_64f_P": "srcTable srcShift n scratch dstTable dstShift",
     "zelmTranspose_ma_32f_PS2": "srcTable srcShift srcObjStride width height dstTable dstShift dstObjStride count",
     "zelmCopy_ma_32f_PL": "srcTable srcShift srcObjStride dstTable dstShift dstRowStride dstElemStride width height"
@@ -78,15 +81,24 @@ LISTS = {
 class Grid(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.functions = json.loads((GENERATED / "zelm-grid.json").read_text())["functions"]
-        cls.by_name = {function["name"]: function for function in cls.functions}
+        grid = json.loads((GENERATED / "zelm-grid.json").read_text())
+        cls.functions, cls.kernels = grid["functions"], grid["kernels"]
+        cls.by_name = {function["name"]: function for function in cls.functions + cls.kernels}
 
     def test_counts(self):
         self.assertEqual(len(self.functions), 5574)
-        self.assertEqual(len(self.by_name), 5574, "a name stands twice")
+        self.assertEqual(len(self.by_name), 5574 + 24, "a name stands twice")
         self.assertEqual(len({(f["operation"], f["descriptor"]) for f in self.functions}), 123)
         self.assertEqual(Counter(f["operation"] for f in self.functions), NAMES)
         self.assertEqual(Counter(f["family"] for f in self.functions), NAMES_PER_FAMILY)
+
+    def test_kernels(self):
+        names = {f"a6_Det_{form}_{element_type}_{n}x{n}{layout}" for element_type in ("32f", "64f") for n in range(3, 7)
+                 for form, layout in (("m", ""), ("ma", ""), ("ma", "_L"))}
+        self.assertEqual({kernel["name"] for kernel in self.kernels}, names)
+        for kernel in self.kernels:
+            returns = "a6_Det_m_" in kernel["name"] or kernel["name"].endswith("_L")
+            self.assertEqual(kernel["result"], "int32_t" if returns else "void", kernel["name"])
 
     def test_argument_lists(self):
         for name, arguments in LISTS.items():
@@ -110,7 +122,7 @@ class Grid(unittest.TestCase):
 
     def test_exports_are_the_built_rows(self):
         exports = (GENERATED / "exports.txt").read_text().split()
-        built = [f["name"] for f in self.functions if f["built"]]
+        built = [f["name"] for f in self.functions + self.kernels if f["built"]]
         self.assertEqual(sorted(exports), sorted(built + ["zelmGetLibVersion"]))
 
     def test_headers_are_current(self):

@@ -25,12 +25,18 @@ extern const Family trace;
 extern const Family matrixVectorProduct;
 extern const Family matrixProduct;
 extern const Family gaxpy;
+extern const Family determinant;
+extern const Family extendedDeterminants;
+extern const Family inverse;
 
 const Family *familyOf(const Cell &cell) {
-    for (const Family *family :
-         {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-           &luDecomp, &luBackSubst, &choleskyDecomp, &choleskyBackSubst, &qrDecomp, &qrBackSubst, &dotProduct,
-           &crossProduct, &l2Norm, &frobeniusNorm, &trace, &matrixVectorProduct, &matrixProduct, &gaxpy})
+    for (const Family *family : {&vectorAddSub,  &matrixAddSub,  &scaling,        &saxpyLcomb,
+                                 &transpose,     &copy,          &extract,        &loadIdentity,
+                                 &luDecomp,      &luBackSubst,   &choleskyDecomp, &choleskyBackSubst,
+                                 &qrDecomp,      &qrBackSubst,   &dotProduct,     &crossProduct,
+                                 &l2Norm,        &frobeniusNorm, &trace,          &matrixVectorProduct,
+                                 &matrixProduct, &gaxpy,         &determinant,    &extendedDeterminants,
+                                 &inverse})
         if (family->serves(cell))
             return family;
     return nullptr;

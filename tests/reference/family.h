@@ -26,6 +26,7 @@ enum class Content {
     Solving,          // factors and right-hand sides
     Sums,             // numbers whose sum depends on its order
     PositiveDefinite, // symmetric matrices, positive definite ones and others
+    Inverting,        // as Pivoting, with thresholds, bands and searches of Det and Invert
     Reflecting,       // matrices to reflect: columns at the threshold, zero columns, both signs
 };
 
@@ -78,6 +79,10 @@ struct Family {
     // Is it the sum of entry and shift that is tested?
     bool addsShiftBeforeNullTest = false;
     Shapes shapes = Shapes::Any;
+    // Are pointers followed untested? Then none is null.
+    bool testsNoPointer = false;
+    // Is the order open in which the elements of an object are written? Then no two are the same memory.
+    bool writesInAnyOrder = false;
 };
 
 // The family that serves a cell, or null.

@@ -1,0 +1,24 @@
+// Determinants of arrays of matrices of order 4 in extended precision.
+#include "solvers/asm/extended.h"
+
+using namespace zelm::solvers;
+
+void a6_Det_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float *dst,
+                       uint32_t count) {
+    determinantsOfArray(src, srcObjStride, srcRowStride, dst, count, ByMinors<4>{});
+}
+
+void a6_Det_ma_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double *dst,
+                       uint32_t count) {
+    determinantsOfArray(src, srcObjStride, srcRowStride, dst, count, ByMinors<4>{});
+}
+
+int32_t a6_Det_ma_32f_4x4_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride, float *dst,
+                            uint32_t count) {
+    return determinantsOfList(srcTable, srcShift, srcRowStride, dst, count, ByMinors<4>{});
+}
+
+int32_t a6_Det_ma_64f_4x4_L(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
+                            double *dst, uint32_t count) {
+    return determinantsOfList(srcTable, srcShift, srcRowStride, dst, count, ByMinors<4>{});
+}

@@ -1,0 +1,139 @@
+// Determinants: by elimination in a scratch (run-time size), by an extended-precision kernel (fixed size, the
+// standard and L forms), or by the closed expansion in the element type (the other fixed forms).
+#pragma once
+
+#include "solvers/determinant_kernels.h"
+#include "solvers/elimination.h"
+#include "solvers/object_groups.h"
+
+namespace zelm::solvers {
+
+// ---- run-time size
+
+template <typename T, typename S>
+ZELM_INLINE void copyToWorkSpace(const S &s, const WorkSpace<T> &space) {
+    for (std::uint32_t i = 0; i < space.n; ++i)
+        for (std::uint32_t j = 0; j < space.n; ++j)
+            copyElement<T>(space.element(i, j), s.address(i, j, space.n));
+}
+
+// The result is set to one before the matrix is read: dst is the running product.
+template <typename T, typename S>
+ZELM_INLINE ZelmStatus determinantByElimination(const S &s, void *scratch, T *dst, std::uint32_t n) {
+    const WorkSpace<T> space(scratch, n);
+    store(addressOf(dst), T{1});
+    for (std::uint32_t i = 0; i < n; ++i) {
+        for (std::uint32_t j = 0; j < n; ++j) {
+            if constexpr (S::isTable)
+                if (s.elementIsNull(Address{i} * n + j))
+                    return ZELM_ERR_NULL_PTR;
+            copyElement<T>(space.element(i, j), s.address(i, j, n));
+        }
+    }
+    Elimination<T> result;
+    eliminate<T, MultiplierIn::Double>(space, n, result);
+    store(addressOf(dst), result.pivotFailed ? T{0} : result.value);
+    return ZELM_OK;
+}
+
+// In an array a failed pivot leaves a zero of the sign that the last element gives it, or NaN.
+template <typename T, typename S>
+__attribute__((noinline)) ZelmStatus determinantsByElimination(const S &s, void *scratch, T *dst,
+                                                               std::uint32_t n, std::uint32_t count) {
+    const WorkSpace<T> space(scratch, n);
+    const auto one = [&](std::uint32_t k) {
+        const Address result = addressOf(dst) + Address{k} * sizeof(T);
+        store(result, T{1});
+        copyToWorkSpace(s.object(k), space);
+        Elimination<T> elimination;
+        eliminate<T, MultiplierIn::Double>(space, n, elimination);
+        store(result, elimination.value);
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, s);
+}
+
+// ---- the closed expansion in the element type
+
+template <unsigned N, typename T, typename S>
+ZELM_INLINE T determinantInElementType(const S &s) {
+    Pack<T> a[N][N];
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            a[i][j] = Pack<T>{s.get(i, j, N)};
+    return determinants<T, N>(a)[0];
+}
+
+template <unsigned N, typename T, typename S>
+ZELM_INLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
+    const DenseArray<T> results(dst, std::int32_t{sizeof(T)}, 0);
+    const auto one = [&](std::uint32_t k) {
+        results.object(k).set(0, determinantInElementType<N, T>(s.object(k)));
+        return ZELM_OK;
+    };
+    const auto group = [&](std::uint32_t k) {
+        const Group<S> objects = groupAt(s, k);
+        Pack<T> a[N][N];
+#pragma GCC unroll 6
+        for (unsigned i = 0; i < N; ++i)
+            loadRow<N>(objects, i, a[i]);
+        storePack(results.object(k).start, determinants<T, N>(a));
+        return true;
+    };
+    return forEachMatrix<N, 1>(count, group, one, s, results);
+}
+
+// ---- the exported rows
+
+// `kernel` is the extended-precision kernel that serves the member, if one does; a fixed size has no scratch.
+template <typename S, typename T, typename Size, typename Kernel>
+ZELM_INLINE ZelmStatus determinantSingle(const S &s, void *scratch, T *dst, Size size, Kernel kernel) {
+    if constexpr (Size::fixed == 0) {
+        if (ZelmStatus status = checkSingle(size.isZero(), s, Pointer(dst), Pointer(scratch));
+            status != kProceed)
+            return status;
+        return determinantByElimination(s, scratch, dst, size.value());
+    } else {
+        constexpr unsigned N = Size::fixed;
+        if (ZelmStatus status = checkSingleWhole(false, tested(s, N * N), tested(Pointer(dst), 0));
+            status != kProceed)
+            return status;
+        if constexpr (S::isDense)
+            kernel(reinterpret_cast<const T *>(s.start), static_cast<std::int32_t>(s.rowStride), dst);
+        else
+            store(addressOf(dst), determinantInElementType<N, T>(s));
+        return ZELM_OK;
+    }
+}
+
+template <typename S, typename T, typename Size, typename Kernel>
+ZELM_INLINE ZelmStatus determinantArray(const S &s, void *scratch, T *dst, Size size, std::uint32_t count,
+                                        Kernel kernel) {
+    const Address n = size.value();
+    if constexpr (Size::fixed == 0) {
+        if (ZelmStatus status = checkArray(size.isZero(), count, tested(s, n * n), tested(Pointer(dst), 0),
+                                           tested(Pointer(scratch), 0));
+            status != kProceed)
+            return status;
+        return determinantsByElimination(s, scratch, dst, size.value(), count);
+    } else {
+        if (ZelmStatus status = checkArray(false, count, tested(s, n * n), tested(Pointer(dst), 0));
+            status != kProceed)
+            return status;
+        if constexpr (decltype(s.object(0))::isDense && S::isList) {
+            const std::int32_t result = kernel(s.table, static_cast<std::int32_t>(s.shift),
+                                               static_cast<std::int32_t>(s.rowStride), dst, count);
+            return result == 0 ? ZELM_OK : ZELM_ERR_NULL_PTR;
+        } else if constexpr (decltype(s.object(0))::isDense) {
+            kernel(reinterpret_cast<const T *>(s.start), static_cast<std::int32_t>(s.objStride),
+                   static_cast<std::int32_t>(s.rowStride), dst, count);
+            return ZELM_OK;
+        } else {
+            return determinantsInElementType<Size::fixed>(s, dst, count);
+        }
+    }
+}
+
+} // namespace zelm::solvers

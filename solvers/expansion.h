@@ -1,0 +1,67 @@
+// The determinant by minors along the rows, from the top down, of elements, packs or extended numbers.
+#pragma once
+
+#include "frame/memory.h"
+
+namespace zelm::solvers {
+
+using namespace zelm::frame;
+
+// What is done to a minor before it is used again: nothing, unless a family says otherwise.
+struct MinorsAsTheyAre {
+    template <typename V>
+    ZELM_INLINE V operator()(unsigned, unsigned, V minor) const {
+        return minor;
+    }
+};
+
+// a(i, j) is the element, keep(order, number, minor) the minor as it goes into the next order; minors of one
+// order are numbered in the lexicographic order of their columns. Each minor is formed once. Sums run from
+// the left: ((x0 - x1) + x2) - x3 ...
+template <unsigned N, typename V, typename Elements, typename Keep>
+ZELM_INLINE V expandByMinors(const Elements &a, Keep keep) {
+    // Indexed by the set of columns, column 0 being the highest bit: lexicographic order is descending.
+    constexpr unsigned all = 1u << N;
+    V minors[all];
+    const auto bit = [](unsigned column) __attribute__((always_inline)) {
+        return 1u << (N - 1 - column);
+    };
+    unsigned number = 0;
+#pragma GCC unroll 6
+    for (unsigned c = 0; c < N; ++c)
+#pragma GCC unroll 6
+        for (unsigned d = c + 1; d < N; ++d)
+            minors[bit(c) | bit(d)] =
+                keep(2, number++, a(N - 2, c) * a(N - 1, d) - a(N - 1, c) * a(N - 2, d));
+#pragma GCC unroll 4
+    for (unsigned order = 3; order <= N; ++order) {
+        number = 0;
+#pragma GCC unroll 64
+        for (unsigned columns = all - 1; columns != 0; --columns) {
+            if (static_cast<unsigned>(__builtin_popcount(columns)) != order)
+                continue;
+            V sum{};
+            unsigned term = 0;
+#pragma GCC unroll 6
+            for (unsigned c = 0; c < N; ++c) {
+                if ((columns & bit(c)) == 0)
+                    continue;
+                const V x = a(N - order, c) * minors[columns & ~bit(c)];
+                sum = term == 0 ? x : term % 2 != 0 ? sum - x : sum + x;
+                ++term;
+            }
+            minors[columns] = order == N ? sum : keep(order, number++, sum);
+        }
+    }
+    return minors[all - 1];
+}
+
+// The three terms of a determinant of order 3 along its first row.
+template <typename V, typename Elements>
+ZELM_INLINE void termsOfOrder3(const Elements &a, V (&t)[3]) {
+    t[0] = (a(1, 1) * a(2, 2) - a(2, 1) * a(1, 2)) * a(0, 0);
+    t[1] = (a(1, 2) * a(2, 0) - a(2, 2) * a(1, 0)) * a(0, 1);
+    t[2] = (a(1, 0) * a(2, 1) - a(2, 0) * a(1, 1)) * a(0, 2);
+}
+
+} // namespace zelm::solvers
