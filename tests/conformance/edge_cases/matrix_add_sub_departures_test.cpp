@@ -484,8 +484,8 @@ void expectInvariant(const Member<T> &member, bool readAnew) {
     memory[all - 1] = before;
 
     EXPECT_EQ(member(call), ZELM_OK);
-    EXPECT_EQ(std::vector<T>(memory.begin(), memory.begin() + all), first);
-    EXPECT_EQ(std::vector<T>(memory.end() - all, memory.end()), second);
+    EXPECT_EQ(std::vector<T>(memory.data(), memory.data() + all), first);
+    EXPECT_EQ(std::vector<T>(&memory[2 * all - 1], memory.data() + memory.size()), second);
 }
 
 TEST(MatrixAddSubDepartures, ThirteenMembersReadTheInvariantAnew) {
