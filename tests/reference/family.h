@@ -56,6 +56,8 @@ struct Family {
     std::uint32_t (*columnsReached)(const Call &call) = nullptr;
     // Do the dimensions fit each other? Most cases have such.
     bool (*dimensionsFit)(const Call &call) = nullptr;
+    // Is the order in which an object's elements are written left open? Then no two of dst coincide.
+    bool (*writesInAnyOrder)(const Cell &cell) = nullptr;
     // Do results depend on addresses of 64-bit floats? Their alignment is not the same on all targets.
     bool (*looksAtAddresses)(const Cell &cell) = nullptr;
 };
