@@ -35,6 +35,9 @@ public:
         return operands_.at(operand).start[isByPosition() ? e * count_ + k : k * n_ * n_ + e];
     }
 
+    // Another size than n for a dimension; strides and tables stay those of n.
+    void setDimension(const std::string &name, std::uint32_t size) { dimensions_[name] = size; }
+
     void placeDstAt(const std::string &source) { operands_["dst"].start = operands_.at(source).start; }
 
     ZelmStatus run() {
@@ -59,7 +62,7 @@ public:
                 values[a].word = size_;
                 break;
             case ArgumentKind::Dimension:
-                values[a].size = n_;
+                values[a].size = dimensions_.count(argument.name) ? dimensions_[argument.name] : n_;
                 break;
             case ArgumentKind::Count:
                 values[a].size = count_;
@@ -94,6 +97,7 @@ private:
     const std::uint32_t n_, count_;
     const std::int32_t size_;
     std::map<std::string, Operand> operands_;
+    std::map<std::string, std::uint32_t> dimensions_;
 };
 
 } // namespace zelmtest

@@ -184,6 +184,60 @@ TEST(ProductMembers, NegativeZerosAddUpToThatOfTheFirstTerm) {
     });
 }
 
+struct Sizes {
+    std::uint32_t w1, h1, w2, h2; // of a vector only w2, its length
+};
+
+// Whether the dimensions of stored operands pass, as each descriptor has it.
+bool agree(std::string_view descriptor, const Sizes &s) {
+    if (descriptor == "mm" || descriptor == "mam")
+        return s.w1 == s.h2;
+    if (descriptor == "mmT" || descriptor == "mmaT" || descriptor == "mamT" || descriptor == "mamaT")
+        return s.w1 == s.w2;
+    if (descriptor == "mTm" || descriptor == "mTma" || descriptor == "maTm" || descriptor == "maTma")
+        return s.h1 == s.h2;
+    if (descriptor == "mv" || descriptor == "mva" || descriptor == "mav" || descriptor == "mava")
+        return s.w1 == s.w2;
+    if (descriptor == "mTv" || descriptor == "mTva" || descriptor == "maTv" || descriptor == "maTva")
+        return s.h1 == s.w2;
+    return s.h1 == s.w2; // mTmT, mma, mTmaT, maTmT, mama, maTmaT
+}
+
+template <class T>
+ZelmStatus runWith(const Member &member, const Sizes &s, bool &untouched) {
+    DenseCall<T> call(*member.function, 3, 2);
+    call.setDimension("src1Width", s.w1);
+    call.setDimension("src1Height", s.h1);
+    call.setDimension(member.vector ? "src2Len" : "src2Width", s.w2);
+    call.setDimension("src2Height", s.h2);
+    for (std::uint32_t e = 0; e < 18; ++e)
+        call.element("dst", e / 9, e % 9) = 7;
+    const ZelmStatus status = call.run();
+    untouched = true;
+    for (std::uint32_t e = 0; e < 18; ++e)
+        untouched = untouched && call.element("dst", e / 9, e % 9) == 7;
+    return status;
+}
+
+TEST(ProductMembers, TestTheSizesThatTheirDescriptorNames) {
+    forEachMember(1350, []<class T>(const Member &member, std::uint32_t n) {
+        if (member.gaxpy || member.cell.order != 0 || n != 3)
+            return;
+        constexpr std::uint32_t sizes[] = {0, 2, 3};
+        for (std::uint32_t choice = 0; choice < (member.vector ? 27u : 81u); ++choice) {
+            const Sizes s = {sizes[choice % 3], sizes[choice / 3 % 3], sizes[choice / 9 % 3],
+                             member.vector ? 1 : sizes[choice / 27]};
+            const bool noColumns = s.w2 == 0 && member.cell.descriptor == "mam";
+            const bool passes = s.w1 != 0 && s.h1 != 0 && (s.w2 != 0 || noColumns) && s.h2 != 0 &&
+                                agree(member.cell.descriptor, s);
+            bool untouched;
+            EXPECT_EQ(runWith<T>(member, s, untouched), passes ? ZELM_OK : ZELM_ERR_SIZE)
+                << s.w1 << ' ' << s.h1 << ' ' << s.w2 << ' ' << s.h2;
+            EXPECT_EQ(untouched, !passes || noColumns);
+        }
+    });
+}
+
 bool worksInPlace(const Member &member, const char *source) {
     const Cell &c = member.cell;
     if (c.order == 0 || isSingleByPosition(c))
