@@ -244,6 +244,8 @@ ZELM_INLINE void multiplyAcross(const M &m, std::uint32_t k, const V (&x)[N], co
 #pragma GCC unroll 6
     for (unsigned t = 0; t < N; ++t)
         products[t] = m.get(k, row, t) * x[t];
+    if (adds && !isDense) // the sum begins at +0, which shows where all products are -0
+        products[0] = products[0] + V{};
     const V sum = sumOf<vectorSumOfRow<T, isDense, isTransposed, N>(row)>(products);
     result[row] = adds ? sum + z[row] : sum;
     if constexpr (row + 1 < N)

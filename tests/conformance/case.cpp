@@ -205,8 +205,9 @@ private:
 
         // A destination whose elements coincide within one object: not in every case of a solver.
         const bool isDst = parameter.name == "dst";
-        const bool mayOverlap =
-            !isDst || (!target_.family->writesInAnyOrder && (overlap_ == Overlap::Any || random_.chance(10)));
+        const auto anyOrder = target_.family->writesInAnyOrder;
+        const bool mayOverlap = !isDst || (!(anyOrder && anyOrder(target_.cell)) &&
+                                           (overlap_ == Overlap::Any || random_.chance(10)));
         drawStrides(o, mayOverlap);
         if (extent(o) > roomForOperand)
             packTightly(o);
@@ -727,6 +728,8 @@ private:
 
     void writeElements() {
         writeNumbers(dst(), Style::AnyBits);
+        // One number in each operand: sums of nothing but -0.
+        const bool uniform = target_.family->content == Content::Sums && random_.chance(6);
         for (std::size_t n = 0; n + 1 < case_.operands.size(); ++n) {
             const Placement &o = case_.operands[n];
             switch (target_.family->content) {
@@ -741,10 +744,21 @@ private:
                 break;
             case Content::Solving:
             case Content::Sums:
+                if (uniform) {
+                    writeNumber(o, drawNumber(random_, Style::Signs, size_ == 8));
+                    break;
+                }
                 writeNumbers(o, random_.chance(60) ? Style::Plain : drawStyle());
                 break;
             }
         }
+    }
+
+    void writeNumber(const Placement &o, std::uint64_t bits) {
+        for (std::uint32_t k = 0; k < o.objects; ++k)
+            for (std::uint32_t i = 0; i < o.rows; ++i)
+                for (std::uint32_t j = 0; j < o.columns; ++j)
+                    writeElement(o, k, i, j, bits);
     }
 
     void writeNumbers(const Placement &o, Style style) {

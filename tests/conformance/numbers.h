@@ -16,9 +16,10 @@ enum class Style {
     AnyBits,   // every bit pattern is as likely
     Wide,      // magnitudes so far apart that quotients underflow and overflow
     Threshold, // about 2^-23: at, below and above it
+    Signs,     // zeros and ones of both signs
 };
 
-constexpr std::uint32_t styleCount = 7;
+constexpr std::uint32_t styleCount = 8;
 
 // One number of 32 or 64 bits.
 std::uint64_t drawNumber(Random &random, Style style, bool wide64);

@@ -66,6 +66,8 @@ struct Family {
     std::uint32_t (*columnsReached)(const Call &call) = nullptr;
     // Do the dimensions fit each other? Most cases have such.
     bool (*dimensionsFit)(const Call &call) = nullptr;
+    // Is the order in which an object's elements are written left open? Then no two of dst coincide.
+    bool (*writesInAnyOrder)(const Cell &cell) = nullptr;
     // Do results depend on addresses of 64-bit floats? Their alignment is not the same on all targets.
     bool (*looksAtAddresses)(const Cell &cell) = nullptr;
     // The bytes of scratch that a call may use. What they hold after it is open.
@@ -81,8 +83,6 @@ struct Family {
     Shapes shapes = Shapes::Any;
     // Are pointers followed untested? Then none is null.
     bool testsNoPointer = false;
-    // Is the order open in which the elements of an object are written? Then no two are the same memory.
-    bool writesInAnyOrder = false;
 };
 
 // The family that serves a cell, or null.

@@ -119,7 +119,7 @@ const Family inverse = {.serves = serves,
                         .run = run,
                         .overlap = Overlap::Apart,
                         .content = Content::Inverting,
-                        .scratchBytes = scratchBytes,
-                        .writesInAnyOrder = true};
+                        .writesInAnyOrder = [](const Cell &) { return true; },
+                        .scratchBytes = scratchBytes};
 
 } // namespace zelmref

@@ -254,14 +254,22 @@ bool followsNull(const Call &call, std::size_t entry) {
     return untested("src1") || untested("dst");
 }
 
-bool looksAtAddresses(const Cell &cell) {
-    return departs::mayStayAtFirstObject(cell);
+bool writesInAnyOrder(const Cell &cell) {
+    return !accumulatesInDst(cell);
 }
 
 } // namespace
 
-const Family matrixProduct = {serves,      signature,   run,           Overlap::Apart,  Content::Sums,
-                              overlapWith, followsNull, nullptr,       entriesReached,  nullptr,
-                              nullptr,     nullptr,     dimensionsFit, looksAtAddresses};
+const Family matrixProduct = {.serves = serves,
+                              .signature = signature,
+                              .run = run,
+                              .overlap = Overlap::Apart,
+                              .content = Content::Sums,
+                              .overlapWith = overlapWith,
+                              .followsNull = followsNull,
+                              .entriesReached = entriesReached,
+                              .dimensionsFit = dimensionsFit,
+                              .writesInAnyOrder = writesInAnyOrder,
+                              .looksAtAddresses = departs::mayStayAtFirstObject};
 
 } // namespace zelmref

@@ -179,8 +179,14 @@ bool followsNull(const Call &call, std::size_t entry) {
 
 } // namespace
 
-const Family matrixVectorProduct = {serves,      signature,   run,          Overlap::Apart, Content::Sums,
-                                    overlapWith, followsNull, nullptr,      entriesReached, nullptr,
-                                    nullptr,     nullptr,     dimensionsFit};
+const Family matrixVectorProduct = {.serves = serves,
+                                    .signature = signature,
+                                    .run = run,
+                                    .overlap = Overlap::Apart,
+                                    .content = Content::Sums,
+                                    .overlapWith = overlapWith,
+                                    .followsNull = followsNull,
+                                    .entriesReached = entriesReached,
+                                    .dimensionsFit = dimensionsFit};
 
 } // namespace zelmref
