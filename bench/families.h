@@ -5,6 +5,7 @@ namespace zelmbench {
 
 void addVectorSumRows();
 void addElementwiseRows();
+void addVectorAlgebraRows();
 void addLuRows();
 
 } // namespace zelmbench
