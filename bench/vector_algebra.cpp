@@ -294,7 +294,7 @@ void addRows() {
 
 template <class Row, class T>
 void addLengthRows(const std::string &row) {
-    for (const std::size_t len : {8, 64, 1024, 1000000}) {
+    for (const std::size_t len : {8u, 64u, 1024u, 1000000u}) {
         const std::string name = row + typeName<T>;
         addRow(name + "/length" + std::to_string(len), [=] { return compareLength<Row, T>(name, len); });
     }

@@ -24,7 +24,7 @@ Layers someSlopes(std::size_t cells) {
 
 TEST(Normals, GiveTheCosinesOfTheFormula) {
     const Vector3 light = {-0.48f, 0.6f, 0.64f};
-    for (const std::size_t cells : {1, 3, 4, 7, 403}) {
+    for (const std::size_t cells : {1u, 3u, 4u, 7u, 403u}) {
         const std::size_t before = 5;
         const Layers layers = someSlopes(before + cells);
         for (const float exaggeration : {1.0f, 2.0f, 0.3f}) {
