@@ -259,7 +259,7 @@ Comparison compareLength(const std::string &name, std::size_t len) {
     const auto pointers = [v, second, dst, len](std::size_t, std::size_t) {
         return std::tuple_cat(v->constObject(0), second->constObject(0), dst->object(0), countArgument(len));
     };
-    const auto arguments = [v, dst, len, pointers](std::size_t turn, std::size_t k) {
+    const auto arguments = [=](std::size_t turn, std::size_t k) {
         if constexpr (Row::hasSecond) {
             return pointers(turn, k);
         } else {
