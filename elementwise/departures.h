@@ -66,8 +66,10 @@ ZELM_INLINE ZelmStatus pipelined(const DenseList<const float> &a, const B &b, co
                                  FixedShape<3, 3>, std::uint32_t count) {
     if (a.isNull() || b.isNull() || d.isNull())
         return ZELM_ERR_NULL_PTR;
+    if (a.entryIsNull(0))
+        return ZELM_ERR_NULL_PTR;
     const Address last = load<Address>(addressOf(d.table) + (Address{count} - 1) * sizeof(Address));
-    if (a.entryIsNull(0) || last == 0)
+    if (last == 0)
         return ZELM_ERR_NULL_PTR;
     const auto held = hold<FixedShape<3, 3>>(b);
     NineFloats read = readObject(a.object(0));

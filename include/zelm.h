@@ -33,6 +33,7 @@
 
 #include "zelm/elementwise.h" /* IWYU pragma: export */
 #include "zelm/movement.h"    /* IWYU pragma: export */
+#include "zelm/products.h"    /* IWYU pragma: export */
 #include "zelm/solvers.h"     /* IWYU pragma: export */
 #include "zelm/vector.h"      /* IWYU pragma: export */
 

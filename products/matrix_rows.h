@@ -104,8 +104,8 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Den
             pair = t == 0 ? product : pair + product;
         }
         storeRowOf(upper, d, i);
-        storeRowOf(lower, d, i + 1);
         _mm_storel_pi(reinterpret_cast<__m64 *>(d.rowStart(i) + 16), pair);
+        storeRowOf(lower, d, i + 1);
         _mm_storeh_pi(reinterpret_cast<__m64 *>(d.rowStart(i + 1) + 16), pair);
     }
 }

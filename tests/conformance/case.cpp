@@ -79,14 +79,33 @@ private:
     Passed &passed(const Placement &operand) { return case_.call.passed[operand.parameter]; }
 
     void drawSizes() {
+        const auto fit = target_.family->dimensionsFit;
+        const bool fitting = fit && random_.chance(90), square = fit && random_.chance(25);
+        do
+            drawDimensions(square);
+        while (fitting && !fit(case_.call));
+        drawCount();
+    }
+
+    void drawDimensions(bool square) {
+        std::uint32_t side = 0;
         for (std::size_t p = 0; p < target_.signature.size(); ++p) {
             const Parameter &parameter = target_.signature[p];
             std::uint32_t &size = case_.call.passed[p].size;
-            if (parameter.kind == Kind::Dimension) {
-                const std::uint32_t vectorLength =
-                    random_.chance(85) ? 1 + random_.below(20) : 21 + random_.below(50);
-                size = parameter.name == "len" ? vectorLength : 1 + random_.below(8);
-            } else if (parameter.kind == Kind::Count) {
+            if (parameter.kind != Kind::Dimension)
+                continue;
+            const std::uint32_t vectorLength =
+                random_.chance(85) ? 1 + random_.below(20) : 21 + random_.below(50);
+            size = parameter.name == "len" ? vectorLength : 1 + random_.below(8);
+            if (square)
+                size = side = side ? side : size;
+        }
+    }
+
+    void drawCount() {
+        for (std::size_t p = 0; p < target_.signature.size(); ++p) {
+            std::uint32_t &size = case_.call.passed[p].size;
+            if (target_.signature[p].kind == Kind::Count) {
                 // all of 0 to 9 and 16 to 70 in turn, the small ones more often
                 const auto turn = static_cast<std::uint32_t>(case_.number % 85);
                 size = turn < 30 ? turn % 10 : turn - 14;
@@ -116,6 +135,13 @@ private:
         // Steps of half an element only where no elements coincide: none must cover half of another, and the
         // two targets' cases must mean the same although their strides differ.
         halfSteps_ = random_.chance(25) && relation_ == Relation::Apart && size_ == 8;
+        sixteens_ = random_.chance(12) && !halfSteps_;
+    }
+
+    // The distance of rows and objects, in some cases a multiple of 16 like all others.
+    std::int64_t drawDistance(std::int64_t packed, bool mayOverlap) {
+        const std::int64_t stride = drawStride(packed, mayOverlap);
+        return sixteens_ ? (stride + (stride < 0 ? -15 : 15)) / 16 * 16 : stride;
     }
 
     std::int64_t drawStride(std::int64_t packed, bool mayOverlap) {
@@ -154,6 +180,11 @@ private:
         if (const auto reached = target_.family->columnsReached)
             o.columns = reached(case_.call);
         o.slab = case_.operands.size();
+        if (const auto reached = target_.family->entriesReached; reached && o.table && !o.perObject) {
+            const auto entries = static_cast<std::uint32_t>(reached(case_.call, parameter));
+            o.columns = std::max(o.rows * o.columns, entries);
+            o.rows = 1;
+        }
 
         // A destination whose elements coincide within one object: not in every case of a solver.
         const bool isDst = parameter.name == "dst";
@@ -170,7 +201,7 @@ private:
         const std::uint32_t special = random_.below(100);
 
         o.elem = strided ? drawStride(size_, mayOverlap) : size_;
-        o.row = drawStride(std::max<std::int64_t>(size_, std::abs(o.elem) * o.columns), mayOverlap);
+        o.row = drawDistance(std::max<std::int64_t>(size_, std::abs(o.elem) * o.columns), mayOverlap);
         if (strided && special < 8) { // columns first
             o.elem = size_ * o.rows;
             o.row = size_;
@@ -178,7 +209,7 @@ private:
         if (o.rows == 1)
             o.row = 0;
         const std::int64_t object = objectBytes(o);
-        o.obj = drawStride(perPosition ? size_ : object, true);
+        o.obj = perPosition ? drawStride(size_, true) : drawDistance(object, true);
         if (strided && o.rows == 1 && special >= 92 &&
             o.objects > 0) { // the same element of all objects together
             o.elem = size_ * o.objects;
@@ -302,7 +333,7 @@ private:
         case Relation::Apart:
             break;
         case Relation::Same:
-            if (overlap == Overlap::Apart)
+            if (!mayBeSame(case_.operands[chosen]))
                 break;
             if (fitsShape(case_.operands[chosen], dst()))
                 lieLike(dst(), case_.operands[chosen]);
@@ -327,8 +358,8 @@ private:
             const bool also = random_.chance(30);
             if (sources >= 2 && fitsShape(case_.operands[0], case_.operands[1])) {
                 lieLike(case_.operands[1], case_.operands[0]);
-                if (also && fitsShape(case_.operands[0], dst()) &&
-                    overlapWith(case_.operands[0]) != Overlap::Apart)
+                if (also && fitsShape(case_.operands[0], dst()) && mayBeSame(case_.operands[0]) &&
+                    mayBeSame(case_.operands[1]))
                     lieLike(dst(), case_.operands[0]);
             }
             break;
@@ -343,6 +374,25 @@ private:
         const zelmref::Family &family = *target_.family;
         return family.overlapWith ? family.overlapWith(target_.cell, target_.signature[source.parameter])
                                   : family.overlap;
+    }
+
+    bool mayBeSame(const Placement &source) const {
+        const Overlap overlap = overlapWith(source);
+        return overlap == Overlap::Any || overlap == Overlap::InPlace ||
+               (overlap == Overlap::InPlaceDistinct && !elementsCoincide(source));
+    }
+
+    // Do two elements of one object share a byte?
+    bool elementsCoincide(const Placement &o) const {
+        std::vector<std::int64_t> offsets;
+        for (std::uint32_t i = 0; o.objects > 0 && i < o.rows; ++i)
+            for (std::uint32_t j = 0; j < o.columns; ++j)
+                offsets.push_back(o.offset(0, i, j));
+        std::sort(offsets.begin(), offsets.end());
+        for (std::size_t e = 1; e < offsets.size(); ++e)
+            if (offsets[e] - offsets[e - 1] < size_)
+                return true;
+        return false;
     }
 
     static void lieLike(Placement &o, const Placement &model) {
@@ -369,7 +419,8 @@ private:
         Placement &o = dst();
         const std::uint32_t move = 1 + random_.below(3);
         const bool back = random_.chance(50);
-        if (!o.array || o.objects < 2 || (o.table && !o.perObject))
+        if (!o.array || o.objects < 2 || (o.table && !o.perObject) || !fitsShape(source, o) ||
+            (o.perObject && move % o.objects == 0))
             return;
         packTightly(source);
         lieLike(o, source);
@@ -471,6 +522,8 @@ private:
             at = 0;
         else
             at = 1024 + alignmentStep / alignment * alignment;
+        if (sixteens_)
+            at = at / 16 * 16;
         const std::int64_t begin = std::max<std::int64_t>(0, at - margin) / 8 * 8;
         const std::int64_t stop = std::min(end, (at + bytes + margin + 7) / 8 * 8);
         case_.windows.push_back({slab, static_cast<std::size_t>(begin), static_cast<std::size_t>(stop)});
@@ -483,8 +536,6 @@ private:
     }
 
     void passOperands() {
-        for (Placement &o : case_.operands)
-            o.behind = entriesBehind(o);
         const bool oneTable = random_.chance(50);
         const auto common = static_cast<std::int32_t>(8 * random_.between(-64, 64));
         for (std::size_t n = 0; n < case_.operands.size(); ++n) {
@@ -519,7 +570,7 @@ private:
                     p.shift = passed(first).shift;
                 continue;
             }
-            const auto bytes = static_cast<std::int64_t>((o.entries.size() + o.behind) * sizeof(void *));
+            const auto bytes = static_cast<std::int64_t>(o.entries.size() * sizeof(void *));
             const std::size_t slab = firstTableSlab + n;
             p.base = reinterpret_cast<std::uintptr_t>(arena_.slab(slab)) +
                      static_cast<std::uintptr_t>(place(slab, bytes, sizeof(void *)));
@@ -539,14 +590,6 @@ private:
             p.rowStride = rowStride;
     }
 
-    std::size_t entriesBehind(const Placement &o) const {
-        const auto reached = target_.family->entriesReached;
-        if (!reached || !o.table)
-            return 0;
-        const std::size_t entries = reached(case_.call, target_.signature[o.parameter]);
-        return entries > o.entries.size() ? entries - o.entries.size() : 0;
-    }
-
     std::size_t firstTable() const {
         std::size_t n = 0;
         while (!case_.operands[n].table)
@@ -557,7 +600,7 @@ private:
     // May this operand use the table of the first operand that has one?
     bool sharesTable(const Placement &o) const {
         const Placement &first = case_.operands[firstTable()];
-        if (&first == &o || o.slab != first.slab || o.entries != first.entries || o.behind != first.behind)
+        if (&first == &o || o.slab != first.slab || o.entries != first.entries)
             return false;
         return o.origin == first.origin || (relation_ == Relation::Interleaved && o.perObject);
     }
@@ -568,13 +611,13 @@ private:
                 continue;
             Passed &p = passed(o);
             const bool intoGuard = target_.family->neverReads && !o.perObject && random_.chance(50);
-            for (std::size_t e = 0; e < o.entries.size() + o.behind; ++e) {
+            for (std::size_t e = 0; e < o.entries.size(); ++e) {
                 const auto i = static_cast<std::uint32_t>(e / o.columns),
                            j = static_cast<std::uint32_t>(e % o.columns);
                 const bool astray = intoGuard && target_.family->neverReads(case_.call, i, j);
                 const std::uintptr_t place =
                     astray ? reinterpret_cast<std::uintptr_t>(arena_.slab(o.slab)) + Arena::slabSize + 64
-                           : address(o, o.entries[e % o.entries.size()]);
+                           : address(o, o.entries[e]);
                 const auto shift = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(p.shift));
                 zelmref::writeWord(p.base + e * sizeof(void *), place - shift);
             }
@@ -702,9 +745,8 @@ private:
         if (entries)
             for (const Placement &o : case_.operands) {
                 const bool here = random_.chance(50);
-                const std::uint32_t entry =
-                    random_.below(static_cast<std::uint32_t>(o.entries.size() + o.behind + 1));
-                if (here && entry < o.entries.size() + o.behind && !followsNull(entry))
+                const std::uint32_t entry = random_.below(static_cast<std::uint32_t>(o.entries.size() + 1));
+                if (here && entry < o.entries.size() && !followsNull(entry))
                     zelmref::writeWord(passed(o).base + entry * sizeof(void *), std::uintptr_t{0});
             }
         if (!arguments)
@@ -728,7 +770,7 @@ private:
     std::int64_t size_;
     Overlap overlap_;
     Relation relation_ = Relation::Apart;
-    bool halfSteps_ = false;
+    bool halfSteps_ = false, sixteens_ = false;
 };
 
 } // namespace

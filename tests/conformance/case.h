@@ -16,11 +16,10 @@ struct Placement {
     std::size_t parameter = 0;
     bool array = false, table = false;
     zelmref::Layout layout = zelmref::Layout::Standard;
-    bool packed = false; // without gaps, whatever the layout
-    std::uint32_t objects = 0, rows = 1, columns = 1;
+    bool packed = false;                              // without gaps, whatever the layout
+    std::uint32_t objects = 0, rows = 1, columns = 1; // one row if a table's entries are more than positions
     std::int64_t elem = 0, row = 0, obj = 0;
     std::vector<std::int64_t> entries; // tables: where each entry points to, without the shift
-    std::size_t behind = 0;            // tables: entries behind these, which lead to the same elements
     bool perObject = false;            // tables: one entry per object, else one per position
     std::int64_t low = 0, high = 0;    // the bytes of its elements, from the origin
     std::size_t slab = 0;

@@ -152,6 +152,9 @@ std::uint64_t Runner::takeDigest() {
 }
 
 void Runner::digest(ZelmStatus status) {
+    const auto looksAtAddresses = case_.target->family->looksAtAddresses;
+    if (looksAtAddresses && looksAtAddresses(case_.target->cell))
+        return;
     const auto add = [&](std::uint64_t word) {
         digest_ = (digest_ ^ word) * 0x9e3779b97f4a7c15u;
         digest_ ^= digest_ >> 32;

@@ -29,7 +29,8 @@ public:
     const Case &last() const { return case_; }
 
     // A hash of what all calls since the last take returned and wrote: statuses, elements of dst, pivotIndex.
-    // It does not depend on addresses, and every NaN counts as the same number.
+    // It does not depend on addresses (results that do are left out), and every NaN counts as the same
+    // number.
     std::uint64_t takeDigest();
 
 private:

@@ -18,11 +18,15 @@ extern const Family crossProduct;
 extern const Family l2Norm;
 extern const Family frobeniusNorm;
 extern const Family trace;
+extern const Family matrixVectorProduct;
+extern const Family matrixProduct;
+extern const Family gaxpy;
 
 const Family *familyOf(const Cell &cell) {
     for (const Family *family :
          {&vectorAddSub, &matrixAddSub, &scaling, &saxpyLcomb, &transpose, &copy, &extract, &loadIdentity,
-          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace})
+          &luDecomp, &luBackSubst, &dotProduct, &crossProduct, &l2Norm, &frobeniusNorm, &trace,
+          &matrixVectorProduct, &matrixProduct, &gaxpy})
         if (family->serves(cell))
             return family;
     return nullptr;

@@ -12,9 +12,11 @@ namespace zelmref {
 
 // Which overlaps of dst with a source have a defined result.
 enum class Overlap {
-    Any,     // the traversal defines all of them
-    InPlace, // only dst and source object by object the same, or apart
-    Apart,   // none
+    Any,             // the traversal defines all of them
+    InPlace,         // only dst and source object by object the same, or apart
+    InPlaceDistinct, // likewise, and no two elements of an object may be the same
+    OtherObjects,    // only dst's object another one of the source's
+    Apart,           // none
 };
 
 // What sort of numbers brings a family's branches to light.
@@ -42,7 +44,8 @@ struct Family {
     bool (*followsNull)(const Call &call, std::size_t entry) = nullptr;
     // Is an element of the source never read? Then a table's entry for it may lead anywhere.
     bool (*neverReads)(const Call &call, std::uint32_t i, std::uint32_t j) = nullptr;
-    // The number of table entries that a call may use, where an index reaches behind the operand's positions.
+    // The number of table entries that a call may use or test, where that is more than the operand's
+    // positions.
     std::size_t (*entriesReached)(const Call &call, const Parameter &parameter) = nullptr;
     // Is there an object even where `count` is 0?
     bool (*countsZeroAsOne)(const Cell &cell) = nullptr;
@@ -51,6 +54,10 @@ struct Family {
     // The number of columns of dst that a call writes, where that is more than its width; its strides are
     // then at least those of a packed matrix.
     std::uint32_t (*columnsReached)(const Call &call) = nullptr;
+    // Do the dimensions fit each other? Most cases have such.
+    bool (*dimensionsFit)(const Call &call) = nullptr;
+    // Do results depend on addresses of 64-bit floats? Their alignment is not the same on all targets.
+    bool (*looksAtAddresses)(const Cell &cell) = nullptr;
 };
 
 // The family that serves a cell, or null.

@@ -2,6 +2,7 @@
 #include "checks.h"
 #include "family.h"
 #include "matrix_add_sub_departures.h"
+#include "uses.h"
 
 namespace zelmref {
 
@@ -12,24 +13,6 @@ namespace {
 bool serves(const Cell &cell) {
     return (cell.operation == "Add" || cell.operation == "Sub") && cell.descriptor[0] == 'm';
 }
-
-struct Use {
-    bool array, transposed;
-};
-
-// "maTm": an array used transposed, and a matrix.
-struct Uses {
-    explicit Uses(std::string_view descriptor) {
-        std::size_t second = descriptor.find('m', 1);
-        const auto use = [](std::string_view letters) {
-            return Use{letters.find('a') != std::string_view::npos,
-                       letters.find('T') != std::string_view::npos};
-        };
-        first = use(descriptor.substr(0, second));
-        this->second = use(descriptor.substr(second));
-    }
-    Use first, second;
-};
 
 Parameter operand(const char *name, Use use) {
     return use.transposed ? matrix(name, use.array, "width", "height")
