@@ -38,7 +38,7 @@ ZELM_INLINE __m128 like(__m128, float constant) {
     return broadcast(constant);
 }
 
-// s * (r * (0.5 * (3 - s * (r * r)))) with r near 1 / sqrt(s), bracketed as lengths of vectors have it ...
+// s * (r * (0.5 * (3 - s * (r * r)))) with r near 1 / sqrt(s), in this bracketing.
 template <typename V>
 ZELM_INLINE V rootByRefinedReciprocal(V s) {
     const V r = approximateReciprocalRoot(s);

@@ -1,9 +1,10 @@
 #include "lu_solver.h"
 
+#include "library_status.h"
+
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
-#include <string>
 #include <zelm.h>
 
 namespace terrain {
@@ -65,12 +66,6 @@ std::size_t lastReached(const std::vector<std::uint32_t> &pivotIndex, std::size_
         throw std::logic_error("the decomposition failed and set no row numbers");
     }
     return low - 1;
-}
-
-void requireOk(ZelmStatus status, const char *function) {
-    if (status != ZELM_OK) {
-        throw std::logic_error(std::string(function) + " returned status " + std::to_string(status));
-    }
 }
 
 } // namespace

@@ -18,14 +18,14 @@ constexpr std::array<Colour, 6> heightTints = {rgb(0x7fa382), rgb(0xa9bf8f), rgb
                                                rgb(0xd0b188), rgb(0xb99378), rgb(0xe9e2da)};
 
 // Halfway up the sky in the north-west, where readers of maps expect the light to come from.
-constexpr std::array<double, 3> sun = {-0.5, 0.5, std::numbers::sqrt2 / 2};
+constexpr Vector3 sun = {-0.5f, 0.5f, std::numbers::sqrt2_v<float> / 2};
+constexpr Vector3 zenith = {0, 0, 1};
 
-double brightness(const Vector3 &normal) {
-    const double light = normal[0] * sun[0] + normal[1] * sun[1] + static_cast<double>(normal[2]) * sun[2];
-    // The sky lights what the sun doesn't reach, and level ground keeps about its own colour.
+// The sky lights what the sun doesn't reach, and level ground keeps about its own colour.
+double brightness(double towardsSun, double towardsZenith) {
     constexpr double sky = 0.2;
     constexpr double direct = 1.05;
-    return sky * normal[2] + direct * std::max(light, 0.0);
+    return sky * towardsZenith + direct * std::max(towardsSun, 0.0);
 }
 
 struct Range {
@@ -50,12 +50,15 @@ Image shadedRelief(const Grid &grid, const Layers &layers, double exaggeration) 
     const Range range = heightRange(grid);
     const double span = range.high > range.low ? range.high - range.low : 1;
     Image image(grid.columns, grid.rows);
-    std::vector<Vector3> normals;
+    Normals normals(grid.columns);
+    std::vector<float> towardsSun, towardsZenith;
     for (std::size_t row = 0; row < grid.rows; ++row) {
         const std::size_t first = row * grid.columns;
-        surfaceNormals(layers, first, grid.columns, static_cast<float>(exaggeration), normals);
+        normals.setFrom(layers, first, static_cast<float>(exaggeration));
+        normals.cosinesTo(sun, towardsSun);
+        normals.cosinesTo(zenith, towardsZenith);
         for (std::size_t column = 0; column < grid.columns; ++column) {
-            const double light = brightness(normals[column]);
+            const double light = brightness(towardsSun[column], towardsZenith[column]);
             if (!std::isfinite(light)) {
                 image.set(first + column, blankColour);
                 continue;

@@ -12,7 +12,7 @@ namespace {
 
 using edge::Numbers;
 
-// q * (r * (0.5 * (3 - q*(r*r)))): not bracketed as L2Norm's.
+// q * (r * (0.5 * (3 - q*(r*r)))), with the processor's own approximation r.
 float refined(float q) {
     const float r = _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(q)));
     return q * (r * (0.5f * (3.0f - q * (r * r))));

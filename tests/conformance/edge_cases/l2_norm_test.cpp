@@ -7,6 +7,8 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
+#include <functional>
 #include <xmmintrin.h>
 
 namespace {
@@ -80,13 +82,84 @@ TEST(L2Norm, ThePositionInTheArrayDoesNotMatter) {
         EXPECT_EQ(result, dst[0]);
 }
 
-// Sums of long vectors, told apart from the plain one by the address.
+// Several times one vector whose length in the given order is different from that in all others.
 template <class T>
-T sumOfLong(const T *x, std::size_t length) {
-    const std::size_t rest = reinterpret_cast<std::uintptr_t>(x) % 16;
+void expectOrder(std::string_view formula, std::size_t size, T (*root)(T),
+                 const std::function<ZelmStatus(const edge::Copies<T> &, T *)> &norm) {
+    const std::vector<edge::Order<T>> orders = edge::ordersOf<T>(size);
+    Numbers numbers;
+    for (int attempt = 0; attempt < edge::mostAttempts; ++attempt) {
+        const std::vector<T> x = numbers.next<T>(size, true);
+        std::vector<T> squares;
+        for (const T element : x)
+            squares.push_back(element * element);
+        const T expected = root(orderCalled(orders, formula).sum(squares.data()));
+        bool tells = true;
+        for (const edge::Order<T> &order : orders)
+            tells = tells && (order.formula == formula || root(order.sum(squares.data())) != expected);
+        if (!tells)
+            continue;
+        T dst[9] = {};
+        ASSERT_EQ(norm(edge::Copies<T>(x, 9), dst), ZELM_OK);
+        for (const T result : dst)
+            EXPECT_TRUE(result == expected || result == 0) << formula; // 0: a single form leaves them
+        EXPECT_EQ(dst[0], expected) << formula;
+        return;
+    }
+    FAIL() << "no numbers tell " << formula << " apart";
+}
+
+TEST(L2Norm, FixedSizeSumsHaveTheirShapes32f) {
+    using C = edge::Copies<float>;
+    const auto expectShape = [](std::size_t size, auto single, auto array, auto list, const char *ofSingle,
+                                const char *ofArray) {
+        expectOrder<float>(ofSingle, size, refined,
+                           [=](const C &c, float *d) { return single(c.data(), d); });
+        expectOrder<float>(ofArray, size, refined,
+                           [=](const C &c, float *d) { return array(c.data(), c.objStride(), d, 9); });
+        expectOrder<float>(ofArray, size, refined,
+                           [=](const C &c, float *d) { return list(c.byObject(), 0, d, 9); });
+    };
+    expectShape(3, zelmL2Norm_v_32f_3x1, zelmL2Norm_va_32f_3x1, zelmL2Norm_va_32f_3x1_L, "(0+1)+2",
+                "(0+1)+2");
+    expectShape(4, zelmL2Norm_v_32f_4x1, zelmL2Norm_va_32f_4x1, zelmL2Norm_va_32f_4x1_L, "(0+1)+(2+3)",
+                "((0+1)+2)+3");
+    expectShape(5, zelmL2Norm_v_32f_5x1, zelmL2Norm_va_32f_5x1, zelmL2Norm_va_32f_5x1_L, "((0+1)+(2+3))+4",
+                "((0+1)+(2+3))+4");
+    expectShape(6, zelmL2Norm_v_32f_6x1, zelmL2Norm_va_32f_6x1, zelmL2Norm_va_32f_6x1_L,
+                "((0+1)+(2+3))+(4+5)", "((0+2)+4)+((1+3)+5)");
+}
+
+TEST(L2Norm, FixedSizeSumsHaveTheirShapes64f) {
+    using C = edge::Copies<double>;
+    const auto expectShape = [](std::size_t size, auto single, auto array, auto list, auto positions,
+                                const char *formula, const char *leftToRight) {
+        const auto root = [](double s) { return std::sqrt(s); };
+        expectOrder<double>(formula, size, root, [=](const C &c, double *d) { return single(c.data(), d); });
+        expectOrder<double>(formula, size, root,
+                            [=](const C &c, double *d) { return array(c.data(), c.objStride(), d, 9); });
+        expectOrder<double>(formula, size, root,
+                            [=](const C &c, double *d) { return list(c.byObject(), 0, d, 9); });
+        expectOrder<double>(leftToRight, size, root,
+                            [=](const C &c, double *d) { return positions(c.byPosition(), 0, d, 9); });
+    };
+    expectShape(3, zelmL2Norm_v_64f_3x1, zelmL2Norm_va_64f_3x1, zelmL2Norm_va_64f_3x1_L,
+                zelmL2Norm_va_64f_3x1_P, "(0+2)+1", "(0+1)+2");
+    expectShape(4, zelmL2Norm_v_64f_4x1, zelmL2Norm_va_64f_4x1, zelmL2Norm_va_64f_4x1_L,
+                zelmL2Norm_va_64f_4x1_P, "(0+2)+(1+3)", "((0+1)+2)+3");
+    expectShape(5, zelmL2Norm_v_64f_5x1, zelmL2Norm_va_64f_5x1, zelmL2Norm_va_64f_5x1_L,
+                zelmL2Norm_va_64f_5x1_P, "((0+2)+4)+(1+3)", "(((0+1)+2)+3)+4");
+    expectShape(6, zelmL2Norm_v_64f_6x1, zelmL2Norm_va_64f_6x1, zelmL2Norm_va_64f_6x1_L,
+                zelmL2Norm_va_64f_6x1_P, "((0+2)+4)+((1+3)+5)", "((((0+1)+2)+3)+4)+5");
+}
+
+// The sum of squares of a vector at an address that is `offset` bytes behind a multiple of 16.
+template <class T>
+T sumOfLong(const std::vector<T> &x, std::size_t offset) {
+    const std::size_t length = x.size();
     std::size_t t = 0;
     T s[8] = {};
-    for (; t < (rest ? (16 - rest) / sizeof(T) : 0); ++t)
+    for (; t < (16 - offset) % 16 / sizeof(T); ++t)
         s[0] = s[0] + x[t] * x[t];
     constexpr std::size_t sums = sizeof(T) == 4 ? 8 : 4;
     for (const std::size_t start = t; length - t >= 8;)
@@ -102,18 +175,21 @@ T sumOfLong(const T *x, std::size_t length) {
 template <class T>
 void expectLongSums(ZelmStatus (*norm)(const T *, T *, std::uint32_t), std::size_t least) {
     Numbers numbers;
-    alignas(16) T memory[80];
+    alignas(16) unsigned char memory[64 * sizeof(T) + 16];
     int apart = 0;
-    for (std::size_t offset = 0; offset < 16 / sizeof(T); ++offset)
+    for (std::size_t offset = 0; offset < 16; ++offset)
         for (std::size_t length = 1; length <= 64; ++length) {
             const std::vector<T> x = numbers.next<T>(length, true);
-            std::copy(x.begin(), x.end(), memory + offset);
+            std::memcpy(memory + offset, x.data(), length * sizeof(T));
             T plain = 0;
             for (const T element : x)
                 plain = plain + element * element;
-            const T expected = length < least ? plain : sumOfLong(memory + offset, length);
+            const bool split = length >= least && offset % sizeof(T) == 0;
+            const T expected = split ? sumOfLong(x, offset) : plain;
             T dst;
-            ASSERT_EQ(norm(memory + offset, &dst, static_cast<std::uint32_t>(length)), ZELM_OK);
+            ASSERT_EQ(
+                norm(reinterpret_cast<const T *>(memory + offset), &dst, static_cast<std::uint32_t>(length)),
+                ZELM_OK);
             EXPECT_EQ(dst, std::sqrt(expected)) << length << " elements, offset " << offset;
             apart += std::sqrt(expected) != std::sqrt(plain);
         }

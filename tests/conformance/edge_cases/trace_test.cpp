@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
 
-// Rows of one page each: the diagonal of a 3x3 whose other elements lie on pages that can't be read would
-// need elements as large as pages, so a table says where they are.
+// A table that leads all elements beside the diagonal to a page that can't be read.
 TEST(Trace, NeverReadsBesideTheDiagonal) {
     const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     auto *const forbidden =
@@ -29,21 +29,38 @@ TEST(Trace, NeverReadsBesideTheDiagonal) {
     munmap(forbidden, page);
 }
 
-// A standard matrix that ends behind its last diagonal element, or begins with its first, against a page that
-// can't be read: the elements before and behind are not touched.
-TEST(Trace, ReadsNothingBehindTheLastDiagonalElement) {
+// Every diagonal element of a standard matrix at an end of a page that is followed, or preceded, by one that
+// can't be read: its neighbours in the row are not touched.
+TEST(Trace, NeverReadsItsNeighboursInTheRow) {
+    constexpr int n = 6;
     const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     auto *const memory = static_cast<char *>(
-        mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        mmap(nullptr, (2 * n + 1) * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
     ASSERT_NE(memory, MAP_FAILED);
-    ASSERT_EQ(mprotect(memory + page, page, PROT_NONE), 0);
-    // A negative row stride puts row 0 last: its element (0, 0) is the last that may be read.
-    auto *const first = reinterpret_cast<float *>(memory + page) - 1;
-    first[0] = 1, first[-3] = 10, first[-6] = 100; // (i, i) at i*(-16) + i*4 bytes
-    float dst;
-    ASSERT_EQ(zelmTrace_m_32f_3x3(first, -16, &dst), ZELM_OK);
-    EXPECT_EQ(dst, 111);
-    munmap(memory, 2 * page);
+    for (const bool atEnd : {true, false}) {
+        char *const first = memory + page + (atEnd ? page - sizeof(float) : 0);
+        for (std::size_t i = 0; i < n; ++i) {
+            const auto element = static_cast<float>(1 << i);
+            std::memcpy(first + i * 2 * page, &element, sizeof element);
+        }
+        for (std::size_t unread = 0; unread <= n; ++unread)
+            ASSERT_EQ(mprotect(memory + unread * 2 * page, page, PROT_NONE), 0);
+        const auto *const src = reinterpret_cast<const float *>(first);
+        const auto rowStride = static_cast<std::int32_t>(2 * page - sizeof(float));
+        float dst[3] = {};
+        EXPECT_EQ(zelmTrace_m_32f_6x6(src, rowStride, dst), ZELM_OK);
+        EXPECT_EQ(dst[0], 63);
+        EXPECT_EQ(zelmTrace_m_32f(src, rowStride, n, dst + 1), ZELM_OK);
+        EXPECT_EQ(dst[1], 63);
+        EXPECT_EQ(zelmTrace_ma_32f_3x3_S2(src, 0, rowStride, sizeof(float), dst + 1, 2), ZELM_OK);
+        EXPECT_EQ(dst[2], 7);
+        for (std::uint32_t count : {1u, 9u}) {
+            float results[9] = {};
+            EXPECT_EQ(zelmTrace_ma_32f_4x4(src, 0, rowStride, results, count), ZELM_OK);
+            EXPECT_EQ(results[count - 1], 15);
+        }
+    }
+    munmap(memory, (2 * n + 1) * page);
 }
 
 TEST(Trace, StoresPartialSumsButInTheFixedStandardForms) {
