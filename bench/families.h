@@ -6,5 +6,6 @@ namespace zelmbench {
 void addVectorSumRows();
 void addElementwiseRows();
 void addLuRows();
+void addCholeskyAndQrRows();
 
 } // namespace zelmbench
