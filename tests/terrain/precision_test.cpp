@@ -122,7 +122,8 @@ struct Difference {
 template <class T>
 Difference compare(const Grid &grid, double (*solve)(Systems<T> &), std::size_t rows) {
     Difference difference;
-    Systems<T> systems{.rows = rows};
+    Systems<T> systems;
+    systems.rows = rows;
     std::vector<std::uint32_t> columns;
     for (std::size_t row = 0; row < grid.rows; ++row) {
         const CellSize size = cellSizeAt(grid, row, CellUnit::Degrees);

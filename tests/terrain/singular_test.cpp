@@ -141,7 +141,8 @@ struct Solver {
 // a row of zeros in the place that only the last pivot meets, or in the first.
 template <class T>
 void expectSolvedAround(const std::vector<bool> &isSingular, const Solver<T> &solver) {
-    Systems<T> systems{.rows = solver.rows};
+    Systems<T> systems;
+    systems.rows = solver.rows;
     systems.resize(isSingular.size());
     const auto shiftOf = [&](std::size_t k) { return solver.permutes ? k % order : 0; };
     for (std::size_t k = 0; k < isSingular.size(); ++k) {
