@@ -430,19 +430,24 @@ void addArrayRows(std::size_t count) {
 }
 
 template <class Method, class T, std::size_t n>
-void addRowsOfOrder() {
-    addArrayRows<Method, T, n, Layout::Standard>(1000);
-    addArrayRows<Method, T, n, Layout::Standard>(manyObjects<T>(n * n));
-    addArrayRows<Method, T, n, Layout::P>(1000);
+void addSingleRows() {
     addRow(nameOf<Method, T, Layout::Standard, n>("Decomp_m") + "/single",
            [] { return compareSingleDecomposition<Method, T, n>(); });
     addRow(nameOf<Method, T, Layout::Standard, n>("BackSubst_mv") + "/single",
            [] { return compareSingleSolution<Method, T, n>(); });
 }
 
+template <class Method, class T, std::size_t n>
+void addRowsOfOrder() {
+    addArrayRows<Method, T, n, Layout::Standard>(1000);
+    addArrayRows<Method, T, n, Layout::Standard>(manyObjects<T>(n * n));
+    addArrayRows<Method, T, n, Layout::P>(1000);
+    addSingleRows<Method, T, n>();
+}
+
 template <class Method, class T>
 void addRowsOfType() {
-    addRowsOfOrder<Method, T, 3>();
+    addSingleRows<Method, T, 3>();
     addRowsOfOrder<Method, T, 4>();
     addRowsOfOrder<Method, T, 6>();
 }

@@ -1,11 +1,8 @@
 #include "lu_solver.h"
 
-#include "library_status.h"
+#include "library_call.h"
 
 #include <algorithm>
-#include <chrono>
-#include <stdexcept>
-#include <zelm.h>
 
 namespace terrain {
 
@@ -72,15 +69,12 @@ std::size_t lastReached(const std::vector<std::uint32_t> &pivotIndex, std::size_
 
 template <class T>
 double solveByLu(Systems<T> &systems) {
-    using Clock = std::chrono::steady_clock;
-    Clock::duration spent{};
+    Stopwatch stopwatch;
     std::vector<std::uint32_t> pivotIndex(systems.count() * order, unset);
     for (std::size_t first = 0; first < systems.count();) {
         const std::size_t remaining = systems.count() - first;
-        const Clock::time_point start = Clock::now();
-        const ZelmStatus status = decompose(systems, pivotIndex.data(), first, remaining);
-        spent += Clock::now() - start;
-
+        const ZelmStatus status =
+            stopwatch.time([&] { return decompose(systems, pivotIndex.data(), first, remaining); });
         std::size_t factored = remaining;
         if (status == ZELM_ERR_DIV_BY_ZERO) {
             const std::size_t failing = lastReached(pivotIndex, first);
@@ -90,14 +84,12 @@ double solveByLu(Systems<T> &systems) {
             requireOk(status, "zelmLUDecomp_ma");
         }
         if (factored > 0) {
-            const Clock::time_point restart = Clock::now();
-            const ZelmStatus solved = substitute(systems, pivotIndex.data(), first, factored);
-            spent += Clock::now() - restart;
-            requireOk(solved, "zelmLUBackSubst_mava");
+            requireOk(stopwatch.time([&] { return substitute(systems, pivotIndex.data(), first, factored); }),
+                      "zelmLUBackSubst_mava");
         }
         first += factored + (status == ZELM_ERR_DIV_BY_ZERO ? 1 : 0);
     }
-    return std::chrono::duration<double>(spent).count();
+    return stopwatch.seconds();
 }
 
 template double solveByLu(Systems<float> &systems);

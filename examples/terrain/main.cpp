@@ -80,6 +80,7 @@ void run(const Options &options, Progress &progress) {
                                      {.unit = unit,
                                       .weightExponent = options.weightExponent,
                                       .curvature = options.curvatureKind,
+                                      .method = options.method,
                                       .use32bit = options.use32bit},
                                      progress);
     const Layers &layers = survey.layers;

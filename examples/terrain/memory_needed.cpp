@@ -1,6 +1,7 @@
 #include "memory_needed.h"
 
 #include "layers.h"
+#include "neighbourhood.h"
 #include "systems.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ double memoryNeeded(double rows, double columns) {
     // Elevation, the layers and a picture are there together, and the systems of one row of cells.
     constexpr double bytesPerPixel = 3;
     constexpr double perCell = sizeof(double) + Layers::bytesPerCell + bytesPerPixel;
-    constexpr double perSystem = Systems<double>::bytesPerSystem;
+    constexpr double perSystem = Systems<double>::bytesPerSystem(neighbours); // the method that needs most
     return rows * columns * perCell + columns * perSystem;
 }
 

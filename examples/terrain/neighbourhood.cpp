@@ -43,7 +43,18 @@ constexpr std::array<MomentRow, neighbours> makeMonomials() {
 constexpr std::array<MomentRow, neighbours> monomials = makeMonomials();
 
 template <class T>
-void assemble(const Neighbourhood &around, T *matrix, T *rightSide) {
+void assembleWeighted(const Neighbourhood &around, T *matrix, T *rightSide) {
+    for (std::size_t n = 0; n < neighbours; ++n) {
+        const double root = std::sqrt(around.weight[n]);
+        for (std::size_t i = 0; i < order; ++i) {
+            matrix[n * order + i] = static_cast<T>(root * monomials[n][momentOf(powersOfX[i], powersOfY[i])]);
+        }
+        rightSide[n] = static_cast<T>(root * around.height[n]);
+    }
+}
+
+template <class T>
+void assembleNormal(const Neighbourhood &around, T *matrix, T *rightSide) {
     MomentRow sums{};
     std::array<double, order> heightSums{};
     for (std::size_t n = 0; n < neighbours; ++n) {
@@ -123,8 +134,14 @@ void assembleRow(const Grid &grid, std::size_t row, const Weights &weights, Syst
     }
     systems.resize(columns.size());
     for (std::size_t k = 0; k < columns.size(); ++k) {
-        assemble(neighbourhoodOf(grid, row, columns[k], weights), &systems.matrix[k * order * order],
-                 &systems.rightSide[k * order]);
+        const Neighbourhood around = neighbourhoodOf(grid, row, columns[k], weights);
+        T *const matrix = &systems.matrix[k * systems.rows * order];
+        T *const rightSide = &systems.rightSide[k * systems.rows];
+        if (systems.rows == neighbours) {
+            assembleWeighted(around, matrix, rightSide);
+        } else {
+            assembleNormal(around, matrix, rightSide);
+        }
     }
 }
 

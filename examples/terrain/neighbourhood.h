@@ -1,4 +1,4 @@
-// The 5x5 neighbourhood of a cell and the normal equations of the surface that is fitted to it.
+// The 5x5 neighbourhood of a cell and the equations of the surface that is fitted to it.
 //
 // The surface is z = a x^2 + b xy + c y^2 + d x + e y + f. Here x and y count cells, east and north of the
 // centre, and z is the height above the centre cell: the systems are then of one size whatever the grid's
@@ -50,8 +50,9 @@ using Coefficients = std::array<double, order>;
 // The height of the surface at a neighbour.
 double heightAt(const Coefficients &surface, std::size_t neighbour);
 
-// Sets `systems` to the normal equations of all cells with data of a row, and `columns` to the cells'
-// columns.
+// Sets `systems` to the equations of all cells with data of a row, and `columns` to the cells' columns. Where
+// the systems have one row per neighbour, these are its own equation, times the root of its weight; otherwise
+// they are the normal equations.
 template <class T>
 void assembleRow(const Grid &grid, std::size_t row, const Weights &weights, Systems<T> &systems,
                  std::vector<std::uint32_t> &columns);

@@ -1,6 +1,6 @@
 #include "normals.h"
 
-#include "library_status.h"
+#include "library_call.h"
 
 #include <cstdint>
 

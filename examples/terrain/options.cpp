@@ -27,6 +27,7 @@ Output:
 
 Fit:
   --curvature-kind KIND    mean, profile or tangential (mean)
+  --method METHOD          lu or cholesky for the normal equations, qr for the weighted ones themselves (lu)
   --float 32|64            bits of the floats that the systems are solved in (64)
   --weight-exponent N      weight 1/(1 + distance in cells)^N of a neighbour, N from 0 to 2 (1)
 
@@ -52,6 +53,7 @@ enum Code : int {
     aspectGrid,
     curvatureGrid,
     curvatureKind,
+    method,
     floatBits,
     weightExponent,
     exaggeration,
@@ -69,6 +71,7 @@ const option longOptions[] = {{"relief", required_argument, nullptr, relief},
                               {"aspect-grid", required_argument, nullptr, aspectGrid},
                               {"curvature-grid", required_argument, nullptr, curvatureGrid},
                               {"curvature-kind", required_argument, nullptr, curvatureKind},
+                              {"method", required_argument, nullptr, method},
                               {"float", required_argument, nullptr, floatBits},
                               {"weight-exponent", required_argument, nullptr, weightExponent},
                               {"exaggeration", required_argument, nullptr, exaggeration},
@@ -105,6 +108,19 @@ Curvature kindNamed(const std::string &name) {
     wrongValue("curvature-kind", "mean, profile or tangential");
 }
 
+Method methodNamed(const std::string &name) {
+    if (name == "lu") {
+        return Method::Lu;
+    }
+    if (name == "cholesky") {
+        return Method::Cholesky;
+    }
+    if (name == "qr") {
+        return Method::Qr;
+    }
+    wrongValue("method", "lu, cholesky or qr");
+}
+
 void apply(int code, const std::string &name, Options &options) {
     // Any size that a cell of a map can have; outside it, slopes would leave the range of 32-bit floats.
     constexpr double smallest = 1e-6;
@@ -127,6 +143,9 @@ void apply(int code, const std::string &name, Options &options) {
         break;
     case curvatureKind:
         options.curvatureKind = kindNamed(optarg);
+        break;
+    case method:
+        options.method = methodNamed(optarg);
         break;
     case floatBits:
         if (const std::string bits = optarg; bits != "32" && bits != "64") {

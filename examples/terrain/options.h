@@ -3,6 +3,7 @@
 
 #include "derivatives.h"
 #include "ground.h"
+#include "method.h"
 #include "progress.h"
 
 #include <optional>
@@ -23,6 +24,7 @@ struct Options {
     std::optional<std::string> curvatureGrid;
 
     Curvature curvatureKind = Curvature::Mean;
+    Method method = Method::Lu;
     bool use32bit = false;
     double weightExponent = 1;
     double exaggeration = 2;

@@ -19,6 +19,18 @@ const char *nameOf(Curvature kind) {
     return "mean";
 }
 
+const char *nameOf(Method method) {
+    switch (method) {
+    case Method::Cholesky:
+        return "Cholesky";
+    case Method::Qr:
+        return "QR";
+    case Method::Lu:
+        break;
+    }
+    return "LU";
+}
+
 } // namespace
 
 void printReport(const Options &options, const Grid &grid, CellUnit unit, const Survey &survey,
@@ -29,7 +41,8 @@ void printReport(const Options &options, const Grid &grid, CellUnit unit, const 
     std::printf("cell       %.9g %s, %.1f m west-east by %.1f m north-south in the middle row\n",
                 grid.cellSize, unit == CellUnit::Degrees ? "degrees" : "metres", size.eastWest,
                 size.northSouth);
-    std::printf("systems    %zu of 6x6 solved by LU in %d-bit float\n", survey.solved,
+    std::printf("systems    %zu of %s solved by %s in %d-bit float\n", survey.solved,
+                options.method == Method::Qr ? "25x6" : "6x6", nameOf(options.method),
                 options.use32bit ? 32 : 64);
     std::printf("singular   %zu left out\n", survey.singular);
     std::printf("residual   %.4f m, weighted root mean square\n", survey.residual);

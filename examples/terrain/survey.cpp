@@ -1,7 +1,9 @@
 #include "survey.h"
 
+#include "cholesky_solver.h"
 #include "lu_solver.h"
 #include "neighbourhood.h"
+#include "qr_solver.h"
 #include "systems.h"
 
 #include <cmath>
@@ -44,17 +46,33 @@ void record(Survey &survey, const Grid &grid, std::size_t row, std::size_t colum
 }
 
 template <class T>
+double solve(Systems<T> &systems, Method method) {
+    switch (method) {
+    case Method::Cholesky:
+        return solveByCholesky(systems);
+    case Method::Qr:
+        return solveByQr(systems);
+    case Method::Lu:
+        break;
+    }
+    return solveByLu(systems);
+}
+
+template <class T>
 Survey surveyIn(const Grid &grid, const SurveySettings &settings, Progress &progress) {
     Survey survey{.layers = Layers(grid.rows * grid.columns)};
     Residual residual;
     Systems<T> systems;
+    if (settings.method == Method::Qr) {
+        systems.rows = neighbours;
+    }
     std::vector<std::uint32_t> columns;
     for (std::size_t row = 0; row < grid.rows; ++row) {
         const CellSize size = cellSizeAt(grid, row, settings.unit);
         const Weights weights = distanceWeights(size, settings.weightExponent);
         assembleRow(grid, row, weights, systems, columns);
         survey.withoutData += grid.columns - systems.count();
-        survey.seconds += solveByLu(systems);
+        survey.seconds += solve(systems, settings.method);
         for (std::size_t k = 0; k < systems.count(); ++k) {
             if (systems.isSingular[k]) {
                 ++survey.singular;

@@ -5,6 +5,7 @@
 #include "grid.h"
 #include "ground.h"
 #include "layers.h"
+#include "method.h"
 #include "progress.h"
 
 #include <cstddef>
@@ -15,6 +16,7 @@ struct SurveySettings {
     CellUnit unit = CellUnit::Metres;
     double weightExponent = 1;
     Curvature curvature = Curvature::Mean;
+    Method method = Method::Lu;
     bool use32bit = false; // systems in 32-bit floats instead of 64-bit ones
 };
 

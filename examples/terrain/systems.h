@@ -1,4 +1,4 @@
-// Many 6x6 linear systems side by side, in the arrays that the library takes.
+// Many linear systems of six unknowns side by side, in the arrays that the library takes.
 #pragma once
 
 #include <cstddef>
@@ -11,18 +11,22 @@ constexpr std::size_t order = 6; // the coefficients of a quadratic surface
 
 template <class T>
 struct Systems {
-    std::vector<T> matrix;                // order * order per system, row by row; a solver may overwrite it
-    std::vector<T> rightSide;             // order per system
+    std::size_t rows = order;             // equations per system; more than unknowns for least squares
+    std::vector<T> matrix;                // rows * order per system, row by row; a solver may overwrite it
+    std::vector<T> rightSide;             // rows per system
     std::vector<T> solution;              // order per system; not set where isSingular
     std::vector<std::uint8_t> isSingular; // one per system
 
-    static constexpr double bytesPerSystem =
-        sizeof(T) * (order * order + 2 * order) + sizeof(std::uint8_t) + sizeof(std::uint32_t) * (order + 1);
+    // With a solver's factors, of which LU has none of its own but a row number per equation.
+    static constexpr double bytesPerSystem(std::size_t rows) {
+        return static_cast<double>(sizeof(T) * (2 * rows * order + rows + order) + sizeof(std::uint8_t) +
+                                   sizeof(std::uint32_t) * (order + 1));
+    }
 
     std::size_t count() const { return isSingular.size(); }
     void resize(std::size_t count) {
-        matrix.resize(count * order * order);
-        rightSide.resize(count * order);
+        matrix.resize(count * rows * order);
+        rightSide.resize(count * rows);
         solution.resize(count * order);
         isSingular.assign(count, 0);
     }

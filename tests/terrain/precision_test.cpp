@@ -2,8 +2,10 @@
 // cell's own weighted equations, one per neighbour, without forming the normal equations.
 #include "sandbox.h"
 
+#include "cholesky_solver.h"
 #include "lu_solver.h"
 #include "neighbourhood.h"
+#include "qr_solver.h"
 #include "survey.h"
 
 #include <algorithm>
@@ -118,14 +120,15 @@ struct Difference {
 };
 
 template <class T>
-Difference compare(const Grid &grid) {
+Difference compare(const Grid &grid, double (*solve)(Systems<T> &), std::size_t rows) {
     Difference difference;
     Systems<T> systems;
+    systems.rows = rows;
     std::vector<std::uint32_t> columns;
     for (std::size_t row = 0; row < grid.rows; ++row) {
         const CellSize size = cellSizeAt(grid, row, CellUnit::Degrees);
         assembleRow(grid, row, distanceWeights(size, 1), systems, columns);
-        solveByLu(systems);
+        solve(systems);
         for (std::size_t k = 0; k < systems.count(); ++k) {
             ++difference.systems;
             difference.singular += systems.isSingular[k];
@@ -143,20 +146,36 @@ Difference compare(const Grid &grid) {
 // The neighbours of a cell lie up to 145 m above or below it. The bound is 64 units of rounding of such a
 // height: 2.1e-12 m in 64-bit floats and 1.1e-3 m in 32-bit ones.
 template <class T>
-void expectAgreement() {
-    const Difference difference = compare<T>(terraintest::readGrid(TERRAIN_GRID));
+void expectAgreement(double (*solve)(Systems<T> &), std::size_t rows) {
+    const Difference difference = compare<T>(terraintest::readGrid(TERRAIN_GRID), solve, rows);
     EXPECT_EQ(difference.systems, 344u * 403u);
     EXPECT_EQ(difference.singular, 0u);
     EXPECT_LE(difference.largest, 64 * 145 * Real{std::numeric_limits<T>::epsilon()});
     std::printf("largest difference of a coefficient: %.3Lg m\n", difference.largest);
 }
 
-TEST(Precision, RealGridIn64BitFloats) {
-    expectAgreement<double>();
+TEST(Precision, LuIn64BitFloats) {
+    expectAgreement(&solveByLu<double>, order);
 }
 
-TEST(Precision, RealGridIn32BitFloats) {
-    expectAgreement<float>();
+TEST(Precision, LuIn32BitFloats) {
+    expectAgreement(&solveByLu<float>, order);
+}
+
+TEST(Precision, CholeskyIn64BitFloats) {
+    expectAgreement(&solveByCholesky<double>, order);
+}
+
+TEST(Precision, CholeskyIn32BitFloats) {
+    expectAgreement(&solveByCholesky<float>, order);
+}
+
+TEST(Precision, QrIn64BitFloats) {
+    expectAgreement(&solveByQr<double>, neighbours);
+}
+
+TEST(Precision, QrIn32BitFloats) {
+    expectAgreement(&solveByQr<float>, neighbours);
 }
 
 TEST(Precision, ResidualOfTheRealGrid) {
@@ -172,6 +191,21 @@ TEST(Precision, ResidualOfTheRealGrid) {
         }
     }
     EXPECT_NEAR(survey.residual, static_cast<double>(expected.rootMeanSquare()), 1e-10);
+}
+
+TEST(Precision, MethodsAgreeOnTheResidual) {
+    const Grid grid = terraintest::readGrid(TERRAIN_GRID);
+    Progress progress(Progress::Show::OnTerminal);
+    const auto surveyBy = [&](Method method) {
+        return surveyGrid(grid, {.unit = CellUnit::Degrees, .method = method}, progress);
+    };
+    const Survey lu = surveyBy(Method::Lu);
+    for (const Method method : {Method::Cholesky, Method::Qr}) {
+        const Survey other = surveyBy(method);
+        EXPECT_EQ(other.solved, lu.solved);
+        EXPECT_NEAR(other.residual, lu.residual, 1e-10);
+        EXPECT_GT(other.seconds, 0);
+    }
 }
 
 TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
