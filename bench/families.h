@@ -5,6 +5,7 @@ namespace zelmbench {
 
 void addVectorSumRows();
 void addElementwiseRows();
+void addInverseRows();
 void addLuRows();
 
 } // namespace zelmbench

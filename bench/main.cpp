@@ -53,6 +53,7 @@ int main(int argc, char **argv) {
     }
     zelmbench::addVectorSumRows();
     zelmbench::addElementwiseRows();
+    zelmbench::addInverseRows();
     zelmbench::addLuRows();
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
