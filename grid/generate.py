@@ -432,21 +432,25 @@ def grid_table(built):
     callers, lists, entries, checks = {}, {}, [], []
     for m in built:
         arguments, _ = plan(m)
-        signature = ", ".join(a.ctype.strip() for a in arguments)
+        result = getattr(m, "result", "ZelmStatus")
+        signature = result, ", ".join(a.ctype.strip() for a in arguments)
         values = ", ".join(value_expression(a, i) for i, a in enumerate(arguments))
         caller = callers.setdefault(signature, (f"call{len(callers)}", values))[0]
         kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}'
                           for a in arguments)
         array = lists.setdefault(kinds, f"arguments{len(lists)}")
-        entries.append(f'    {{"{m.name}", "{m.row.operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
+        operation = m.name.removeprefix("zelm").partition(f"_{m.row.descriptor}_")[0]
+        entries.append(f'    {{"{m.name}", "{operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
                        f'"{m.layout}", {array}, {len(arguments)}, {caller}}},\n')
-        checks.append(f"static_assert(std::is_same_v<decltype({m.name}), ZelmStatus({signature})>);\n")
+        checks.append(f"static_assert(std::is_same_v<decltype({m.name}), {result}({signature[1]})>);\n")
     out = ["// Written by grid/generate.py from grid/catalogue.py.\n#include \"grid_table.h\"\n\n"
            "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"]
     out += [f"const Argument {array}[] = {{{kinds}}};\n" for kinds, array in lists.items()]
-    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n"
-            f"    return reinterpret_cast<ZelmStatus (*)({signature})>(f)({values});\n}}\n"
-            for signature, (caller, values) in callers.items()]
+    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n    "
+            + ("" if result == "void" else "return ")
+            + f"reinterpret_cast<{result} (*)({types})>(f)({values});\n"
+            + ("    return 0;\n" if result == "void" else "") + "}\n"
+            for (result, types), (caller, values) in callers.items()]
     out += ["\n} // namespace\n\n", *checks, "\nconst Function functions[] = {\n", *entries, "};\n",
             f"const std::size_t functionCount = {len(entries)};\n\n}} // namespace zelmtest\n"]
     return "".join(out)
@@ -469,7 +473,7 @@ def write_build(directory):
     files[directory / "exports.txt"] = "\n".join(exports) + "\n"
     files[directory / "zelm-grid.json"] = grid_json(everything)
     files[directory / "grid_table.h"] = TABLE_HEADER
-    files[directory / "grid_table.cpp"] = grid_table(built)
+    files[directory / "grid_table.cpp"] = grid_table(built + built_kernels)
     return files
 
 

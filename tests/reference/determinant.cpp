@@ -45,7 +45,7 @@ T byMinors(const Cell &cell, const std::vector<T> &a) {
         return extendedDeterminant(cell, a);
     const auto keep = [](Columns, std::uint32_t, T value) { return value; };
     if (cell.order > 3)
-        return minor<T>(a, cell.order, (Columns{1} << cell.order) - 1, keep);
+        return expandByMinors<T>(a, cell.order, keep);
     const auto difference = [&](T p, T q, T r, T s) {
         const T positive = p * q, negative = r * s;
         return positive - negative;

@@ -106,8 +106,7 @@ T extendedDeterminant(const Cell &cell, const std::vector<T> &a) {
     const auto keep = [&](Columns minor, std::uint32_t order, long double value) {
         return staysOnStack(cell, minor, order) ? value : static_cast<long double>(static_cast<T>(value));
     };
-    const Columns all = (Columns{1} << cell.order) - 1;
-    return static_cast<T>(minor<long double>(a, cell.order, all, keep));
+    return static_cast<T>(expandByMinors<long double>(a, cell.order, keep));
 }
 
 template float extendedDeterminant(const Cell &, const std::vector<float> &);
