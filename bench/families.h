@@ -6,6 +6,7 @@ namespace zelmbench {
 void addVectorSumRows();
 void addElementwiseRows();
 void addVectorAlgebraRows();
+void addInverseRows();
 void addLuRows();
 void addCholeskyAndQrRows();
 

@@ -54,6 +54,7 @@ int main(int argc, char **argv) {
     zelmbench::addVectorSumRows();
     zelmbench::addElementwiseRows();
     zelmbench::addVectorAlgebraRows();
+    zelmbench::addInverseRows();
     zelmbench::addLuRows();
     zelmbench::addCholeskyAndQrRows();
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks();

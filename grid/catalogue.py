@@ -87,10 +87,6 @@ OK, SIZE, NULL, DIV, POS = (
     "ZELM_OK", "ZELM_ERR_SIZE", "ZELM_ERR_NULL_PTR", "ZELM_ERR_DIV_BY_ZERO", "ZELM_ERR_NOT_POS_DEF")
 PLAIN = (OK, NULL, SIZE)
 
-# The one place that says which families are built. A row of another family stands in the catalogue and in the
-# machine-readable dump, but it is neither declared in the headers nor exported.
-BUILT = ("vector-add-sub", "matrix-add-sub", "scaling", "saxpy-lcomb", "dot-product", "cross-product", "l2-norm", "frobenius-norm", "trace", "matrix-vector-product", "matrix-product", "gaxpy", "determinant", "inverse", "lu-decomposition", "lu-back-substitution", "cholesky-decomposition", "cholesky-back-substitution", "qr-decomposition", "qr-back-substitution", "transpose", "copy", "extract", "identity")
-
 FAMILIES = {family.name: family for family in (
     Family("vector-add-sub", "elementwise", "Addition and subtraction of vectors", "elementwise/elementwise.h", PLAIN,
            "dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and "
@@ -447,7 +443,7 @@ KERNEL_ROWS = (
 )
 KERNEL_NOTES = (
     "Evaluate in x87 extended precision, or in what the caller's control word says, and round to the element type at the "
-    "store and, in orders 4 to 6, some minors before: docs/solvers.md names them. The functions zelmDet_* of the standard "
+    "store and, in orders 4 to 6, some minors before: docs/inverse.md names them. The functions zelmDet_* of the standard "
     "and L layouts call them and are what callers use: a kernel tests nothing but the entries of srcTable. Result: 0, "
     "or -2 at a null entry, with the determinants before it written.")
 

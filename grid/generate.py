@@ -15,7 +15,7 @@ import textwrap
 from dataclasses import dataclass
 from pathlib import Path
 
-from catalogue import (BUILT, CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES,
+from catalogue import (CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES,
                        KERNEL_ROWS, LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
 
 C_TYPE = {"32f": "float", "64f": "double"}
@@ -51,10 +51,6 @@ class Member:
     def name(self):
         parts = [f"zelm{self.row.operation}", self.row.descriptor, self.type, self.size, self.layout]
         return "_".join(part for part in parts if part)
-
-    @property
-    def built(self):
-        return self.row.family in BUILT
 
 
 class Kernel(Member):
@@ -287,11 +283,11 @@ def block_comment(paragraphs):
 
 
 def kernel_declarations(family):
-    built = [kernel for kernel in KERNELS.values() if kernel.row.family == family and kernel.built]
-    if not built:
+    declared = [kernel for kernel in KERNELS.values() if kernel.row.family == family]
+    if not declared:
         return []
     title = f"==== {FAMILIES[family].title}: the kernels ===="
-    return ["\n" + block_comment([title, KERNEL_NOTES]), *(declaration(kernel) + ";\n" for kernel in built)]
+    return ["\n" + block_comment([title, KERNEL_NOTES]), *(declaration(kernel) + ";\n" for kernel in declared)]
 
 
 def header(subsystem, all_members):
@@ -317,10 +313,10 @@ def header(subsystem, all_members):
 
 
 def write_headers(directory):
-    built = [m for m in members() if m.built]
-    subsystems = sorted({FAMILIES[m.row.family].subsystem for m in built})
+    everything = list(members())
+    subsystems = sorted({FAMILIES[m.row.family].subsystem for m in everything})
     return {directory / "zelm" / f"{subsystem}.h":
-            header(subsystem, [m for m in built if FAMILIES[m.row.family].subsystem == subsystem])
+            header(subsystem, [m for m in everything if FAMILIES[m.row.family].subsystem == subsystem])
             for subsystem in subsystems}
 
 
@@ -347,7 +343,7 @@ def grid_json(all_members):
         fixed = bool(m.size)
         entry = {
             "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
-            "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout, "built": m.built,
+            "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout,
             "formula": m.row.formula,
             "arguments": argument_list(m),
             "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
@@ -356,7 +352,7 @@ def grid_json(all_members):
             entry["departure"] = DEPARTURES[m.name].note
         lines.append(json.dumps(entry))
     beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
-                          "built": k.built, "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
+                          "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
     return '{"version": "4.1", "functions": [\n' + ",\n".join(lines) + '\n],\n"kernels": [\n' \
         + ",\n".join(beside) + "\n]}\n"
 
@@ -407,6 +403,7 @@ struct Function {
     std::size_t argumentCount;
     // Calls `function`, which must have this member's prototype, with the values in the order of the arguments.
     ZelmStatus (*call)(void (*function)(), const Value *values);
+    bool isVoid = false; // a kernel that leaves no result; `call` returns 0 for it
 };
 
 extern const Function functions[];
@@ -429,10 +426,10 @@ def value_expression(argument, index):
     }.get(argument.kind, f"{slot}.word")
 
 
-def grid_table(built):
+def grid_table(functions):
     """One caller per distinct argument list; each member's prototype is checked against its caller's type."""
     callers, lists, entries, checks = {}, {}, [], []
-    for m in built:
+    for m in functions:
         arguments, _ = plan(m)
         result = getattr(m, "result", "ZelmStatus")
         signature = result, ", ".join(a.ctype.strip() for a in arguments)
@@ -441,9 +438,10 @@ def grid_table(built):
         kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}'
                           for a in arguments)
         array = lists.setdefault(kinds, f"arguments{len(lists)}")
+        void = ", true" if result == "void" else ""
         operation = m.name.removeprefix("zelm").partition(f"_{m.row.descriptor}_")[0]
         entries.append(f'    {{"{m.name}", "{operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
-                       f'"{m.layout}", {array}, {len(arguments)}, {caller}}},\n')
+                       f'"{m.layout}", {array}, {len(arguments)}, {caller}{void}}},\n')
         checks.append(f"static_assert(std::is_same_v<decltype({m.name}), {result}({signature[1]})>);\n")
     out = ["// Written by grid/generate.py from grid/catalogue.py.\n#include \"grid_table.h\"\n\n"
            "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"]
@@ -460,22 +458,20 @@ def grid_table(built):
 
 def write_build(directory):
     everything = list(members())
-    built = [m for m in everything if m.built]
     files = {}
     units = {}
-    for m in built:
+    for m in everything:
         units.setdefault((m.row.family, m.layout or "standard"), []).append(m)
     for (family, layout), unit_members in units.items():
         files[directory / f"{family.replace('-', '_')}_{layout}.cpp"] = unit(family, unit_members)
-    built_kernels = [kernel for kernel in kernels() if kernel.built]
     listed = "\n".join([f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files)]
-                       + [f"    {unit}" for unit in sorted({kernel.unit for kernel in built_kernels})])
+                       + [f"    {unit}" for unit in sorted({kernel.unit for kernel in kernels()})])
     files[directory / "sources.cmake"] = f"set(ZELM_GENERATED_SOURCES\n{listed})\n"
-    exports = sorted([m.name for m in built + built_kernels] + ["zelmGetLibVersion"])
+    exports = sorted([m.name for m in everything + list(kernels())] + ["zelmGetLibVersion"])
     files[directory / "exports.txt"] = "\n".join(exports) + "\n"
     files[directory / "zelm-grid.json"] = grid_json(everything)
     files[directory / "grid_table.h"] = TABLE_HEADER
-    files[directory / "grid_table.cpp"] = grid_table(built + built_kernels)
+    files[directory / "grid_table.cpp"] = grid_table(everything + list(kernels()))
     return files
 
 

@@ -3,6 +3,7 @@
 
 #include "solvers/determinant.h"
 #include "solvers/inverse_kernels.h"
+#include "solvers/inverse_rows.h"
 
 namespace zelm::solvers {
 
@@ -68,8 +69,21 @@ ZELM_INLINE ZelmStatus storeSingular(Outcome outcome, const Pack<T> (&a)[N][N], 
     return ZELM_ERR_DIV_BY_ZERO;
 }
 
+ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<float> &d) {
+    __m128 rows[4];
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i)
+        rows[i] = loadPack<float>(s.rowStart(i));
+    if (!invertRows(rows))
+        return ZELM_ERR_DIV_BY_ZERO;
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i)
+        storePack(d.rowStart(i), rows[i]);
+    return ZELM_OK;
+}
+
 template <typename T, unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus invertObject(const S &s, const D &d) {
+__attribute__((noinline)) ZelmStatus invertByPacks(const S &s, const D &d) {
     Pack<T> a[N][N];
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
@@ -85,6 +99,14 @@ __attribute__((noinline)) ZelmStatus invertObject(const S &s, const D &d) {
         for (unsigned j = 0; j < N; ++j)
             d.set(i, j, N, a[i][j][0]);
     return ZELM_OK;
+}
+
+template <typename T, unsigned N, typename S, typename D>
+ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
+    if constexpr (D::isDense && N == 4 && sizeof(T) == 4)
+        return invertDenseRows(s, d);
+    else
+        return invertByPacks<T, N>(s, d);
 }
 
 template <typename T, unsigned N, typename S, typename D>

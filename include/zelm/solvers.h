@@ -22,7 +22,7 @@ extern "C" {
 /*
  * ==== Determinant: the kernels ====
  * Evaluate in x87 extended precision, or in what the caller's control word says, and round to the element type at
- *   the store and, in orders 4 to 6, some minors before: docs/solvers.md names them. The functions zelmDet_* of the
+ *   the store and, in orders 4 to 6, some minors before: docs/inverse.md names them. The functions zelmDet_* of the
  *   standard and L layouts call them and are what callers use: a kernel tests nothing but the entries of srcTable.
  *   Result: 0, or -2 at a null entry, with the determinants before it written.
  */
@@ -443,7 +443,7 @@ ZELM_API ZelmStatus zelmQRDecomp_m_64f_6x6_P(const double *const *srcTable, int3
 /*
  * ==== Determinant: the kernels ====
  * Evaluate in x87 extended precision, or in what the caller's control word says, and round to the element type at
- *   the store and, in orders 4 to 6, some minors before: docs/solvers.md names them. The functions zelmDet_* of the
+ *   the store and, in orders 4 to 6, some minors before: docs/inverse.md names them. The functions zelmDet_* of the
  *   standard and L layouts call them and are what callers use: a kernel tests nothing but the entries of srcTable.
  *   Result: 0, or -2 at a null entry, with the determinants before it written.
  */

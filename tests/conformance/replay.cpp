@@ -65,9 +65,11 @@ public:
                 text +=
                     print("static _Alignas(64) unsigned char %s[%zu];\n", slab.c_str(), w.end - origin(w));
         }
-        text += "\nint main(void)\n{\n" + before + "    ZelmStatus status = ";
-        text += std::string(case_.target->function->name) + "(\n        " + arguments + ");\n";
-        text += "    printf(\"%d\\n\", (int)status);\n";
+        text += "\nint main(void)\n{\n" + before;
+        const std::string call = std::string(case_.target->function->name) + "(\n        " + arguments + ")";
+        text += case_.target->function->isVoid
+                    ? "    " + call + ";\n"
+                    : "    ZelmStatus status = " + call + ";\n    printf(\"%d\\n\", (int)status);\n";
         if (differing)
             text += "    printf(\"%a\\n\", (double)*(" + element_ + " *)(" + place(differing) + "));\n";
         text += "    return 0;\n}\n";

@@ -48,7 +48,8 @@ ZelmStatus callWithStack(void (*function)(), const Target &target, const std::ve
         std::memcpy(halves, &values[i], sizeof halves);
         words.insert(words.end(), halves, halves + count);
     }
-    return zelmtestCallWithStack(function, words.data(), words.size(), misalignment);
+    const ZelmStatus status = zelmtestCallWithStack(function, words.data(), words.size(), misalignment);
+    return target.function->isVoid ? ZELM_OK : status;
 }
 
 } // namespace zelmtest
