@@ -7,6 +7,7 @@ void addVectorSumRows();
 void addElementwiseRows();
 void addVectorAlgebraRows();
 void addInverseRows();
+void addProductRows();
 void addLuRows();
 void addCholeskyAndQrRows();
 

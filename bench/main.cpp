@@ -55,6 +55,7 @@ int main(int argc, char **argv) {
     zelmbench::addElementwiseRows();
     zelmbench::addVectorAlgebraRows();
     zelmbench::addInverseRows();
+    zelmbench::addProductRows();
     zelmbench::addLuRows();
     zelmbench::addCholeskyAndQrRows();
     const std::size_t rows = benchmark::RunSpecifiedBenchmarks();
