@@ -758,7 +758,8 @@ private:
         for (std::uint32_t k = 0; k < o.objects; ++k)
             for (std::uint32_t i = 0; i < o.rows; ++i)
                 for (std::uint32_t j = 0; j < o.columns; ++j)
-                    writeElement(o, k, i, j, bits);
+                    if (isMapped(o, i, j))
+                        writeElement(o, k, i, j, bits);
     }
 
     void writeNumbers(const Placement &o, Style style) {

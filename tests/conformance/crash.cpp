@@ -56,6 +56,10 @@ void handle(int signal) {
 } // namespace
 
 void installCrashHandler() {
+    static bool installed = false;
+    if (installed) // a second time the handler would follow itself
+        return;
+    installed = true;
     static unsigned char stack[1 << 16];
     stack_t alternate{};
     alternate.ss_sp = stack;
