@@ -9,7 +9,7 @@ namespace zelmtest {
 
 struct Options {
     std::uint64_t seed = 20040717;
-    std::uint64_t cases = 500;             // per function
+    std::uint64_t cases = 300;             // per function
     std::optional<std::uint64_t> onlyCase; // --case: this one alone
     std::string function;                  // --function: this one alone
     std::string digest;                    // --digest: the file to write
