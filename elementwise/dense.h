@@ -107,7 +107,7 @@ ZELM_INLINE void plainObject(const A &a, const B &b, const D &d, Shape shape) {
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
-    const bool gapless = rowsAreGapless(a, shape) & rowsAreGapless(b, shape) & rowsAreGapless(d, shape);
+    const bool gapless = rowsAreGapless(a, shape) && rowsAreGapless(b, shape) && rowsAreGapless(d, shape);
     if constexpr (kIsTransposed<A> || kIsTransposed<B>) {
         // Sums of fixed size may read ahead of what they write; scaling reads each element just before it
         // writes one.

@@ -159,7 +159,7 @@ ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     constexpr unsigned lanes = kLanes<T>;
     unsigned packed = 0;
     if constexpr (N >= lanes) {
-        if (!(a.isCloselyBehind(dst) | b.isCloselyBehind(dst))) {
+        if (!a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
             packed = N / lanes * lanes;
 #pragma GCC unroll 18
             for (unsigned p = 0; p < N / lanes; ++p)

@@ -220,10 +220,13 @@ ZELM_INLINE void storeRowOfEach(const Group<Array> &group, RowOfLane row,
     }
 }
 
-template <typename Array> constexpr bool kIsDenseArray = false;
-template <typename T> constexpr bool kIsDenseArray<DenseArray<T>> = true;
+template <typename Array>
+constexpr bool kIsDenseArray = false;
+template <typename T>
+constexpr bool kIsDenseArray<DenseArray<T>> = true;
 
-template <typename Array> ZELM_INLINE bool followWithoutGap(const Group<Array> &group) {
+template <typename Array>
+ZELM_INLINE bool followWithoutGap(const Group<Array> &group) {
     return group.objects[1].start - group.objects[0].start == 3 * sizeof(typename Array::Element);
 }
 
