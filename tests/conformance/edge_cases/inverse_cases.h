@@ -36,17 +36,16 @@ Inverted<T> invert(Form form, std::uint32_t n, const std::vector<T> &a) {
     constexpr auto e = static_cast<std::int32_t>(sizeof(T));
     const std::int32_t row = static_cast<std::int32_t>(n) * e;
     std::vector<T> scratch(n * n + n), x(n * n, 7);
-    const auto call = [&](auto runTime, auto... fixed) {
-        using Standard = ZelmStatus (*)(const T *, std::int32_t, T *, std::int32_t);
-        using S2 = ZelmStatus (*)(const T *, std::int32_t, std::int32_t, T *, std::int32_t, std::int32_t);
-        struct {
-            Standard standard[4];
-            S2 s2[4];
-        } const functions = {fixed...};
+    using Standard = ZelmStatus (*)(const T *, std::int32_t, T *, std::int32_t);
+    using S2 = ZelmStatus (*)(const T *, std::int32_t, std::int32_t, T *, std::int32_t, std::int32_t);
+    const auto call = [&](auto runTime, Standard three, Standard four, Standard five, Standard six,
+                          S2 threeS2, S2 fourS2, S2 fiveS2, S2 sixS2) {
+        const Standard standard[] = {three, four, five, six};
+        const S2 s2[] = {threeS2, fourS2, fiveS2, sixS2};
         if (form == Form::RunTime)
             return runTime(a.data(), row, n, scratch.data(), x.data(), row);
-        return form == Form::Standard ? functions.standard[n - 3](a.data(), row, x.data(), row)
-                                      : functions.s2[n - 3](a.data(), row, e, x.data(), row, e);
+        return form == Form::Standard ? standard[n - 3](a.data(), row, x.data(), row)
+                                      : s2[n - 3](a.data(), row, e, x.data(), row, e);
     };
     ZelmStatus status;
     if constexpr (sizeof(T) == 4)

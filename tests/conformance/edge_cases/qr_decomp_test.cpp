@@ -186,7 +186,7 @@ TEST(QrDecomp, PointersThenSizesThenTablesThenTheCount) {
     std::array<float *, 9> results{};
     sources.fill(&element);
     results.fill(&result);
-    for (const std::size_t null : {0, 5, 8}) {
+    for (const std::size_t null : {std::size_t{0}, std::size_t{5}, std::size_t{8}}) {
         sources[null] = nullptr;
         EXPECT_EQ(zelmQRDecomp_m_32f_3x3_P(sources.data(), 0, scratch, results.data(), 0), ZELM_ERR_NULL_PTR);
         EXPECT_EQ(zelmQRDecomp_m_32f_P(sources.data(), 4, scratch, results.data(), 0, 3, 3),
