@@ -294,6 +294,16 @@ ZELM_INLINE bool startsAligned(const Operand &operand) {
         return isMultipleOf16(operand.start) && isMultipleOf16(operand.rowStride);
 }
 
+// An object whose elements straddle the pairs that are stored: the first element of a pair may be the source
+// of the second, and is then stored ahead of it. With a T no order is promised.
+template <typename A, typename B>
+ZELM_INLINE bool straddlesPairs(const A &a, const B &b) {
+    if constexpr (!kIsTransposed<A> && !kIsTransposed<B> && requires { a.start, b.start; })
+        return !isMultipleOf16(a.start) || !isMultipleOf16(b.start);
+    else
+        return false;
+}
+
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) {
@@ -301,19 +311,34 @@ ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape 
         const auto second = b.object(k);
         const auto result = d.object(k);
         constexpr std::uint32_t columns = Shape::columns();
-        for (std::uint32_t i = 0; i < shape.rows(); ++i) {
-            const Address row = result.rowStart(i);
+        const auto rows = [&](auto oneByOne) __attribute__((always_inline)) {
+            for (std::uint32_t i = 0; i < shape.rows(); ++i) {
+                const Address row = result.rowStart(i);
+                const auto element = [&](std::uint32_t j) __attribute__((always_inline)) {
+                    result.set(
+                        i, j, columns,
+                        Op::template apply<double>(value(first, i, j, shape), value(second, i, j, shape)));
+                };
 #pragma GCC unroll 3
-            for (std::uint32_t j = 0; j + 2 <= columns; j += 2) {
-                const __m128d left = _mm_setr_pd(value(first, i, j, shape), value(first, i, j + 1, shape));
-                const __m128d right = _mm_setr_pd(value(second, i, j, shape), value(second, i, j + 1, shape));
-                _mm_store_pd(reinterpret_cast<double *>(row + j * sizeof(double)), Op::apply(left, right));
+                for (std::uint32_t j = 0; j + 2 <= columns; j += 2) {
+                    __m128d left = _mm_setr_pd(value(first, i, j, shape), value(first, i, j + 1, shape));
+                    __m128d right = _mm_setr_pd(value(second, i, j, shape), value(second, i, j + 1, shape));
+                    if constexpr (decltype(oneByOne)::value) {
+                        element(j);
+                        left = _mm_setr_pd(_mm_cvtsd_f64(left), value(first, i, j + 1, shape));
+                        right = _mm_setr_pd(_mm_cvtsd_f64(right), value(second, i, j + 1, shape));
+                    }
+                    _mm_store_pd(reinterpret_cast<double *>(row + j * sizeof(double)),
+                                 Op::apply(left, right));
+                }
+                if constexpr (columns % 2 != 0)
+                    element(columns - 1);
             }
-            if constexpr (columns % 2 != 0)
-                result.set(i, columns - 1, columns,
-                           Op::template apply<double>(value(first, i, columns - 1, shape),
-                                                      value(second, i, columns - 1, shape)));
-        }
+        };
+        if (straddlesPairs(first, second))
+            rows(std::true_type{});
+        else
+            rows(std::false_type{});
         return ZELM_OK;
     };
     return forEachObject(count, one, a, b, d);

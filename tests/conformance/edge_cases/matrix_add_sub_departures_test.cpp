@@ -646,6 +646,25 @@ TEST(MatrixAddSubDeathTest, NineMembersRaiseAnAlignmentFaultForAMixture) {
     }
 }
 
+// The second object of src1 is not aligned, and dst's lies one element on: each result is the next one's
+// source.
+TEST(MatrixAddSubDepartures, SubMama64f4x4ListFollowsTheTraversalAcrossAlignedPairs) {
+    alignas(16) std::array<double, 40> memory;
+    alignas(16) std::array<double, 32> other;
+    for (std::size_t e = 0; e < 40; ++e)
+        memory[e] = static_cast<double>(e * e);
+    for (std::size_t e = 0; e < 32; ++e)
+        other[e] = static_cast<double>(3 * e);
+    auto expected = memory;
+    for (const std::size_t start : {0u, 17u})
+        for (std::size_t e = 0; e < 16; ++e)
+            expected[start + start % 2 + e] = expected[start + e] - other[start / 17 * 16 + e];
+    const double *const sources[] = {&memory[0], &memory[17]}, *const others[] = {&other[0], &other[16]};
+    double *const results[] = {&memory[0], &memory[18]};
+    EXPECT_EQ(zelmSub_mama_64f_4x4_L(sources, 0, 4 * d, others, 0, 4 * d, results, 0, 4 * d, 2), ZELM_OK);
+    EXPECT_EQ(memory, expected);
+}
+
 TEST(MatrixAddSubDepartures, TheirNeighboursTakeAMixture) {
     const Member<double> members[] = {
         MEMBER(zelmSub_maTm_64f_6x6), MEMBER(zelmAdd_mam_64f_6x6),     MEMBER(zelmAdd_maTma_64f_5x5_L),
