@@ -92,7 +92,8 @@ void expectSameBits(const Kernels<T> (&all)[N]) {
         for (int round = 0; round < 2000; ++round) {
             T matrix[36];
             for (T &element : matrix)
-                element = static_cast<T>(std::ldexp(random() * 0x1p-31 - 1, static_cast<int>(random() % 8)));
+                element = static_cast<T>(
+                    std::ldexp(static_cast<double>(random()) * 0x1p-31 - 1, static_cast<int>(random() % 8)));
             const Results<T> r = determinants(kernels, matrix);
             EXPECT_EQ(std::memcmp(&r.m, &r.ma, sizeof(T)), 0) << kernels.n;
             EXPECT_EQ(std::memcmp(&r.m, &r.list, sizeof(T)), 0) << kernels.n;
