@@ -142,7 +142,8 @@ std::uint64_t drawNumber(Random &random, Style style, bool wide64) {
     case Style::Threshold:
         return random.chance(50) ? nearThreshold(random, format) : integer(format, random.between(-1, 1));
     case Style::Signs:
-        return assemble(format, random.chance(50), random.chance(50) ? 0 : format.exponentBias, 0);
+        const bool negative = random.chance(50), zero = random.chance(50);
+        return assemble(format, negative, zero ? 0 : format.exponentBias, 0);
     }
     return 0;
 }
