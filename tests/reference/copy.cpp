@@ -88,7 +88,15 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
 
 } // namespace
 
-const Family copy = {serves,      signature, run,     Overlap::Apart, Content::Numbers, nullptr,
-                     followsNull, nullptr,   nullptr, nullptr,        raisesFault};
+const Family copy = {.serves = serves,
+                     .signature = signature,
+                     .run = run,
+                     .overlap = Overlap::Apart,
+                     .content = Content::Numbers,
+                     .followsNull = followsNull,
+                     .raisesFault = raisesFault,
+                     .looksAtAddresses = [](const Cell &cell) {
+                         return cell.type == Type::Float64 && readsTargetTable(cell);
+                     }};
 
 } // namespace zelmref

@@ -113,6 +113,15 @@ bool followsNull(const Call &call, std::size_t) {
 
 } // namespace
 
-const Family dotProduct = {serves, signature, run, Overlap::Any, Content::Sums, overlapWith, followsNull};
+const Family dotProduct = {.serves = serves,
+                           .signature = signature,
+                           .run = run,
+                           .overlap = Overlap::Any,
+                           .content = Content::Sums,
+                           .overlapWith = overlapWith,
+                           .followsNull = followsNull,
+                           .looksAtAddresses = [](const Cell &cell) {
+                               return cell.type == Type::Float64 && splitsLongVectors(cell);
+                           }};
 
 } // namespace zelmref

@@ -126,7 +126,15 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
 
 } // namespace
 
-const Family extract = {serves,      signature, run,     Overlap::Apart, Content::Numbers, nullptr,
-                        followsNull, nullptr,   nullptr, nullptr,        raisesFault};
+const Family extract = {.serves = serves,
+                        .signature = signature,
+                        .run = run,
+                        .overlap = Overlap::Apart,
+                        .content = Content::Numbers,
+                        .followsNull = followsNull,
+                        .raisesFault = raisesFault,
+                        .looksAtAddresses = [](const Cell &cell) {
+                            return cell.type == Type::Float64 && readsRowsUnshifted(cell);
+                        }};
 
 } // namespace zelmref

@@ -122,6 +122,15 @@ bool followsNull(const Call &call, std::size_t) {
 
 } // namespace
 
-const Family l2Norm = {serves, signature, run, Overlap::Any, Content::Sums, overlapWith, followsNull};
+const Family l2Norm = {.serves = serves,
+                       .signature = signature,
+                       .run = run,
+                       .overlap = Overlap::Any,
+                       .content = Content::Sums,
+                       .overlapWith = overlapWith,
+                       .followsNull = followsNull,
+                       .looksAtAddresses = [](const Cell &cell) {
+                           return cell.type == Type::Float64 && splitsLongVectors(cell);
+                       }};
 
 } // namespace zelmref

@@ -289,10 +289,24 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
     return byOtherStride ? leavesMemory(call, isMapped) : isMisaligned(call);
 }
 
+bool looksAtAddresses(const Cell &cell) {
+    return cell.type == Type::Float64 &&
+           (departs::decidesByAlignment(cell) || departs::mayFault(cell) ||
+            departs::takesFirstElemStride(cell) || departs::takesLastColumnAtSecondRowStride(cell));
+}
+
 } // namespace
 
-const Family matrixAddSub = {serves,           signature,       run,         Overlap::Any,
-                             Content::Numbers, overlapWith,     followsNull, nullptr,
-                             entriesReached,   countsZeroAsOne, raisesFault};
+const Family matrixAddSub = {.serves = serves,
+                             .signature = signature,
+                             .run = run,
+                             .overlap = Overlap::Any,
+                             .content = Content::Numbers,
+                             .overlapWith = overlapWith,
+                             .followsNull = followsNull,
+                             .entriesReached = entriesReached,
+                             .countsZeroAsOne = countsZeroAsOne,
+                             .raisesFault = raisesFault,
+                             .looksAtAddresses = looksAtAddresses};
 
 } // namespace zelmref
