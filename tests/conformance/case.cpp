@@ -151,7 +151,8 @@ private:
                              : Relation::Touching;
         // Steps of half an element only where no elements coincide: none must cover half of another, and the
         // two targets' cases must mean the same although their strides differ.
-        halfSteps_ = random_.chance(25) && relation_ == Relation::Apart && size_ == 8;
+        halfSteps_ = random_.chance(25) && relation_ == Relation::Apart && size_ == 8 &&
+                     !target_.family->columnsReached;
         sixteens_ = random_.chance(12) && !halfSteps_;
     }
 
