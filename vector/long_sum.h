@@ -37,13 +37,13 @@ struct Squares {
 // The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 +
 // s3).
 ZELM_INLINE float combined(__m128 s0to3, __m128 s4to7) {
-    float sum[4];
+    float sum[4] = {};
     storePack(addressOf(sum), s0to3 + s4to7);
     return (sum[0] + sum[1]) + (sum[2] + sum[3]);
 }
 
 ZELM_INLINE double combined(__m128d s0to1, __m128d s2to3) {
-    double sum[2];
+    double sum[2] = {};
     storePack(addressOf(sum), s0to1 + s2to3);
     return sum[0] + sum[1];
 }
