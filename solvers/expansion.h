@@ -7,6 +7,12 @@ namespace zelm::solvers {
 
 using namespace zelm::frame;
 
+// How many columns a set of up to six holds. Without hardware for it the compiler's own count is a call.
+constexpr unsigned numberOf(unsigned columns) {
+    return (columns & 1) + (columns >> 1 & 1) + (columns >> 2 & 1) + (columns >> 3 & 1) + (columns >> 4 & 1) +
+           (columns >> 5 & 1);
+}
+
 // What is done to a minor before it is used again: nothing, unless a family says otherwise.
 struct MinorsAsTheyAre {
     template <typename V>
@@ -38,7 +44,7 @@ ZELM_INLINE V expandByMinors(const Elements &a, Keep keep) {
         number = 0;
 #pragma GCC unroll 64
         for (unsigned columns = all - 1; columns != 0; --columns) {
-            if (static_cast<unsigned>(__builtin_popcount(columns)) != order)
+            if (numberOf(columns) != order)
                 continue;
             V sum{};
             unsigned term = 0;
