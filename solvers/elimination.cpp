@@ -19,7 +19,9 @@ ZELM_INLINE T negatedMultiplier(T element, T pivot) {
 template <typename T, MultiplierIn multiplier>
 void eliminate(const WorkSpace<T> &space, std::uint32_t order, Elimination<T> &result) {
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(space.row(i)); };
-    const auto element = [&](std::uint32_t i, std::uint32_t j) { return load<T>(space.element(i, j)); };
+    const auto element = [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
+        return load<T>(space.element(i, j));
+    };
     for (std::uint32_t i = 0; i < order; ++i)
         store(space.row(i), i);
 

@@ -63,7 +63,7 @@ ZELM_INLINE V tree32(const V (&s)[5][5]) {
 // Order 6 in 32-bit float, where the object and its row stride are multiples of 16 ...
 template <typename V>
 ZELM_INLINE V tree32Aligned(const V (&s)[6][6]) {
-    const auto last = [&](unsigned j) {
+    const auto last = [&](unsigned j) __attribute__((always_inline)) {
         return ((s[0][j] + s[2][j]) + s[4][j]) + ((s[1][j] + s[3][j]) + s[5][j]);
     };
     return ((columnSum(s, 0) + columnSum(s, 2)) + (columnSum(s, 1) + columnSum(s, 3))) + (last(4) + last(5));
@@ -72,7 +72,7 @@ ZELM_INLINE V tree32Aligned(const V (&s)[6][6]) {
 // ... and where they are not.
 template <typename V>
 ZELM_INLINE V tree32Unaligned(const V (&s)[6][6]) {
-    const auto column = [&](unsigned j) {
+    const auto column = [&](unsigned j) __attribute__((always_inline)) {
         return ((s[0][j] + s[1][j]) + s[5][j]) + ((s[2][j] + s[3][j]) + s[4][j]);
     };
     const V a = (s[0][4] + s[2][4]) + s[4][4], b = (s[1][4] + s[3][4]) + s[5][4];
@@ -99,8 +99,12 @@ ZELM_INLINE V tree64(const V (&s)[3][3]) {
 
 template <typename V>
 ZELM_INLINE V tree64(const V (&s)[4][4]) {
-    const auto even = [&](unsigned i) { return s[i][0] + s[i][2]; };
-    const auto odd = [&](unsigned i) { return s[i][1] + s[i][3]; };
+    const auto even = [&](unsigned i) __attribute__((always_inline)) {
+        return s[i][0] + s[i][2];
+    };
+    const auto odd = [&](unsigned i) __attribute__((always_inline)) {
+        return s[i][1] + s[i][3];
+    };
     return ((even(0) + even(1)) + (even(2) + even(3))) + ((odd(0) + odd(1)) + (odd(2) + odd(3)));
 }
 
@@ -112,8 +116,10 @@ ZELM_INLINE V tree64(const V (&s)[5][5]) {
 // Order 6 in 64-bit float: the squares in row-major order are dealt to two lanes.
 template <typename V>
 ZELM_INLINE V tree64(const V (&s)[6][6]) {
-    const auto lane = [&](unsigned parity) {
-        const auto t = [&](unsigned m) { return s[(2 * m + parity) / 6][(2 * m + parity) % 6]; };
+    const auto lane = [&](unsigned parity) __attribute__((always_inline)) {
+        const auto t = [&](unsigned m) __attribute__((always_inline)) {
+            return s[(2 * m + parity) / 6][(2 * m + parity) % 6];
+        };
         return ((((t(0) + t(1)) + (t(2) + t(3))) + (t(16) + t(17))) + ((t(4) + t(5)) + (t(6) + t(7)))) +
                (((t(8) + t(9)) + (t(10) + t(11))) + ((t(12) + t(13)) + (t(14) + t(15))));
     };
