@@ -634,6 +634,9 @@ TEST(MatrixAddSubDepartures, NineMembersAreRegularIfAllOrNothingIsAligned) {
 }
 
 TEST(MatrixAddSubDeathTest, NineMembersRaiseAnAlignmentFaultForAMixture) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer reports the store before the processor can refuse it";
+#endif
     for (const auto &member : aligned) {
         SCOPED_TRACE(member.name);
         const Aligned mixture(member, 0, d);
