@@ -95,8 +95,6 @@ const Family copy = {.serves = serves,
                      .content = Content::Numbers,
                      .followsNull = followsNull,
                      .raisesFault = raisesFault,
-                     .looksAtAddresses = [](const Cell &cell) {
-                         return cell.type == Type::Float64 && readsTargetTable(cell);
-                     }};
+                     .looksAtAddresses = readsTargetTable};
 
 } // namespace zelmref

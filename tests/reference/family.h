@@ -68,8 +68,8 @@ struct Family {
     bool (*dimensionsFit)(const Call &call) = nullptr;
     // Is the order in which an object's elements are written left open? Then no two of dst coincide.
     bool (*writesInAnyOrder)(const Cell &cell) = nullptr;
-    // Do results of 64-bit floats, or which cases there are, depend on addresses? Their alignment is not the
-    // same on all targets.
+    // Do results, or which cases there are, depend on addresses? Where the operands lie, and how 64-bit
+    // floats are aligned, is not the same in all builds.
     bool (*looksAtAddresses)(const Cell &cell) = nullptr;
     // The bytes of scratch that a call may use. What they hold after it is open.
     std::size_t (*scratchBytes)(const Call &call) = nullptr;
