@@ -303,11 +303,11 @@ ZELM_INLINE ZelmStatus multiplyGroups(const M &m, const A &a, const X &x, const 
                                       std::uint32_t count) {
     using T = typename D::Element;
     constexpr bool isDense = decltype(d.object(0))::isDense;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         multiplyVectorObject<N>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         if (!groupMayRun<N>(x, d, k) || !groupMayRun<N>(z, d, k))
             return false;
         Pack<T> vectors[N], added[N], result[N];
@@ -349,7 +349,7 @@ ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, con
 template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
                                    std::uint32_t terms, std::uint32_t pitch, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), rows, terms,
                                             pitch);
         return ZELM_OK;
@@ -366,7 +366,7 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
         if (acrossMayRun<N>(a, x, z, d, count))
             return multiplyGroups<N>(Planes<N, A>{a}, a, x, z, d, count);
     }
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         multiplyVectorObject<N>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };

@@ -184,7 +184,7 @@ ZELM_INLINE ZelmStatus luBackSubstOwn(const A &a, const std::uint32_t *pivotInde
         else
             return 0;
     }();
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         if (anyEntryNull(a, k) || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
         const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
@@ -223,7 +223,7 @@ ZELM_INLINE ZelmStatus luBackSubstShared(const A &a, Address pivots, const B &b,
         else
             return 0;
     }();
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         if (!grouped || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
         if constexpr (D::isList) {
@@ -279,7 +279,7 @@ ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIn
         constexpr unsigned N = Size::fixed;
         if (!resultIsDistinct<N>(d))
             return forEachObject(count, inPlace, a, b, d);
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             luBackSubstInRegisters<N>(a.object(k), pivotsOf(k), b.object(k), d.object(k));
             return ZELM_OK;
         };

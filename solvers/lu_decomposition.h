@@ -278,7 +278,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
                                        tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         return luDecompObject(s.object(k), pivotAddress(pivotIndex, k * n), d.object(k), size);
     };
     if constexpr (Size::fixed == 0) {
@@ -290,7 +290,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
             const Extent read = extentOf(s, N, N), written = extentOf(d, N, N);
             const bool distinct = objectElementsAreApart(d, N, N);
             const bool sameStrides = s.rowStride == d.rowStride && s.elemStride == d.elemStride;
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 if (!distinct || anyEntryNull(s, k) || anyEntryNull(d, k))
                     return false;
                 const Lowest<lanes> source = lowestOf<lanes>(s, read, k),
@@ -313,7 +313,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
         } else {
             if (!luDecompInGroups<N>(s, pivotIndex, d, count))
                 return forEachObject(count, one, s, d);
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return luDecompGroup<N>(groupAt(s, k), pivotAddress(pivotIndex, k * n), groupAt(d, k));
             };
             return forEachGroup<lanes>(count, group, one, s, d);

@@ -230,7 +230,7 @@ ZELM_INLINE bool frobeniusGroup(const S &s, const DenseArray<float> &results, st
 template <unsigned N, typename S>
 ZELM_INLINE ZelmStatus frobeniusByFours(const S &s, const DenseArray<float> &results, std::uint32_t count) {
     const std::uint32_t fours = count / 4 * 4;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const Dense<const float> object = s.object(k);
         const float sum = k < fours ? arrayTreeOf<N, true>(object) : arrayTreeOf<N, false>(object);
         results.object(k).set(0, rootByRefinedReciprocal(sum));
@@ -238,7 +238,7 @@ ZELM_INLINE ZelmStatus frobeniusByFours(const S &s, const DenseArray<float> &res
     };
     if (!resultsMissSource<N, N>(s, results, count))
         return forEachObject(count, one, s);
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         return resultsMissGroup<N, N>(s, results, k) && frobeniusGroup<N>(s, results, k);
     };
     return forEachGroup<4>(count, group, one, s);
@@ -255,14 +255,14 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
     if constexpr (Shape::isFixed && isDense && sizeof(T) == 4) {
         return frobeniusByFours<Shape::columns()>(s, results, count);
     } else {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
             return ZELM_OK;
         };
         if constexpr (Shape::isFixed && kLoadsInGroups<S>) {
             constexpr unsigned N = Shape::columns();
             if (count >= kResultGroupsCount && resultsMissSource<N, N>(s, results, count)) {
-                const auto group = [&](std::uint32_t k) {
+                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     if (!resultsMissGroup<N, N>(s, results, k))
                         return false;
                     const Group<S> objects = groupAt(s, k);
