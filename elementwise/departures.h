@@ -195,10 +195,6 @@ struct HeldRegisters {
     double low[kRegisters], high[kRegisters];
 };
 
-ZELM_INLINE bool isMultipleOf16(Address address) {
-    return address % 16 == 0;
-}
-
 template <typename Invariant>
 ZELM_INLINE HeldRegisters holdInRegisters(const Invariant &invariant) {
     const FixedShape<3, 3> shape;

@@ -27,6 +27,10 @@ struct PackOf<double> {
 template <typename T>
 using Pack = typename PackOf<T>::type;
 
+ZELM_INLINE bool isMultipleOf16(Address address) {
+    return address % kPackBytes == 0;
+}
+
 template <typename T>
 ZELM_INLINE Pack<T> loadPack(Address from) {
     if constexpr (sizeof(T) == 4)

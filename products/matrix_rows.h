@@ -58,51 +58,25 @@ struct HeldRows {
     }
 };
 
-// A row of src1, each element in all lanes.
-template <unsigned lane>
-ZELM_INLINE __m128 spread(__m128 pack) {
-    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pack), lane * 0x55));
-}
-
-template <typename T, unsigned N>
-struct SpreadRow {
-    Pack<T> element[N];
-    template <typename A>
-    ZELM_INLINE SpreadRow(const A &a, std::uint32_t i) {
-        constexpr bool byPack = sizeof(T) == 4 && !kIsTransposed<A>;
-        if constexpr (byPack) {
-            const __m128 pack = loadPack<T>(a.rowStart(i));
-            element[0] = spread<0>(pack);
-            element[1] = spread<1>(pack);
-            element[2] = spread<2>(pack);
-            element[3] = spread<3>(pack);
-        }
-#pragma GCC unroll 6
-        for (unsigned t = byPack ? 4 : 0; t < N; ++t)
-            element[t] = broadcast(used(a, i, t, 0));
-    }
-};
-
 template <typename T, unsigned N>
 struct RowResult {
     Pack<T> pack[kRowPacks<T, N>];
     T last;
 };
 
-template <typename T, unsigned N>
-ZELM_INLINE RowResult<T, N> rowTimes(const SpreadRow<T, N> &a, const HeldRows<T, N> &b) {
+template <typename T, unsigned N, typename A>
+ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T, N> &b) {
     RowResult<T, N> row;
     row.last = 0;
 #pragma GCC unroll 6
     for (unsigned t = 0; t < N; ++t) {
-        const Pack<T> factor = a.element[t];
+        const T element = used(a, i, t, 0);
+        const Pack<T> factor = broadcast(element);
 #pragma GCC unroll 3
         for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
             row.pack[p] = t == 0 ? factor * b.pack[t][p] : row.pack[p] + factor * b.pack[t][p];
-        if constexpr (kRowRest<T, N> == 1) {
-            const T product = firstLane(factor) * b.last[t];
-            row.last = t == 0 ? product : row.last + product;
-        }
+        if constexpr (kRowRest<T, N> == 1)
+            row.last = t == 0 ? element * b.last[t] : row.last + element * b.last[t];
     }
     return row;
 }
@@ -120,11 +94,10 @@ template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Dense<float> &d) {
 #pragma GCC unroll 3
     for (unsigned i = 0; i < 6; i += 2) {
-        const SpreadRow<float, 6> upper(a, i), lower(a, i + 1);
         __m128 sums[2], pair;
 #pragma GCC unroll 6
         for (unsigned t = 0; t < 6; ++t) {
-            const __m128 one = upper.element[t], other = lower.element[t];
+            const __m128 one = broadcast(used(a, i, t, 0)), other = broadcast(used(a, i + 1, t, 0));
             const __m128 both = _mm_movelh_ps(one, other) * b.pair[t];
             sums[0] = t == 0 ? one * b.pack[t][0] : sums[0] + one * b.pack[t][0];
             sums[1] = t == 0 ? other * b.pack[t][0] : sums[1] + other * b.pack[t][0];
@@ -141,7 +114,7 @@ template <typename T, unsigned N, typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
-        storeRowOf(rowTimes<T, N>(SpreadRow<T, N>(a, i), b), d, i);
+        storeRowOf(rowOf<T, N>(a, i, b), d, i);
 }
 
 // ---- 32f 3x3: a row is a pack whose last element is not used. Rows that follow each other without a gap are
@@ -182,6 +155,11 @@ struct HeldRows<float, 3> {
 ZELM_INLINE void storeThree(Address to, __m128 row) {
     _mm_storel_pi(reinterpret_cast<__m64 *>(to), row);
     _mm_store_ss(reinterpret_cast<float *>(to + 8), _mm_movehl_ps(row, row));
+}
+
+template <unsigned lane>
+ZELM_INLINE __m128 spread(__m128 pack) {
+    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pack), lane * 0x55));
 }
 
 // A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.

@@ -4,7 +4,7 @@
 
 #include "solvers/determinant_kernels.h"
 #include "solvers/elimination.h"
-#include "solvers/object_groups.h"
+#include "solvers/groups.h"
 
 namespace zelm::solvers {
 

@@ -133,10 +133,7 @@ __attribute__((noinline)) void luBackSubstGroupShared(const Pack<T> (&factors)[N
 template <unsigned N, typename A, typename B, typename D>
 ZELM_INLINE bool luBackSubstInGroups(const A &a, const Range &pivots, const B &b, const D &d,
                                      std::uint32_t count) {
-    if (count < (D::isTable ? kGroupsInTablesCount : kLanes<typename D::Element>) ||
-        count > kMostObjectsInRange)
-        return false;
-    return elementsAreApart(d, 1, N, count) && isUntouched(a, N, N, d, 1, N, count) &&
+    return mayWriteGroups<N>(d, 1, count) && isUntouched(a, N, N, d, 1, N, count) &&
            isUntouched(b, 1, N, d, 1, N, count) && areDisjoint(pivots, rangeOf(d, 1, N, count));
 }
 

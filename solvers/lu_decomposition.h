@@ -248,10 +248,7 @@ __attribute__((noinline)) bool luDecompGroup(const Group<S> &s, Address pivots, 
 template <unsigned N, typename S, typename D>
 ZELM_INLINE bool luDecompInGroups(const S &s, const std::uint32_t *pivotIndex, const D &d,
                                   std::uint32_t count) {
-    if (count < (D::isTable ? kGroupsInTablesCount : kLanes<typename D::Element>) ||
-        count > kMostObjectsInRange)
-        return false;
-    if (!elementsAreApart(d, N, N, count))
+    if (!mayWriteGroups<N>(d, N, count))
         return false;
     const Range pivots = rangeFrom(addressOf(pivotIndex), std::int64_t{count} * N * 4);
     return (coincide(s, d) || isUntouched(s, N, N, d, N, N, count)) &&

@@ -113,7 +113,7 @@ ZELM_INLINE __m128 lastTwoColumns(const Dense<const float> &s, unsigned parity) 
 // others.
 ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<6, 6>) {
     const __m128 even = lastTwoColumns(s, 0), odd = lastTwoColumns(s, 1);
-    if (s.start % 16 == 0 && s.rowStride % 16 == 0) {
+    if (isMultipleOf16(s.start) && isMultipleOf16(s.rowStride)) {
         const __m128 last = even + odd;
         return evenThenOdd(columnSumsFrom<6>(s, 0)) + (firstLane(last) + last[1]);
     }
