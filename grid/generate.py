@@ -13,6 +13,7 @@ import re
 import sys
 import textwrap
 from dataclasses import dataclass
+from itertools import groupby
 from pathlib import Path
 
 from catalogue import (CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES,
@@ -266,7 +267,7 @@ def row_comment(row):
         units.append("count in objects")
     units.append("strides and shifts in bytes")
     paragraphs = [
-        f"zelm{row.operation}_{row.descriptor}: {row.formula}",
+        row.formula + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
         "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
         "Overlap: " + family.overlap,
@@ -275,45 +276,58 @@ def row_comment(row):
 
 
 def block_comment(paragraphs):
-    lines = []
-    for paragraph in paragraphs:
-        lines += textwrap.wrap(paragraph, WIDTH - 3, subsequent_indent="  ", break_long_words=False,
-                               break_on_hyphens=False)
-    return "/*\n" + "\n".join(f" * {line}" for line in lines) + "\n */\n"
+    texts = ["\n".join(textwrap.wrap(paragraph, WIDTH - 3, break_long_words=False, break_on_hyphens=False))
+             for paragraph in paragraphs]
+    lines = "\n\n".join(texts).split("\n")
+    return "/**\n" + "\n".join(f" * {line}" for line in lines) + "\n */\n"
+
+
+def member_group(name, declarations):
+    """The declarations of a row under its name. The comment of the first one documents those without their own."""
+    return [f"\n/** @name {name} */\n/** @{{ */\n", *declarations, "/** @} */\n"]
 
 
 def kernel_declarations(family):
     declared = [kernel for kernel in KERNELS.values() if kernel.row.family == family]
     if not declared:
         return []
-    title = f"==== {FAMILIES[family].title}: the kernels ===="
-    return ["\n" + block_comment([title, KERNEL_NOTES]), *(declaration(kernel) + ";\n" for kernel in declared)]
+    operation = declared[0].row.operation
+    return member_group(f"a6_{operation}", [block_comment([KERNEL_NOTES]),
+                                            *(declaration(kernel) + ";\n" for kernel in declared)])
+
+
+def row_declarations(row, row_members):
+    out = [row_comment(row)]
+    regular = next((m for m in row_members if m.name not in DEPARTURES), None)
+    # The row's comment documents what follows it, so a regular member comes first.
+    for member in sorted(row_members, key=lambda m: m is not regular):
+        if member.name in DEPARTURES:
+            out.append(block_comment([f"Departs from its row: {DEPARTURES[member.name].note}.",
+                                      f"@copydoc {regular.name}"]))
+        out.append(declaration(member) + ";\n")
+    return member_group(f"zelm{row.operation}_{row.descriptor}", out)
 
 
 def header(subsystem, all_members):
     guard = f"ZELM_{subsystem.upper()}_H"
-    out = [f"/* Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py. */\n",
+    out = [f"/** @file\n * Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py.\n */\n",
            f"#ifndef {guard}\n#define {guard}\n\n#include \"types.h\"\n\n",
            "/* clang-format off */\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n"]
-    family, row = None, None
-    for member in all_members:
-        if member.row.family != family:
-            family = member.row.family
-            about = FAMILIES[family]
-            out.append("\n" + block_comment([f"==== {about.title} ====", *([about.notes] if about.notes else [])]))
-            out += kernel_declarations(family)
-        if member.row is not row:
-            row = member.row
-            out.append("\n" + row_comment(row))
-        if member.name in DEPARTURES:
-            out.append(f"/* departs from its row: {DEPARTURES[member.name].note} */\n")
-        out.append(declaration(member) + ";\n")
+    for family, family_members in groupby(all_members, key=lambda m: m.row.family):
+        about = FAMILIES[family]
+        title = f"@defgroup {family.replace('-', '_')} {about.title}"
+        out.append("\n" + block_comment([title, *([about.notes] if about.notes else [])]) + "/** @{ */\n")
+        out += kernel_declarations(family)
+        for row, row_members in groupby(family_members, key=lambda m: m.row):
+            out += row_declarations(row, list(row_members))
+        out.append("\n/** @} */\n")
     out.append("\n#ifdef __cplusplus\n}\n#endif\n/* clang-format on */\n\n#endif\n")
     return "".join(out)
 
 
 def write_headers(directory):
-    everything = list(members())
+    order = list(FAMILIES)
+    everything = sorted(members(), key=lambda m: order.index(m.row.family))
     subsystems = sorted({FAMILIES[m.row.family].subsystem for m in everything})
     return {directory / "zelm" / f"{subsystem}.h":
             header(subsystem, [m for m in everything if FAMILIES[m.row.family].subsystem == subsystem])

@@ -1,4 +1,6 @@
-/* Subsystem elementwise of zelm. Written by grid/generate.py from grid/catalogue.py. */
+/** @file
+ * Subsystem elementwise of zelm. Written by grid/generate.py from grid/catalogue.py.
+ */
 #ifndef ZELM_ELEMENTWISE_H
 #define ZELM_ELEMENTWISE_H
 
@@ -9,21 +11,28 @@
 extern "C" {
 #endif
 
-/*
- * ==== Addition and subtraction of vectors ====
+/**
+ * @defgroup vector_add_sub Addition and subtraction of vectors
+ *
  * Each element is one addition or subtraction, rounded to the element type. An invariant vector is read once,
- *   before the first object, in the fixed-size standard and L forms (the departures named at their prototypes
- *   aside), and anew for every object in all other forms.
+ * before the first object, in the fixed-size standard and L forms (the departures named at their prototypes aside),
+ * and anew for every object in all other forms.
  */
+/** @{ */
 
-/*
- * zelmAdd_vv: dst[j] = src1[j] + src2[j]
+/** @name zelmAdd_vv */
+/** @{ */
+/**
+ * dst[j] = src1[j] + src2[j].
+ *
  * Shapes: src1: vector; src2: vector; dst: vector. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmAdd_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmAdd_vv_32f_3x1(const float *src1, const float *src2, float *dst);
@@ -75,15 +84,21 @@ ZELM_API ZelmStatus zelmAdd_vv_64f_5x1_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_vv_64f_6x1_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_vc: dst[j] = src[j] + val
+/** @name zelmAdd_vc */
+/** @{ */
+/**
+ * dst[j] = src[j] + val.
+ *
  * Shapes: src: vector; dst: vector; val: by value. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmAdd_vc_32f(const float *src, float val, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmAdd_vc_32f_3x1(const float *src, float val, float *dst);
@@ -135,15 +150,21 @@ ZELM_API ZelmStatus zelmAdd_vc_64f_5x1_P(const double *const *srcTable, int32_t 
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_vc_64f_6x1_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_vav: dst[k][j] = src1[k][j] + src2[j]
+/** @name zelmAdd_vav */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] + src2[j].
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: array of vectors. Units: len in
- *   elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmAdd_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -229,7 +250,11 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmAdd_vav_32f
+ */
 ZELM_API ZelmStatus zelmAdd_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
@@ -270,7 +295,11 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1_L(const double *const *src1Table, int32_
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmAdd_vav_32f
+ */
 ZELM_API ZelmStatus zelmAdd_vav_64f_6x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vav_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
@@ -303,15 +332,21 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_5x1_LS2(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmAdd_vav_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_vac: dst[k][j] = src[k][j] + val
+/** @name zelmAdd_vac */
+/** @{ */
+/**
+ * dst[k][j] = src[k][j] + val.
+ *
  * Shapes: src: array of vectors; dst: array of vectors; val: by value. Units: len in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmAdd_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -433,15 +468,21 @@ ZELM_API ZelmStatus zelmAdd_vac_64f_5x1_LS2(const double *const *srcTable, int32
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 ZELM_API ZelmStatus zelmAdd_vac_64f_6x1_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_vava: dst[k][j] = src1[k][j] + src2[k][j]
+/** @name zelmAdd_vava */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] + src2[k][j].
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: array of vectors. Units: len in elements (a size in
- *   the name stands for it); count in objects; strides and shifts in bytes.
+ * the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmAdd_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2,
         int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -605,15 +646,21 @@ ZELM_API ZelmStatus zelmAdd_vava_64f_5x1_LS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmAdd_vava_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_vv: dst[j] = src1[j] - src2[j]
+/** @name zelmSub_vv */
+/** @{ */
+/**
+ * dst[j] = src1[j] - src2[j].
+ *
  * Shapes: src1: vector; src2: vector; dst: vector. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmSub_vv_32f_3x1(const float *src1, const float *src2, float *dst);
@@ -665,15 +712,21 @@ ZELM_API ZelmStatus zelmSub_vv_64f_5x1_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_vv_64f_6x1_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_vc: dst[j] = src[j] - val
+/** @name zelmSub_vc */
+/** @{ */
+/**
+ * dst[j] = src[j] - val.
+ *
  * Shapes: src: vector; dst: vector; val: by value. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vc_32f(const float *src, float val, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmSub_vc_32f_3x1(const float *src, float val, float *dst);
@@ -725,15 +778,21 @@ ZELM_API ZelmStatus zelmSub_vc_64f_5x1_P(const double *const *srcTable, int32_t 
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_vc_64f_6x1_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_cv: dst[j] = val - src[j]
+/** @name zelmSub_cv */
+/** @{ */
+/**
+ * dst[j] = val - src[j].
+ *
  * Shapes: src: vector; dst: vector; val: by value. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_cv_32f(const float *src, float val, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmSub_cv_32f_3x1(const float *src, float val, float *dst);
@@ -785,15 +844,21 @@ ZELM_API ZelmStatus zelmSub_cv_64f_5x1_P(const double *const *srcTable, int32_t 
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_cv_64f_6x1_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_vav: dst[k][j] = src1[k][j] - src2[j]
+/** @name zelmSub_vav */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] - src2[j].
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: array of vectors. Units: len in
- *   elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -879,7 +944,11 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_vav_32f
+ */
 ZELM_API ZelmStatus zelmSub_vav_64f_6x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1ElemStride,
@@ -920,7 +989,11 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1_L(const double *const *src1Table, int32_
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_vav_32f
+ */
 ZELM_API ZelmStatus zelmSub_vav_64f_6x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vav_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
@@ -953,15 +1026,21 @@ ZELM_API ZelmStatus zelmSub_vav_64f_5x1_LS2(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmSub_vav_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_vac: dst[k][j] = src[k][j] - val
+/** @name zelmSub_vac */
+/** @{ */
+/**
+ * dst[k][j] = src[k][j] - val.
+ *
  * Shapes: src: array of vectors; dst: array of vectors; val: by value. Units: len in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -1083,15 +1162,21 @@ ZELM_API ZelmStatus zelmSub_vac_64f_5x1_LS2(const double *const *srcTable, int32
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vac_64f_6x1_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_vava: dst[k][j] = src1[k][j] - src2[k][j]
+/** @name zelmSub_vava */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] - src2[k][j].
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: array of vectors. Units: len in elements (a size in
- *   the name stands for it); count in objects; strides and shifts in bytes.
+ * the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2,
         int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -1255,15 +1340,21 @@ ZELM_API ZelmStatus zelmSub_vava_64f_5x1_LS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmSub_vava_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_vva: dst[k][j] = src1[j] - src2[k][j]
+/** @name zelmSub_vva */
+/** @{ */
+/**
+ * dst[k][j] = src1[j] - src2[k][j].
+ *
  * Shapes: src1: vector, the same for every object; src2: array of vectors; dst: array of vectors. Units: len in
- *   elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_vva_32f(const float *src1, const float *src2, int32_t src2ObjStride, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -1349,7 +1440,11 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1(const double *src1, const double *src2, 
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
         int32_t dstObjStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_vva_32f
+ */
 ZELM_API ZelmStatus zelmSub_vva_64f_6x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
         int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_S2(const double *src1, int32_t src1ElemStride, const double *src2,
@@ -1390,7 +1485,11 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1_L(const double *src1, const double *cons
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1_L(const double *src1, const double *const *src2Table, int32_t src2Shift,
         double *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_vva_32f
+ */
 ZELM_API ZelmStatus zelmSub_vva_64f_6x1_L(const double *src1, const double *const *src2Table, int32_t src2Shift,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmSub_vva_64f_PS2(const double *const *src1Table, int32_t src1Shift,
@@ -1423,15 +1522,21 @@ ZELM_API ZelmStatus zelmSub_vva_64f_5x1_LS2(const double *src1, int32_t src1Elem
 ZELM_API ZelmStatus zelmSub_vva_64f_6x1_LS2(const double *src1, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_cva: dst[k][j] = val - src[k][j]
+/** @name zelmSub_cva */
+/** @{ */
+/**
+ * dst[k][j] = val - src[k][j].
+ *
  * Shapes: src: array of vectors; dst: array of vectors; val: by value. Units: len in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
- *   inside it over elements, gives in ascending order.
+ * inside it over elements, gives in ascending order.
  */
 ZELM_API ZelmStatus zelmSub_cva_32f(const float *src, int32_t srcObjStride, float val, float *dst,
         int32_t dstObjStride, uint32_t len, uint32_t count);
@@ -1553,17 +1658,26 @@ ZELM_API ZelmStatus zelmSub_cva_64f_5x1_LS2(const double *const *srcTable, int32
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 ZELM_API ZelmStatus zelmSub_cva_64f_6x1_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Addition and subtraction of matrices ====
+/** @} */
+
+/**
+ * @defgroup matrix_add_sub Addition and subtraction of matrices
  */
+/** @{ */
 
-/*
- * zelmAdd_mm: dst[i][j] = src1[i][j] + src2[i][j]
+/** @name zelmAdd_mm */
+/** @{ */
+/**
+ * dst[i][j] = src1[i][j] + src2[i][j].
+ *
  * Shapes: src1: matrix; src2: matrix; dst: matrix. Units: width, height in elements (a size in the name stands for
- *   them); strides and shifts in bytes.
+ * them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mm_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -1638,13 +1752,19 @@ ZELM_API ZelmStatus zelmAdd_mm_64f_5x5_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_mm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_mmT: dst[i][j] = src1[i][j] + src2[j][i]
+/** @name zelmAdd_mmT */
+/** @{ */
+/**
+ * dst[i][j] = src1[i][j] + src2[j][i].
+ *
  * Shapes: src1: matrix; src2: matrix used transposed; dst: matrix. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -1672,7 +1792,11 @@ ZELM_API ZelmStatus zelmAdd_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmAdd_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mmT_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -1709,7 +1833,11 @@ ZELM_API ZelmStatus zelmAdd_mmT_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmAdd_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mmT_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -1721,13 +1849,19 @@ ZELM_API ZelmStatus zelmAdd_mmT_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_mmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_mTm: dst[i][j] = src1[j][i] + src2[i][j]
+/** @name zelmAdd_mTm */
+/** @{ */
+/**
+ * dst[i][j] = src1[j][i] + src2[i][j].
+ *
  * Shapes: src1: matrix used transposed; src2: matrix; dst: matrix. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -1755,7 +1889,11 @@ ZELM_API ZelmStatus zelmAdd_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmAdd_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mTm_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mTm_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -1792,7 +1930,11 @@ ZELM_API ZelmStatus zelmAdd_mTm_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmAdd_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mTm_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mTm_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -1804,13 +1946,19 @@ ZELM_API ZelmStatus zelmAdd_mTm_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_mTm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_mTmT: dst[i][j] = src1[j][i] + src2[j][i]
+/** @name zelmAdd_mTmT */
+/** @{ */
+/**
+ * dst[i][j] = src1[j][i] + src2[j][i].
+ *
  * Shapes: src1: matrix used transposed; src2: matrix used transposed; dst: matrix. Units: width, height in elements
- *   (a size in the name stands for them); strides and shifts in bytes.
+ * (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -1838,7 +1986,11 @@ ZELM_API ZelmStatus zelmAdd_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmAdd_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mTmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mTmT_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -1875,7 +2027,11 @@ ZELM_API ZelmStatus zelmAdd_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmAdd_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmAdd_mTmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mTmT_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -1887,19 +2043,29 @@ ZELM_API ZelmStatus zelmAdd_mTmT_64f_5x5_P(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmAdd_mTmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmAdd_mam: dst[k][i][j] = src1[k][i][j] + src2[i][j]
+/** @name zelmAdd_mam */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] + src2[i][j].
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1 */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ *
+ * @copydoc zelmAdd_mam_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -1942,7 +2108,11 @@ ZELM_API ZelmStatus zelmAdd_mam_32f_6x6_P(const float *const *src1Table, int32_t
 ZELM_API ZelmStatus zelmAdd_mam_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1 */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ *
+ * @copydoc zelmAdd_mam_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mam_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -1995,7 +2165,11 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_3x3(const double *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmAdd_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmAdd_mam_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2036,14 +2210,23 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_6x6_P(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmAdd_mam_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmAdd_mam_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mam_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 ZELM_API ZelmStatus zelmAdd_mam_64f_4x4_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmAdd_mam_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mam_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2085,20 +2268,31 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_6x6_LS2(const double *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_mamT: dst[k][i][j] = src1[k][i][j] + src2[j][i]
+/** @name zelmAdd_mamT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] + src2[j][i].
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object used transposed; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
+ * read, rows of src2 lie at src1RowStride.
+ *
+ * @copydoc zelmAdd_mamT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2141,7 +2335,12 @@ ZELM_API ZelmStatus zelmAdd_mamT_32f_6x6_P(const float *const *src1Table, int32_
 ZELM_API ZelmStatus zelmAdd_mamT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
+ * read, rows of src2 lie at src1RowStride.
+ *
+ * @copydoc zelmAdd_mamT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mamT_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2201,7 +2400,12 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_4x4(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmAdd_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmAdd_mamT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2239,7 +2443,12 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_6x6_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmAdd_mamT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmAdd_mamT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mamT_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2287,13 +2496,19 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_mama: dst[k][i][j] = src1[k][i][j] + src2[k][i][j]
+/** @name zelmAdd_mama */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] + src2[k][i][j].
+ *
  * Shapes: src1: array of matrices; src2: array of matrices; dst: array of matrices. Units: width, height in
- *   elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -2401,7 +2616,11 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_3x3(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmAdd_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmAdd_mama_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -2452,7 +2671,11 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_3x3_L(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmAdd_mama_64f_4x4_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmAdd_mama_32f
+ */
 ZELM_API ZelmStatus zelmAdd_mama_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2494,13 +2717,19 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_mamaT: dst[k][i][j] = src1[k][i][j] + src2[k][j][i]
+/** @name zelmAdd_mamaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] + src2[k][j][i].
+ *
  * Shapes: src1: array of matrices; src2: array of matrices used transposed; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -2699,14 +2928,20 @@ ZELM_API ZelmStatus zelmAdd_mamaT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_maTm: dst[k][i][j] = src1[k][j][i] + src2[i][j]
+/** @name zelmAdd_maTm */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] + src2[i][j].
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -2813,7 +3048,12 @@ ZELM_API ZelmStatus zelmAdd_maTm_64f_4x4(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmAdd_maTm_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmAdd_maTm_32f
+ */
 ZELM_API ZelmStatus zelmAdd_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2898,14 +3138,20 @@ ZELM_API ZelmStatus zelmAdd_maTm_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_maTmT: dst[k][i][j] = src1[k][j][i] + src2[j][i]
+/** @name zelmAdd_maTmT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] + src2[j][i].
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object used transposed; dst:
- *   array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
- *   strides and shifts in bytes.
+ * array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -3003,7 +3249,11 @@ ZELM_API ZelmStatus zelmAdd_maTmT_32f_6x6_LS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmAdd_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmAdd_maTmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_maTmT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -3013,7 +3263,12 @@ ZELM_API ZelmStatus zelmAdd_maTmT_64f_4x4(const double *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmAdd_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmAdd_maTmT_32f
+ */
 ZELM_API ZelmStatus zelmAdd_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -3098,13 +3353,19 @@ ZELM_API ZelmStatus zelmAdd_maTmT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_maTma: dst[k][i][j] = src1[k][j][i] + src2[k][i][j]
+/** @name zelmAdd_maTma */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] + src2[k][i][j].
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -3303,14 +3564,20 @@ ZELM_API ZelmStatus zelmAdd_maTma_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmAdd_maTmaT: dst[k][i][j] = src1[k][j][i] + src2[k][j][i]
+/** @name zelmAdd_maTmaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] + src2[k][j][i].
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices used transposed; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmAdd_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -3509,13 +3776,19 @@ ZELM_API ZelmStatus zelmAdd_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mm: dst[i][j] = src1[i][j] - src2[i][j]
+/** @name zelmSub_mm */
+/** @{ */
+/**
+ * dst[i][j] = src1[i][j] - src2[i][j].
+ *
  * Shapes: src1: matrix; src2: matrix; dst: matrix. Units: width, height in elements (a size in the name stands for
- *   them); strides and shifts in bytes.
+ * them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mm_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -3590,13 +3863,19 @@ ZELM_API ZelmStatus zelmSub_mm_64f_5x5_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_mm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_mmT: dst[i][j] = src1[i][j] - src2[j][i]
+/** @name zelmSub_mmT */
+/** @{ */
+/**
+ * dst[i][j] = src1[i][j] - src2[j][i].
+ *
  * Shapes: src1: matrix; src2: matrix used transposed; dst: matrix. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mmT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -3624,7 +3903,11 @@ ZELM_API ZelmStatus zelmSub_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmSub_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmT_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -3661,7 +3944,11 @@ ZELM_API ZelmStatus zelmSub_mmT_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmSub_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmT_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -3673,13 +3960,19 @@ ZELM_API ZelmStatus zelmSub_mmT_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_mmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_mTm: dst[i][j] = src1[j][i] - src2[i][j]
+/** @name zelmSub_mTm */
+/** @{ */
+/**
+ * dst[i][j] = src1[j][i] - src2[i][j].
+ *
  * Shapes: src1: matrix used transposed; src2: matrix; dst: matrix. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mTm_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -3707,7 +4000,11 @@ ZELM_API ZelmStatus zelmSub_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmSub_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mTm_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTm_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -3741,11 +4038,19 @@ ZELM_API ZelmStatus zelmSub_mTm_64f_4x4_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmSub_mTm_64f_5x5_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: src2ElemStride is not read, elements of src2 lie at src1ElemStride */
+/**
+ * Departs from its row: src2ElemStride is not read, elements of src2 lie at src1ElemStride.
+ *
+ * @copydoc zelmSub_mTm_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mTm_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTm_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -3757,13 +4062,19 @@ ZELM_API ZelmStatus zelmSub_mTm_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_mTm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_mTmT: dst[i][j] = src1[j][i] - src2[j][i]
+/** @name zelmSub_mTmT */
+/** @{ */
+/**
+ * dst[i][j] = src1[j][i] - src2[j][i].
+ *
  * Shapes: src1: matrix used transposed; src2: matrix used transposed; dst: matrix. Units: width, height in elements
- *   (a size in the name stands for them); strides and shifts in bytes.
+ * (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mTmT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -3774,7 +4085,11 @@ ZELM_API ZelmStatus zelmSub_mTmT_32f_4x4(const float *src1, int32_t src1RowStrid
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmSub_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
-/* departs from its row: row 3 of dst receives the values of row 2 */
+/**
+ * Departs from its row: row 3 of dst receives the values of row 2.
+ *
+ * @copydoc zelmSub_mTmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmSub_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
@@ -3792,7 +4107,11 @@ ZELM_API ZelmStatus zelmSub_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmSub_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mTmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTmT_32f_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t width,
         uint32_t height);
@@ -3829,7 +4148,11 @@ ZELM_API ZelmStatus zelmSub_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmSub_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
-/* departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i */
+/**
+ * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ *
+ * @copydoc zelmSub_mTmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTmT_64f_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t width, uint32_t height);
@@ -3841,19 +4164,29 @@ ZELM_API ZelmStatus zelmSub_mTmT_64f_5x5_P(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSub_mTmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSub_mam: dst[k][i][j] = src1[k][i][j] - src2[i][j]
+/** @name zelmSub_mam */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] - src2[i][j].
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1 */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ *
+ * @copydoc zelmSub_mam_32f
+ */
 ZELM_API ZelmStatus zelmSub_mam_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -3896,7 +4229,11 @@ ZELM_API ZelmStatus zelmSub_mam_32f_6x6_P(const float *const *src1Table, int32_t
 ZELM_API ZelmStatus zelmSub_mam_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1 */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ *
+ * @copydoc zelmSub_mam_32f
+ */
 ZELM_API ZelmStatus zelmSub_mam_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -3949,7 +4286,11 @@ ZELM_API ZelmStatus zelmSub_mam_64f_3x3(const double *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmSub_mam_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmSub_mam_32f
+ */
 ZELM_API ZelmStatus zelmSub_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -3990,14 +4331,23 @@ ZELM_API ZelmStatus zelmSub_mam_64f_6x6_P(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmSub_mam_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmSub_mam_32f
+ */
 ZELM_API ZelmStatus zelmSub_mam_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 ZELM_API ZelmStatus zelmSub_mam_64f_4x4_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmSub_mam_32f
+ */
 ZELM_API ZelmStatus zelmSub_mam_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4039,20 +4389,31 @@ ZELM_API ZelmStatus zelmSub_mam_64f_6x6_LS2(const double *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mamT: dst[k][i][j] = src1[k][i][j] - src2[j][i]
+/** @name zelmSub_mamT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] - src2[j][i].
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object used transposed; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
+ * read, rows of src2 lie at src1RowStride.
+ *
+ * @copydoc zelmSub_mamT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -4095,7 +4456,12 @@ ZELM_API ZelmStatus zelmSub_mamT_32f_6x6_P(const float *const *src1Table, int32_
 ZELM_API ZelmStatus zelmSub_mamT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride */
+/**
+ * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
+ * read, rows of src2 lie at src1RowStride.
+ *
+ * @copydoc zelmSub_mamT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamT_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4146,7 +4512,12 @@ ZELM_API ZelmStatus zelmSub_mamT_32f_6x6_LS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmSub_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_mamT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -4156,7 +4527,12 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_4x4(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmSub_mamT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_mamT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -4194,7 +4570,12 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_6x6_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmSub_mamT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmSub_mamT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamT_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4242,13 +4623,19 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mama: dst[k][i][j] = src1[k][i][j] - src2[k][i][j]
+/** @name zelmSub_mama */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] - src2[k][i][j].
+ *
  * Shapes: src1: array of matrices; src2: array of matrices; dst: array of matrices. Units: width, height in
- *   elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -4356,7 +4743,11 @@ ZELM_API ZelmStatus zelmSub_mama_64f_3x3(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmSub_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmSub_mama_32f
+ */
 ZELM_API ZelmStatus zelmSub_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -4404,11 +4795,20 @@ ZELM_API ZelmStatus zelmSub_mama_64f_L(const double *const *src1Table, int32_t s
 ZELM_API ZelmStatus zelmSub_mama_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_mama_32f
+ */
 ZELM_API ZelmStatus zelmSub_mama_64f_4x4_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads column 4 of src1 at src2RowStride */
+/**
+ * Departs from its row: reads column 4 of src1 at src2RowStride.
+ *
+ * @copydoc zelmSub_mama_32f
+ */
 ZELM_API ZelmStatus zelmSub_mama_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -4450,13 +4850,19 @@ ZELM_API ZelmStatus zelmSub_mama_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mamaT: dst[k][i][j] = src1[k][i][j] - src2[k][j][i]
+/** @name zelmSub_mamaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][i][j] - src2[k][j][i].
+ *
  * Shapes: src1: array of matrices; src2: array of matrices used transposed; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -4611,7 +5017,12 @@ ZELM_API ZelmStatus zelmSub_mamaT_64f_L(const double *const *src1Table, int32_t 
 ZELM_API ZelmStatus zelmSub_mamaT_64f_3x3_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_mamaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mamaT_64f_4x4_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -4656,14 +5067,20 @@ ZELM_API ZelmStatus zelmSub_mamaT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_maTm: dst[k][i][j] = src1[k][j][i] - src2[i][j]
+/** @name zelmSub_maTm */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] - src2[i][j].
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -4854,14 +5271,20 @@ ZELM_API ZelmStatus zelmSub_maTm_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_maTmT: dst[k][i][j] = src1[k][j][i] - src2[j][i]
+/** @name zelmSub_maTmT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] - src2[j][i].
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object used transposed; dst:
- *   array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
- *   strides and shifts in bytes.
+ * array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -4968,7 +5391,12 @@ ZELM_API ZelmStatus zelmSub_maTmT_64f_4x4(const double *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmSub_maTmT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_maTmT_32f
+ */
 ZELM_API ZelmStatus zelmSub_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -5053,13 +5481,19 @@ ZELM_API ZelmStatus zelmSub_maTmT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_maTma: dst[k][i][j] = src1[k][j][i] - src2[k][i][j]
+/** @name zelmSub_maTma */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] - src2[k][i][j].
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -5217,7 +5651,12 @@ ZELM_API ZelmStatus zelmSub_maTma_64f_3x3_L(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmSub_maTma_64f_4x4_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault is raised */
+/**
+ * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
+ * is raised.
+ *
+ * @copydoc zelmSub_maTma_32f
+ */
 ZELM_API ZelmStatus zelmSub_maTma_64f_5x5_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -5259,14 +5698,20 @@ ZELM_API ZelmStatus zelmSub_maTma_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_maTmaT: dst[k][i][j] = src1[k][j][i] - src2[k][j][i]
+/** @name zelmSub_maTmaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[k][j][i] - src2[k][j][i].
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices used transposed; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
@@ -5281,7 +5726,11 @@ ZELM_API ZelmStatus zelmSub_maTmaT_32f_4x4(const float *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: takes its elements from the stored places that a table names */
+/**
+ * Departs from its row: takes its elements from the stored places that a table names.
+ *
+ * @copydoc zelmSub_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -5328,7 +5777,11 @@ ZELM_API ZelmStatus zelmSub_maTmaT_32f_4x4_L(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_5x5_L(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: takes its elements from the stored places that a table names */
+/**
+ * Departs from its row: takes its elements from the stored places that a table names.
+ *
+ * @copydoc zelmSub_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -5467,13 +5920,19 @@ ZELM_API ZelmStatus zelmSub_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mma: dst[k][i][j] = src1[i][j] - src2[k][i][j]
+/** @name zelmSub_mma */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[i][j] - src2[k][i][j].
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices; dst: array of matrices. Units: width,
- *   height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mma_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -5488,7 +5947,11 @@ ZELM_API ZelmStatus zelmSub_mma_32f_4x4(const float *src1, int32_t src1RowStride
 ZELM_API ZelmStatus zelmSub_mma_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -5531,7 +5994,11 @@ ZELM_API ZelmStatus zelmSub_mma_32f_4x4_L(const float *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmSub_mma_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -5578,7 +6045,11 @@ ZELM_API ZelmStatus zelmSub_mma_64f_4x4(const double *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmSub_mma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -5616,7 +6087,12 @@ ZELM_API ZelmStatus zelmSub_mma_64f_6x6_P(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmSub_mma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmSub_mma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -5626,7 +6102,11 @@ ZELM_API ZelmStatus zelmSub_mma_64f_4x4_L(const double *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmSub_mma_64f_5x5_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -5661,14 +6141,20 @@ ZELM_API ZelmStatus zelmSub_mma_64f_5x5_LS2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmSub_mma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mmaT: dst[k][i][j] = src1[i][j] - src2[k][j][i]
+/** @name zelmSub_mmaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[i][j] - src2[k][j][i].
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices used transposed; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mmaT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -5683,7 +6169,11 @@ ZELM_API ZelmStatus zelmSub_mmaT_32f_4x4(const float *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmSub_mmaT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -5726,7 +6216,11 @@ ZELM_API ZelmStatus zelmSub_mmaT_32f_4x4_L(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmSub_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -5773,7 +6267,11 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_4x4(const double *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmSub_mmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -5820,7 +6318,11 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_4x4_L(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmSub_mmaT_64f_5x5_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mmaT_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -5855,14 +6357,20 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_5x5_LS2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmSub_mmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mTma: dst[k][i][j] = src1[j][i] - src2[k][i][j]
+/** @name zelmSub_mTma */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[j][i] - src2[k][i][j].
+ *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices; dst: array of matrices.
- *   Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * Units: width, height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mTma_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -5965,7 +6473,11 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_4x4(const double *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmSub_mTma_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mTma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -6003,7 +6515,12 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_6x6_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmSub_mTma_64f_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of 16 and the other is not */
+/**
+ * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
+ * 16 and the other is not.
+ *
+ * @copydoc zelmSub_mTma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTma_64f_3x3_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -6013,7 +6530,11 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_4x4_L(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmSub_mTma_64f_5x5_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mTma_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTma_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -6048,14 +6569,20 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_5x5_LS2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmSub_mTma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSub_mTmaT: dst[k][i][j] = src1[j][i] - src2[k][j][i]
+/** @name zelmSub_mTmaT */
+/** @{ */
+/**
+ * dst[k][i][j] = src1[j][i] - src2[k][j][i].
+ *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices used transposed; dst:
- *   array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
- *   strides and shifts in bytes.
+ * array of matrices. Units: width, height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmSub_mTmaT_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -6158,7 +6685,11 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_4x4(const double *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmSub_mTmaT_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mTmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -6205,7 +6736,11 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_4x4_L(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmSub_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the invariant operand anew for every object */
+/**
+ * Departs from its row: reads the invariant operand anew for every object.
+ *
+ * @copydoc zelmSub_mTmaT_32f
+ */
 ZELM_API ZelmStatus zelmSub_mTmaT_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -6240,17 +6775,26 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_5x5_LS2(const double *src1, int32_t src1Ro
 ZELM_API ZelmStatus zelmSub_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Scaling by a constant ====
+/** @} */
+
+/**
+ * @defgroup scaling Scaling by a constant
  */
+/** @{ */
 
-/*
- * zelmMul_vc: dst[j] = src[j] * val
+/** @name zelmMul_vc */
+/** @{ */
+/**
+ * dst[j] = src[j] * val.
+ *
  * Shapes: src: vector; dst: vector; val: by value. Units: len in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_vc_32f(const float *src, float val, float *dst, uint32_t len);
@@ -6303,13 +6847,19 @@ ZELM_API ZelmStatus zelmMul_vc_64f_5x1_P(const double *const *srcTable, int32_t 
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_vc_64f_6x1_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_vac: dst[k][j] = src[k][j] * val
+/** @name zelmMul_vac */
+/** @{ */
+/**
+ * dst[k][j] = src[k][j] * val.
+ *
  * Shapes: src: array of vectors; dst: array of vectors; val: by value. Units: len in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_vac_32f(const float *src, int32_t srcObjStride, float val, float *dst,
@@ -6432,13 +6982,19 @@ ZELM_API ZelmStatus zelmMul_vac_64f_5x1_LS2(const double *const *srcTable, int32
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_vac_64f_6x1_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double val, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mc: dst[i][j] = src[i][j] * val
+/** @name zelmMul_mc */
+/** @{ */
+/**
+ * dst[i][j] = src[i][j] * val.
+ *
  * Shapes: src: matrix; dst: matrix; val: by value. Units: width, height in elements (a size in the name stands for
- *   them); strides and shifts in bytes.
+ * them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_mc_32f(const float *src, int32_t srcRowStride, float val, float *dst,
@@ -6501,20 +7057,30 @@ ZELM_API ZelmStatus zelmMul_mc_64f_5x5_P(const double *const *srcTable, int32_t 
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mc_64f_6x6_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mTc: dst[i][j] = src[j][i] * val
+/** @name zelmMul_mTc */
+/** @{ */
+/**
+ * dst[i][j] = src[j][i] * val.
+ *
  * Shapes: src: matrix used transposed; dst: matrix; val: by value. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_mTc_32f(const float *src, int32_t srcRowStride, float val, float *dst,
         int32_t dstRowStride, uint32_t width, uint32_t height);
 ZELM_API ZelmStatus zelmMul_mTc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst,
         int32_t dstRowStride);
-/* departs from its row: reads the whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads the whole matrix first: dst may be src.
+ *
+ * @copydoc zelmMul_mTc_32f
+ */
 ZELM_API ZelmStatus zelmMul_mTc_32f_4x4(const float *src, int32_t srcRowStride, float val, float *dst,
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTc_32f_5x5(const float *src, int32_t srcRowStride, float val, float *dst,
@@ -6545,7 +7111,11 @@ ZELM_API ZelmStatus zelmMul_mTc_64f(const double *src, int32_t srcRowStride, dou
         int32_t dstRowStride, uint32_t width, uint32_t height);
 ZELM_API ZelmStatus zelmMul_mTc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst,
         int32_t dstRowStride);
-/* departs from its row: reads the whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads the whole matrix first: dst may be src.
+ *
+ * @copydoc zelmMul_mTc_32f
+ */
 ZELM_API ZelmStatus zelmMul_mTc_64f_4x4(const double *src, int32_t srcRowStride, double val, double *dst,
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTc_64f_5x5(const double *src, int32_t srcRowStride, double val, double *dst,
@@ -6572,13 +7142,19 @@ ZELM_API ZelmStatus zelmMul_mTc_64f_5x5_P(const double *const *srcTable, int32_t
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTc_64f_6x6_P(const double *const *srcTable, int32_t srcShift, double val,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mac: dst[k][i][j] = src[k][i][j] * val
+/** @name zelmMul_mac */
+/** @{ */
+/**
+ * dst[k][i][j] = src[k][i][j] * val.
+ *
  * Shapes: src: array of matrices; dst: array of matrices; val: by value. Units: width, height in elements (a size
- *   in the name stands for them); count in objects; strides and shifts in bytes.
+ * in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_mac_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
@@ -6725,20 +7301,30 @@ ZELM_API ZelmStatus zelmMul_mac_64f_5x5_LS2(const double *const *srcTable, int32
 ZELM_API ZelmStatus zelmMul_mac_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double val, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTc: dst[k][i][j] = src[k][j][i] * val
+/** @name zelmMul_maTc */
+/** @{ */
+/**
+ * dst[k][i][j] = src[k][j][i] * val.
+ *
  * Shapes: src: array of matrices used transposed; dst: array of matrices; val: by value. Units: width, height in
- *   elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
 ZELM_API ZelmStatus zelmMul_maTc_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads the whole matrix first: dst may be src.
+ *
+ * @copydoc zelmMul_maTc_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTc_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
@@ -6775,7 +7361,11 @@ ZELM_API ZelmStatus zelmMul_maTc_32f_L(const float *const *srcTable, int32_t src
         uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_32f_3x3_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         float val, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads the whole matrix first: dst may be src.
+ *
+ * @copydoc zelmMul_maTc_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTc_32f_4x4_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         float val, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_32f_5x5_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
@@ -6812,7 +7402,11 @@ ZELM_API ZelmStatus zelmMul_maTc_64f(const double *src, int32_t srcObjStride, in
         double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val,
         double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads the whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads the whole matrix first: dst may be src.
+ *
+ * @copydoc zelmMul_maTc_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTc_64f_4x4(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val,
         double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTc_64f_5x5(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val,
@@ -6881,17 +7475,26 @@ ZELM_API ZelmStatus zelmMul_maTc_64f_5x5_LS2(const double *const *srcTable, int3
 ZELM_API ZelmStatus zelmMul_maTc_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double val, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Scaled sums of vectors ====
+/** @} */
+
+/**
+ * @defgroup saxpy_lcomb Scaled sums of vectors
  */
+/** @{ */
 
-/*
- * zelmSaxpy_vv: dst[j] = src1[j] * scale + src2[j]
+/** @name zelmSaxpy_vv */
+/** @{ */
+/**
+ * dst[j] = src1[j] * scale + src2[j].
+ *
  * Shapes: src1: vector; src2: vector; dst: vector; scale: by value. Units: len in elements (a size in the name
- *   stands for it); strides and shifts in bytes.
+ * stands for it); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmSaxpy_vv_32f(const float *src1, float scale, const float *src2, float *dst, uint32_t len);
@@ -6945,13 +7548,19 @@ ZELM_API ZelmStatus zelmSaxpy_vv_64f_5x1_P(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmSaxpy_vv_64f_6x1_P(const double *const *src1Table, int32_t src1Shift, double scale,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmSaxpy_vav: dst[k][j] = src1[k][j] * scale + src2[j]
+/** @name zelmSaxpy_vav */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] * scale + src2[j].
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: array of vectors; scale: by value.
- *   Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmSaxpy_vav_32f(const float *src1, int32_t src1ObjStride, float scale, const float *src2,
@@ -7110,13 +7719,19 @@ ZELM_API ZelmStatus zelmSaxpy_vav_64f_5x1_LS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmSaxpy_vav_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, double scale, const double *src2, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSaxpy_vava: dst[k][j] = src1[k][j] * scale + src2[k][j]
+/** @name zelmSaxpy_vava */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] * scale + src2[k][j].
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: array of vectors; scale: by value. Units: len in
- *   elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmSaxpy_vava_32f(const float *src1, int32_t src1ObjStride, float scale, const float *src2,
@@ -7282,13 +7897,19 @@ ZELM_API ZelmStatus zelmSaxpy_vava_64f_5x1_LS2(const double *const *src1Table, i
 ZELM_API ZelmStatus zelmSaxpy_vava_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, double scale, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmSaxpy_vva: dst[k][j] = src1[j] * scale + src2[k][j]
+/** @name zelmSaxpy_vva */
+/** @{ */
+/**
+ * dst[k][j] = src1[j] * scale + src2[k][j].
+ *
  * Shapes: src1: vector, the same for every object; src2: array of vectors; dst: array of vectors; scale: by value.
- *   Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmSaxpy_vva_32f(const float *src1, float scale, const float *src2, int32_t src2ObjStride,
@@ -7447,13 +8068,19 @@ ZELM_API ZelmStatus zelmSaxpy_vva_64f_5x1_LS2(const double *src1, int32_t src1El
 ZELM_API ZelmStatus zelmSaxpy_vva_64f_6x1_LS2(const double *src1, int32_t src1ElemStride, double scale,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmLComb_vv: dst[j] = src1[j] * scale1 + src2[j] * scale2
+/** @name zelmLComb_vv */
+/** @{ */
+/**
+ * dst[j] = src1[j] * scale1 + src2[j] * scale2.
+ *
  * Shapes: src1: vector; src2: vector; dst: vector; scale1, scale2: by value. Units: len in elements (a size in the
- *   name stands for it); strides and shifts in bytes.
+ * name stands for it); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmLComb_vv_32f(const float *src1, float scale1, const float *src2, float scale2, float *dst,
@@ -7518,14 +8145,20 @@ ZELM_API ZelmStatus zelmLComb_vv_64f_5x1_P(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, double scale2, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmLComb_vv_64f_6x1_P(const double *const *src1Table, int32_t src1Shift, double scale1,
         const double *const *src2Table, int32_t src2Shift, double scale2, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmLComb_vav: dst[k][j] = src1[k][j] * scale1 + src2[j] * scale2
+/** @name zelmLComb_vav */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] * scale1 + src2[j] * scale2.
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: array of vectors; scale1, scale2:
- *   by value. Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in
- *   bytes.
+ * by value. Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmLComb_vav_32f(const float *src1, int32_t src1ObjStride, float scale1, const float *src2,
@@ -7688,13 +8321,19 @@ ZELM_API ZelmStatus zelmLComb_vav_64f_5x1_LS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmLComb_vav_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, double scale1, const double *src2, int32_t src2ElemStride, double scale2,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmLComb_vava: dst[k][j] = src1[k][j] * scale1 + src2[k][j] * scale2
+/** @name zelmLComb_vava */
+/** @{ */
+/**
+ * dst[k][j] = src1[k][j] * scale1 + src2[k][j] * scale2.
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: array of vectors; scale1, scale2: by value. Units:
- *   len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
 ZELM_API ZelmStatus zelmLComb_vava_32f(const float *src1, int32_t src1ObjStride, float scale1, const float *src2,
@@ -7884,6 +8523,9 @@ ZELM_API ZelmStatus zelmLComb_vava_64f_6x1_LS2(const double *const *src1Table, i
         int32_t src1ElemStride, double scale1, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, double scale2, double *const *dstTable, int32_t dstShift, int32_t dstElemStride,
         uint32_t count);
+/** @} */
+
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,6 @@
-/* Subsystem movement of zelm. Written by grid/generate.py from grid/catalogue.py. */
+/** @file
+ * Subsystem movement of zelm. Written by grid/generate.py from grid/catalogue.py.
+ */
 #ifndef ZELM_MOVEMENT_H
 #define ZELM_MOVEMENT_H
 
@@ -9,27 +11,38 @@
 extern "C" {
 #endif
 
-/*
- * ==== Transpose ====
+/**
+ * @defgroup transpose Transpose
+ *
  * Elements are moved bit for bit. width and height are those of src as stored. In the run-time P and PS2 forms the
- *   tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height +
- *   j] and its place in dst at dstTable[j*width + i]. For square matrices that is the ordinary table; for others
- *   the numbers reach behind the width*height entries that are tested.
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j]
+ * and its place in dst at dstTable[j*width + i]. For square matrices that is the ordinary table; for others the
+ * numbers reach behind the width*height entries that are tested.
  */
+/** @{ */
 
-/*
- * zelmTranspose_m: dst[j][i] = src[i][j]
+/** @name zelmTranspose_m */
+/** @{ */
+/**
+ * dst[j][i] = src[i][j].
+ *
  * Shapes: src: matrix; dst: matrix. Units: width, height in elements (a size in the name stands for them); strides
- *   and shifts in bytes.
+ * and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must not overlap src.
  */
 ZELM_API ZelmStatus zelmTranspose_m_32f(const float *src, int32_t srcRowStride, uint32_t width, uint32_t height,
         float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmTranspose_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst,
         int32_t dstRowStride);
-/* departs from its row: reads a whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads a whole matrix first: dst may be src.
+ *
+ * @copydoc zelmTranspose_m_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst,
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmTranspose_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst,
@@ -60,7 +73,11 @@ ZELM_API ZelmStatus zelmTranspose_m_64f(const double *src, int32_t srcRowStride,
         double *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmTranspose_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst,
         int32_t dstRowStride);
-/* departs from its row: reads a whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads a whole matrix first: dst may be src.
+ *
+ * @copydoc zelmTranspose_m_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst,
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmTranspose_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst,
@@ -87,20 +104,30 @@ ZELM_API ZelmStatus zelmTranspose_m_64f_5x5_P(const double *const *srcTable, int
         double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmTranspose_m_64f_6x6_P(const double *const *srcTable, int32_t srcShift,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmTranspose_ma: dst[k][j][i] = src[k][i][j]
+/** @name zelmTranspose_ma */
+/** @{ */
+/**
+ * dst[k][j][i] = src[k][i][j].
+ *
  * Shapes: src: array of matrices; dst: array of matrices. Units: width, height in elements (a size in the name
- *   stands for them); count in objects; strides and shifts in bytes.
+ * stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must not overlap src.
  */
 ZELM_API ZelmStatus zelmTranspose_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         uint32_t width, uint32_t height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
-/* departs from its row: reads a whole matrix first: dst may be src */
+/**
+ * Departs from its row: reads a whole matrix first: dst may be src.
+ *
+ * @copydoc zelmTranspose_ma_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_ma_32f_4x4(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_32f_5x5(const float *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -241,19 +268,29 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_5x5_LS2(const double *const *srcTable, 
 ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Copy between layouts ====
+/** @} */
+
+/**
+ * @defgroup copy Copy between layouts
+ *
  * Elements are moved bit for bit. The two letters of the name are the layouts of src and dst: S for S2, P for PS2,
- *   L for LS2. Table entries are not tested, and neither are the width and height of matrices: zero copies nothing.
+ * L for LS2. Table entries are not tested, and neither are the width and height of matrices: zero copies nothing.
  */
+/** @{ */
 
-/*
- * zelmCopy_va: dst[k][j] = src[k][j]
+/** @name zelmCopy_va */
+/** @{ */
+/**
+ * dst[k][j] = src[k][j].
+ *
  * Shapes: src: array of vectors; dst: array of vectors. Units: len in elements (a size in the name stands for it);
- *   count in objects; strides and shifts in bytes.
+ * count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap partly.
  */
 ZELM_API ZelmStatus zelmCopy_va_32f_SS(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
@@ -264,7 +301,11 @@ ZELM_API ZelmStatus zelmCopy_va_32f_SL(const float *src, int32_t srcObjStride, i
         float *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_32f_PS(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
-/* departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read */
+/**
+ * Departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read.
+ *
+ * @copydoc zelmCopy_va_32f_SS
+ */
 ZELM_API ZelmStatus zelmCopy_va_32f_PP(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_32f_PL(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
@@ -283,7 +324,11 @@ ZELM_API ZelmStatus zelmCopy_va_64f_SL(const double *src, int32_t srcObjStride, 
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_64f_PS(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
-/* departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read */
+/**
+ * Departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read.
+ *
+ * @copydoc zelmCopy_va_32f_SS
+ */
 ZELM_API ZelmStatus zelmCopy_va_64f_PP(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_64f_PL(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
@@ -294,13 +339,19 @@ ZELM_API ZelmStatus zelmCopy_va_64f_LP(const double *const *srcTable, int32_t sr
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_64f_LL(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t len, uint32_t count);
+/** @} */
 
-/*
- * zelmCopy_ma: dst[k][i][j] = src[k][i][j]
+/** @name zelmCopy_ma */
+/** @{ */
+/**
+ * dst[k][i][j] = src[k][i][j].
+ *
  * Shapes: src: array of matrices; dst: array of matrices. Units: width, height in elements (a size in the name
- *   stands for them); count in objects; strides and shifts in bytes.
+ * stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap partly.
  */
 ZELM_API ZelmStatus zelmCopy_ma_32f_SS(const float *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -357,72 +408,122 @@ ZELM_API ZelmStatus zelmCopy_ma_64f_LP(const double *const *srcTable, int32_t sr
 ZELM_API ZelmStatus zelmCopy_ma_64f_LL(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t width, uint32_t height, uint32_t count);
+/** @} */
 
-/*
- * ==== Extraction to a packed buffer ====
+/** @} */
+
+/**
+ * @defgroup extract Extraction to a packed buffer
+ *
  * Elements are moved bit for bit. The packed position of element (i, j) of object k is k*width*height + i*width +
- *   j, in elements; width and height are those of the packed matrices. Table entries are not tested. A count of
- *   zero is ZELM_ERR_SIZE.
+ * j, in elements; width and height are those of the packed matrices. Table entries are not tested. A count of zero
+ * is ZELM_ERR_SIZE.
  */
+/** @{ */
 
-/*
- * zelmExtract_v: dst = the elements of src, packed
+/** @name zelmExtract_v */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: vector; dst: a packed buffer. Units: len in elements (a size in the name stands for it); strides and
- *   shifts in bytes.
+ * shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_v_32f_S2(const float *src, int32_t srcElemStride, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmExtract_v_32f_P(const float *const *srcTable, int32_t srcShift, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmExtract_v_64f_S2(const double *src, int32_t srcElemStride, double *dst, uint32_t len);
-/* departs from its row: tests nothing; a dimension of zero moves nothing */
+/**
+ * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ *
+ * @copydoc zelmExtract_v_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_v_64f_P(const double *const *srcTable, int32_t srcShift, double *dst, uint32_t len);
+/** @} */
 
-/*
- * zelmExtract_m: dst = the elements of src, packed
+/** @name zelmExtract_m */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: matrix; dst: a packed buffer. Units: width, height in elements (a size in the name stands for them);
- *   strides and shifts in bytes.
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
         uint32_t width, uint32_t height);
-/* departs from its row: tests nothing; a dimension of zero moves nothing */
+/**
+ * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ *
+ * @copydoc zelmExtract_m_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_m_32f_P(const float *const *srcTable, int32_t srcShift, float *dst, uint32_t width,
         uint32_t height);
 ZELM_API ZelmStatus zelmExtract_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, uint32_t width, uint32_t height);
-/* departs from its row: tests nothing; a dimension of zero moves nothing */
+/**
+ * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ *
+ * @copydoc zelmExtract_m_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_m_64f_P(const double *const *srcTable, int32_t srcShift, double *dst,
         uint32_t width, uint32_t height);
+/** @} */
 
-/*
- * zelmExtract_mT: dst = the elements of src, packed
+/** @name zelmExtract_mT */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: matrix used transposed; dst: a packed buffer. Units: width, height in elements (a size in the name
- *   stands for them); strides and shifts in bytes.
+ * stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_mT_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
         uint32_t width, uint32_t height);
-/* departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and packs width rows of height elements */
+/**
+ * Departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and
+ * packs width rows of height elements.
+ *
+ * @copydoc zelmExtract_mT_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_mT_32f_P(const float *const *srcTable, int32_t srcShift, float *dst, uint32_t width,
         uint32_t height);
 ZELM_API ZelmStatus zelmExtract_mT_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, uint32_t width, uint32_t height);
-/* departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and packs width rows of height elements */
+/**
+ * Departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and
+ * packs width rows of height elements.
+ *
+ * @copydoc zelmExtract_mT_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_mT_64f_P(const double *const *srcTable, int32_t srcShift, double *dst,
         uint32_t width, uint32_t height);
+/** @} */
 
-/*
- * zelmExtract_va: dst = the elements of src, packed
+/** @name zelmExtract_va */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: array of vectors; dst: a packed buffer. Units: len in elements (a size in the name stands for it);
- *   count in objects; strides and shifts in bytes.
+ * count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_va_32f_S2(const float *src, int32_t srcObjStride, int32_t srcElemStride, float *dst,
@@ -437,13 +538,19 @@ ZELM_API ZelmStatus zelmExtract_va_64f_PS2(const double *const *srcTable, int32_
         double *dst, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_va_64f_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcElemStride,
         double *dst, uint32_t len, uint32_t count);
+/** @} */
 
-/*
- * zelmExtract_ma: dst = the elements of src, packed
+/** @name zelmExtract_ma */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: array of matrices; dst: a packed buffer. Units: width, height in elements (a size in the name stands
- *   for them); count in objects; strides and shifts in bytes.
+ * for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -458,47 +565,71 @@ ZELM_API ZelmStatus zelmExtract_ma_64f_PS2(const double *const *srcTable, int32_
         double *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_ma_64f_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, uint32_t width, uint32_t height, uint32_t count);
+/** @} */
 
-/*
- * zelmExtract_maT: dst = the elements of src, packed
+/** @name zelmExtract_maT */
+/** @{ */
+/**
+ * dst = the elements of src, packed.
+ *
  * Shapes: src: array of matrices used transposed; dst: a packed buffer. Units: width, height in elements (a size in
- *   the name stands for them); count in objects; strides and shifts in bytes.
+ * the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_maT_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: does not transpose */
+/**
+ * Departs from its row: does not transpose.
+ *
+ * @copydoc zelmExtract_maT_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_maT_32f_PS2(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_maT_32f_LS2(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_maT_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, uint32_t width, uint32_t height, uint32_t count);
-/* departs from its row: does not transpose */
+/**
+ * Departs from its row: does not transpose.
+ *
+ * @copydoc zelmExtract_maT_32f_S2
+ */
 ZELM_API ZelmStatus zelmExtract_maT_64f_PS2(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_maT_64f_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, uint32_t width, uint32_t height, uint32_t count);
+/** @} */
 
-/*
- * ==== Identity matrices ====
+/** @} */
+
+/**
+ * @defgroup identity Identity matrices
+ *
  * The letter of the name is the layout of dst: S for S2, P for PS2, L for LS2. The column of the one runs on from
- *   row to row and from object to object: in object k the one of row i stands at column k*height + i, behind the
- *   row where that is not below width. So only object 0 is an identity: call once per object, or set height to fit.
- *   An element stride below the size of an element counts as that size, a row stride below width elements as that,
- *   and so does in P an object stride below the size of an element; the strides are compared as unsigned numbers.
- *   width and height are signed, and not tested: below 1 there is no row or column, but each row still gets its
- *   one. Table entries are not tested. A count of zero is ZELM_ERR_SIZE.
+ * row to row and from object to object: in object k the one of row i stands at column k*height + i, behind the row
+ * where that is not below width. So only object 0 is an identity: call once per object, or set height to fit. An
+ * element stride below the size of an element counts as that size, a row stride below width elements as that, and
+ * so does in P an object stride below the size of an element; the strides are compared as unsigned numbers. width
+ * and height are signed, and not tested: below 1 there is no row or column, but each row still gets its one. Table
+ * entries are not tested. A count of zero is ZELM_ERR_SIZE.
  */
+/** @{ */
 
-/*
- * zelmLoadIdentity_ma: dst[k] = ones on a running diagonal, zeros elsewhere
+/** @name zelmLoadIdentity_ma */
+/** @{ */
+/**
+ * dst[k] = ones on a running diagonal, zeros elsewhere.
+ *
  * Shapes: dst: array of matrices. Units: width, height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: There is no source.
  */
 ZELM_API ZelmStatus zelmLoadIdentity_ma_32f_S(float *dst, int32_t dstObjStride, int32_t dstRowStride,
@@ -513,6 +644,9 @@ ZELM_API ZelmStatus zelmLoadIdentity_ma_64f_P(double *const *dstTable, int32_t d
         int32_t width, int32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmLoadIdentity_ma_64f_L(double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t width, int32_t height, uint32_t count);
+/** @} */
+
+/** @} */
 
 #ifdef __cplusplus
 }

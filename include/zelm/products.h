@@ -1,4 +1,6 @@
-/* Subsystem products of zelm. Written by grid/generate.py from grid/catalogue.py. */
+/** @file
+ * Subsystem products of zelm. Written by grid/generate.py from grid/catalogue.py.
+ */
 #ifndef ZELM_PRODUCTS_H
 #define ZELM_PRODUCTS_H
 
@@ -9,25 +11,32 @@
 extern "C" {
 #endif
 
-/*
- * ==== Product of a matrix and a vector ====
+/**
+ * @defgroup matrix_vector_product Product of a matrix and a vector
+ *
  * For square matrices the product. In the run-time forms src1Width and src1Height are those of src1 as stored, and
- *   src2Len must equal src1Width, or src1Height where src1 is used transposed: ZELM_ERR_SIZE otherwise. The loops
- *   take them as those of the matrix as used: dst[i] for i below src1Height is the sum over t below src1Width of
- *   src1[i][t] * src2[t], of src1[t][i] * src2[t] where src1 is used transposed. The stored element (r, c) is at
- *   entry r*src1Width + c of a table, r*src1Height + c where it is used transposed. Sums run from +0 in ascending
- *   t, each partial sum stored in dst. In the fixed-size forms they begin with the first product and have an order
- *   of their own in the standard and L layouts (docs/products.md).
+ * src2Len must equal src1Width, or src1Height where src1 is used transposed: ZELM_ERR_SIZE otherwise. The loops
+ * take them as those of the matrix as used: dst[i] for i below src1Height is the sum over t below src1Width of
+ * src1[i][t] * src2[t], of src1[t][i] * src2[t] where src1 is used transposed. The stored element (r, c) is at
+ * entry r*src1Width + c of a table, r*src1Height + c where it is used transposed. Sums run from +0 in ascending t,
+ * each partial sum stored in dst. In the fixed-size forms they begin with the first product and have an order of
+ * their own in the standard and L layouts (docs/products.md).
  */
+/** @{ */
 
-/*
- * zelmMul_mv: dst = src1 * src2
+/** @name zelmMul_mv */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix; src2: vector; dst: vector. Units: src1Width, src1Height, src2Len in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst);
@@ -85,15 +94,21 @@ ZELM_API ZelmStatus zelmMul_mv_64f_5x5_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mv_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mTv: dst = src1 * src2
+/** @name zelmMul_mTv */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix used transposed; src2: vector; dst: vector. Units: src1Width, src1Height, src2Len in
- *   elements (a size in the name stands for them); strides and shifts in bytes.
+ * elements (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mTv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst);
@@ -151,16 +166,22 @@ ZELM_API ZelmStatus zelmMul_mTv_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTv_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mva: dst = src1 * src2
+/** @name zelmMul_mva */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of vectors; dst: array of vectors. Units: src1Width,
- *   src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mva_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst,
@@ -324,16 +345,22 @@ ZELM_API ZelmStatus zelmMul_mva_64f_5x5_LS2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mTva: dst = src1 * src2
+/** @name zelmMul_mTva */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of vectors; dst: array of vectors.
- *   Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects;
- *   strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides
+ * and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mTva_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst,
@@ -501,16 +528,22 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5_LS2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mav: dst = src1 * src2
+/** @name zelmMul_mav */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: vector, the same for every object; dst: array of vectors. Units:
- *   src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and
- *   shifts in bytes.
+ * src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and
+ * shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mav_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst,
@@ -672,16 +705,22 @@ ZELM_API ZelmStatus zelmMul_mav_64f_5x5_LS2(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mav_64f_6x6_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTv: dst = src1 * src2
+/** @name zelmMul_maTv */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: vector, the same for every object; dst: array of vectors.
- *   Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects;
- *   strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides
+ * and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_maTv_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst,
@@ -843,15 +882,21 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5_LS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mava: dst = src1 * src2
+/** @name zelmMul_mava */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: array of vectors; dst: array of vectors. Units: src1Width, src1Height,
- *   src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ * src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_mava_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len,
@@ -1023,16 +1068,22 @@ ZELM_API ZelmStatus zelmMul_mava_64f_5x5_LS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mava_64f_6x6_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTva: dst = src1 * src2
+/** @name zelmMul_maTva */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of vectors; dst: array of vectors. Units: src1Width,
- *   src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
- *   or both arrays. Otherwise dst must overlap no source.
+ * or both arrays. Otherwise dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmMul_maTva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len,
@@ -1204,28 +1255,38 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5_LS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Product of two matrices ====
+/** @} */
+
+/**
+ * @defgroup matrix_product Product of two matrices
+ *
  * For square matrices the product. In the run-time forms the widths and heights are those of the operands as
- *   stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else
- *   src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height =
- *   src2Width instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height and j
- *   below src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices that
- *   fit, and the other descriptors that of square ones. The stored element (r, c) of a source is at entry r*Width +
- *   c of its table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of dstTable as many
- *   entries are tested as the product of the two dimensions named first. Sums run from +0 in ascending t, each
- *   partial sum stored in dst. In the fixed-size forms they begin with the first product.
+ * stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else
+ * src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height = src2Width
+ * instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height and j below
+ * src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices that fit, and
+ * the other descriptors that of square ones. The stored element (r, c) of a source is at entry r*Width + c of its
+ * table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of dstTable as many entries are
+ * tested as the product of the two dimensions named first. Sums run from +0 in ascending t, each partial sum stored
+ * in dst. In the fixed-size forms they begin with the first product.
  */
+/** @{ */
 
-/*
- * zelmMul_mm: dst = src1 * src2
+/** @name zelmMul_mm */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix; src2: matrix; dst: matrix. Units: src1Width, src1Height, src2Width, src2Height in elements
- *   (a size in the name stands for them); strides and shifts in bytes.
+ * (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
@@ -1301,22 +1362,33 @@ ZELM_API ZelmStatus zelmMul_mm_64f_5x5_P(const double *const *src1Table, int32_t
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mmT: dst = src1 * src2
+/** @name zelmMul_mmT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix; src2: matrix used transposed; dst: matrix. Units: src1Width, src1Height, src2Width,
- *   src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ * src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
-/* departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the transpose of src2 */
+ZELM_API ZelmStatus zelmMul_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2,
+        int32_t src2RowStride, float *dst, int32_t dstRowStride);
+/**
+ * Departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the
+ * transpose of src2.
+ *
+ * @copydoc zelmMul_mmT_32f_3x3
+ */
 ZELM_API ZelmStatus zelmMul_mmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         float *dst, int32_t dstRowStride);
-ZELM_API ZelmStatus zelmMul_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2,
-        int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mmT_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
@@ -1349,7 +1421,12 @@ ZELM_API ZelmStatus zelmMul_mmT_32f_5x5_P(const float *const *src1Table, int32_t
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mmT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
-/* departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the transpose of src2 */
+/**
+ * Departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the
+ * transpose of src2.
+ *
+ * @copydoc zelmMul_mmT_32f_3x3
+ */
 ZELM_API ZelmStatus zelmMul_mmT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         double *dst, int32_t dstRowStride);
@@ -1387,15 +1464,21 @@ ZELM_API ZelmStatus zelmMul_mmT_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mTm: dst = src1 * src2
+/** @name zelmMul_mTm */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix used transposed; src2: matrix; dst: matrix. Units: src1Width, src1Height, src2Width,
- *   src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ * src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mTm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
@@ -1471,15 +1554,21 @@ ZELM_API ZelmStatus zelmMul_mTm_64f_5x5_P(const double *const *src1Table, int32_
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mTmT: dst = src1 * src2
+/** @name zelmMul_mTmT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix used transposed; src2: matrix used transposed; dst: matrix. Units: src1Width, src1Height,
- *   src2Width, src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ * src2Width, src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mTmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
@@ -1555,16 +1644,22 @@ ZELM_API ZelmStatus zelmMul_mTmT_64f_5x5_P(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmMul_mam: dst = src1 * src2
+/** @name zelmMul_mam */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object; dst: array of matrices. Units:
- *   src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mam_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
@@ -1600,7 +1695,11 @@ ZELM_API ZelmStatus zelmMul_mam_32f_6x6_S2(const float *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmMul_mam_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_mam_32f
+ */
 ZELM_API ZelmStatus zelmMul_mam_32f_3x3_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mam_32f_4x4_P(const float *const *src1Table, int32_t src1Shift,
@@ -1628,7 +1727,11 @@ ZELM_API ZelmStatus zelmMul_mam_32f_PS2(const float *const *src1Table, int32_t s
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_mam_32f
+ */
 ZELM_API ZelmStatus zelmMul_mam_32f_3x3_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift,
         int32_t dstObjStride, uint32_t count);
@@ -1645,7 +1748,11 @@ ZELM_API ZelmStatus zelmMul_mam_32f_LS2(const float *const *src1Table, int32_t s
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
-/* departs from its row: tests no entry of src1Table or dstTable */
+/**
+ * Departs from its row: tests no entry of src1Table or dstTable.
+ *
+ * @copydoc zelmMul_mam_32f
+ */
 ZELM_API ZelmStatus zelmMul_mam_32f_3x3_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
@@ -1755,16 +1862,22 @@ ZELM_API ZelmStatus zelmMul_mam_64f_6x6_LS2(const double *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mamT: dst = src1 * src2
+/** @name zelmMul_mamT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object used transposed; dst: array of matrices.
- *   Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
@@ -1800,7 +1913,11 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjSt
 ZELM_API ZelmStatus zelmMul_mamT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_mamT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamT_32f_3x3_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mamT_32f_4x4_P(const float *const *src1Table, int32_t src1Shift,
@@ -1828,7 +1945,11 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_PS2(const float *const *src1Table, int32_t 
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_mamT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamT_32f_3x3_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -1845,7 +1966,11 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_LS2(const float *const *src1Table, int32_t 
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
-/* departs from its row: tests no entry of src1Table or dstTable */
+/**
+ * Departs from its row: tests no entry of src1Table or dstTable.
+ *
+ * @copydoc zelmMul_mamT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamT_32f_3x3_LS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -1959,16 +2084,22 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mama: dst = src1 * src2
+/** @name zelmMul_mama */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: array of matrices; dst: array of matrices. Units: src1Width, src1Height,
- *   src2Width, src2Height in elements (a size in the name stands for them); count in objects; strides and shifts in
- *   bytes.
+ * src2Width, src2Height in elements (a size in the name stands for them); count in objects; strides and shifts in
+ * bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
@@ -2073,19 +2204,39 @@ ZELM_API ZelmStatus zelmMul_mama_64f(const double *src1, int32_t src1ObjStride, 
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mama_32f
+ */
 ZELM_API ZelmStatus zelmMul_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mama_32f
+ */
 ZELM_API ZelmStatus zelmMul_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mama_32f
+ */
 ZELM_API ZelmStatus zelmMul_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mama_32f
+ */
 ZELM_API ZelmStatus zelmMul_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -2176,16 +2327,22 @@ ZELM_API ZelmStatus zelmMul_mama_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mamaT: dst = src1 * src2
+/** @name zelmMul_mamaT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices; src2: array of matrices used transposed; dst: array of matrices. Units:
- *   src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
@@ -2290,19 +2447,39 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f(const double *src1, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mamaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mamaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mamaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_mamaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -2393,16 +2570,22 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTm: dst = src1 * src2
+/** @name zelmMul_maTm */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object; dst: array of matrices.
- *   Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
@@ -2438,7 +2621,11 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjSt
 ZELM_API ZelmStatus zelmMul_maTm_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_maTm_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTm_32f_3x3_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTm_32f_4x4_P(const float *const *src1Table, int32_t src1Shift,
@@ -2466,7 +2653,11 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_PS2(const float *const *src1Table, int32_t 
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
-/* departs from its row: tests no table entry; src2 may be read also where count is 0 */
+/**
+ * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ *
+ * @copydoc zelmMul_maTm_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTm_32f_3x3_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -2483,7 +2674,11 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_LS2(const float *const *src1Table, int32_t 
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
-/* departs from its row: tests no entry of src1Table or dstTable */
+/**
+ * Departs from its row: tests no entry of src1Table or dstTable.
+ *
+ * @copydoc zelmMul_maTm_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTm_32f_3x3_LS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -2597,16 +2792,22 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_LS2(const double *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTmT: dst = src1 * src2
+/** @name zelmMul_maTmT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object used transposed; dst:
- *   array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands
- *   for them); count in objects; strides and shifts in bytes.
+ * array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for
+ * them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
@@ -2685,7 +2886,11 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_LS2(const float *const *src1Table, int32_t
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
-/* departs from its row: tests no entry of src1Table or dstTable */
+/**
+ * Departs from its row: tests no entry of src1Table or dstTable.
+ *
+ * @copydoc zelmMul_maTmT_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTmT_32f_3x3_LS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -2799,16 +3004,22 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTma: dst = src1 * src2
+/** @name zelmMul_maTma */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices; dst: array of matrices. Units:
- *   src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
@@ -2913,19 +3124,39 @@ ZELM_API ZelmStatus zelmMul_maTma_64f(const double *src1, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTma_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTma_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTma_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTma_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -3016,16 +3247,22 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_LS2(const double *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_maTmaT: dst = src1 * src2
+/** @name zelmMul_maTmaT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices used transposed; dst: array of matrices.
- *   Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
@@ -3130,19 +3367,39 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f(const double *src1, int32_t src1ObjStride
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-/* departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is computed from object 0 of src1 */
+/**
+ * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
+ * object is computed from object 0 of src1.
+ *
+ * @copydoc zelmMul_maTmaT_32f
+ */
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -3233,16 +3490,22 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
         int32_t src1RowStride, int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mma: dst = src1 * src2
+/** @name zelmMul_mma */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices; dst: array of matrices. Units:
- *   src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
@@ -3428,16 +3691,22 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5_LS2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mmaT: dst = src1 * src2
+/** @name zelmMul_mmaT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices used transposed; dst: array of matrices.
- *   Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
@@ -3623,16 +3892,22 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5_LS2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mTma: dst = src1 * src2
+/** @name zelmMul_mTma */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices; dst: array of matrices.
- *   Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
- *   objects; strides and shifts in bytes.
+ * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mTma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
@@ -3818,16 +4093,22 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5_LS2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmMul_mTmaT: dst = src1 * src2
+/** @name zelmMul_mTmaT */
+/** @{ */
+/**
+ * dst = src1 * src2.
+ *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices used transposed; dst:
- *   array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands
- *   for them); count in objects; strides and shifts in bytes.
+ * array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for
+ * them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
- *   (docs/products.md).
+ * (docs/products.md).
  */
 ZELM_API ZelmStatus zelmMul_mTmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
@@ -4013,20 +4294,30 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5_LS2(const double *src1, int32_t src1Ro
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Product of a matrix and a vector, plus a vector ====
+/** @} */
+
+/**
+ * @defgroup gaxpy Product of a matrix and a vector, plus a vector
+ *
  * src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in
- *   ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with
- *   the first product and have an order of their own (docs/products.md).
+ * ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with the
+ * first product and have an order of their own (docs/products.md).
  */
+/** @{ */
 
-/*
- * zelmGaxpy_v: dst = src1 * src2 + src3
+/** @name zelmGaxpy_v */
+/** @{ */
+/**
+ * dst = src1 * src2 + src3.
+ *
  * Shapes: src1: matrix; src2: vector; src3: vector; dst: vector. Units: width, height in elements (a size in the
- *   name stands for them); strides and shifts in bytes.
+ * name stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmGaxpy_v_32f(const float *src1, int32_t src1RowStride, const float *src2, const float *src3,
@@ -4109,14 +4400,20 @@ ZELM_API ZelmStatus zelmGaxpy_v_64f_5x5_P(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmGaxpy_v_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, const double *const *src3Table, int32_t src3Shift,
         double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmGaxpy_va: dst[k] = src1 * src2[k] + src3[k]
+/** @name zelmGaxpy_va */
+/** @{ */
+/**
+ * dst[k] = src1 * src2[k] + src3[k].
+ *
  * Shapes: src1: matrix, the same for every object; src2: array of vectors; src3: array of vectors; dst: array of
- *   vectors. Units: width, height in elements (a size in the name stands for them); count in objects; strides and
- *   shifts in bytes.
+ * vectors. Units: width, height in elements (a size in the name stands for them); count in objects; strides and
+ * shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must overlap no source.
  */
 ZELM_API ZelmStatus zelmGaxpy_va_32f(const float *src1, int32_t src1RowStride, const float *src2,
@@ -4325,6 +4622,9 @@ ZELM_API ZelmStatus zelmGaxpy_va_64f_6x6_LS2(const double *src1, int32_t src1Row
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, const double *const *src3Table,
         int32_t src3Shift, int32_t src3ElemStride, double *const *dstTable, int32_t dstShift, int32_t dstElemStride,
         uint32_t count);
+/** @} */
+
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,6 @@
-/* Types, statuses and the version query of zelm. */
+/** @file
+ * Types, statuses and the version query of zelm.
+ */
 #ifndef ZELM_TYPES_H
 #define ZELM_TYPES_H
 
@@ -14,36 +16,42 @@
 extern "C" {
 #endif
 
-/* The result of every numeric function. The first check that fails decides it, in this order: null pointers
+/** @defgroup types Types and statuses
+ * @{
+ */
+
+/** The result of every numeric function. The first check that fails decides it, in this order: null pointers
  * and tables; zero dimensions; null entries of a P or PS2 table (array forms); a count of zero (ZELM_OK);
  * then the computation. Nothing is undone: what was written before a failure stays. */
 typedef int32_t ZelmStatus;
 
-/* The call completed, or there was nothing to do. */
+/** The call completed, or there was nothing to do. */
 #define ZELM_OK 0
-/* A dimension is zero, or the dimensions of the operands disagree. */
+/** A dimension is zero, or the dimensions of the operands disagree. */
 #define ZELM_ERR_SIZE (-6)
-/* A pointer, a table of pointers or an entry of such a table is null. */
+/** A pointer, a table of pointers or an entry of such a table is null. */
 #define ZELM_ERR_NULL_PTR (-8)
-/* A pivot or divisor fails the threshold of its family. */
+/** A pivot or divisor fails the threshold of its family. */
 #define ZELM_ERR_DIV_BY_ZERO (-10)
-/* A pivot of a Cholesky decomposition is not positive. */
+/** A pivot of a Cholesky decomposition is not positive. */
 #define ZELM_ERR_NOT_POS_DEF (-179)
 
-/* The version of the library that is loaded. */
+/** The version of the library that is loaded. */
 typedef struct ZelmLibVersion {
-    int32_t major;
-    int32_t minor;
-    int32_t buildMajor;
-    int32_t buildMinor;
-    char targetCode[4];      /* the processor target, zero-filled: "t7" or "x64" */
-    const char *fileName;    /* the name of the library's file */
-    const char *versionText; /* major and minor, for people */
-    const char *buildDate;
+    int32_t major;           /**< the version's first number */
+    int32_t minor;           /**< the version's second number */
+    int32_t buildMajor;      /**< the build's first number */
+    int32_t buildMinor;      /**< the build's second number */
+    char targetCode[4];      /**< the processor target, zero-filled: "t7" or "x64" */
+    const char *fileName;    /**< the name of the library's file */
+    const char *versionText; /**< major and minor, for people */
+    const char *buildDate;   /**< the day of the build, for people */
 } ZelmLibVersion;
 
-/* The one record of the library: the same pointer on every call, never null, not to be freed or changed. */
+/** The one record of the library: the same pointer on every call, never null, not to be freed or changed. */
 ZELM_API const ZelmLibVersion *zelmGetLibVersion(void);
+
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,6 @@
-/* Subsystem vector of zelm. Written by grid/generate.py from grid/catalogue.py. */
+/** @file
+ * Subsystem vector of zelm. Written by grid/generate.py from grid/catalogue.py.
+ */
 #ifndef ZELM_VECTOR_H
 #define ZELM_VECTOR_H
 
@@ -9,16 +11,22 @@
 extern "C" {
 #endif
 
-/*
- * ==== Dot product ====
+/**
+ * @defgroup dot_product Dot product
  */
+/** @{ */
 
-/*
- * zelmDotProduct_vv: dst = sum over j of src1[j] * src2[j]
+/** @name zelmDotProduct_vv */
+/** @{ */
+/**
+ * dst = sum over j of src1[j] * src2[j].
+ *
  * Shapes: src1: vector; src2: vector; dst: one number per object, packed. Units: len in elements (a size in the
- *   name stands for it); strides and shifts in bytes.
+ * name stands for it); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmDotProduct_vv_32f(const float *src1, const float *src2, float *dst, uint32_t len);
@@ -71,20 +79,30 @@ ZELM_API ZelmStatus zelmDotProduct_vv_64f_5x1_P(const double *const *src1Table, 
         const double *const *src2Table, int32_t src2Shift, double *dst);
 ZELM_API ZelmStatus zelmDotProduct_vv_64f_6x1_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *dst);
+/** @} */
 
-/*
- * zelmDotProduct_vav: dst[k] = sum over j of src1[k][j] * src2[j]
+/** @name zelmDotProduct_vav */
+/** @{ */
+/**
+ * dst[k] = sum over j of src1[k][j] * src2[j].
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: one number per object, packed.
- *   Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmDotProduct_vav_32f(const float *src1, int32_t src1ObjStride, const float *src2, float *dst,
         uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
         float *dst, uint32_t count);
-/* departs from its row: sums the products in pairs */
+/**
+ * Departs from its row: sums the products in pairs.
+ *
+ * @copydoc zelmDotProduct_vav_32f
+ */
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_4x1(const float *src1, int32_t src1ObjStride, const float *src2,
         float *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_5x1(const float *src1, int32_t src1ObjStride, const float *src2,
@@ -113,10 +131,18 @@ ZELM_API ZelmStatus zelmDotProduct_vav_32f_6x1_P(const float *const *src1Table, 
         const float *const *src2Table, int32_t src2Shift, float *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_L(const float *const *src1Table, int32_t src1Shift, const float *src2,
         float *dst, uint32_t len, uint32_t count);
-/* departs from its row: no entry of src1Table is tested */
+/**
+ * Departs from its row: no entry of src1Table is tested.
+ *
+ * @copydoc zelmDotProduct_vav_32f
+ */
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_3x1_L(const float *const *src1Table, int32_t src1Shift,
         const float *src2, float *dst, uint32_t count);
-/* departs from its row: sums the products in pairs; no entry of src1Table is tested */
+/**
+ * Departs from its row: sums the products in pairs; no entry of src1Table is tested.
+ *
+ * @copydoc zelmDotProduct_vav_32f
+ */
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_4x1_L(const float *const *src1Table, int32_t src1Shift,
         const float *src2, float *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_5x1_L(const float *const *src1Table, int32_t src1Shift,
@@ -176,7 +202,11 @@ ZELM_API ZelmStatus zelmDotProduct_vav_64f_6x1_P(const double *const *src1Table,
         const double *const *src2Table, int32_t src2Shift, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_64f_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *dst, uint32_t len, uint32_t count);
-/* departs from its row: tests all entries of src1Table before it writes anything */
+/**
+ * Departs from its row: tests all entries of src1Table before it writes anything.
+ *
+ * @copydoc zelmDotProduct_vav_32f
+ */
 ZELM_API ZelmStatus zelmDotProduct_vav_64f_3x1_L(const double *const *src1Table, int32_t src1Shift,
         const double *src2, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_64f_4x1_L(const double *const *src1Table, int32_t src1Shift,
@@ -207,13 +237,19 @@ ZELM_API ZelmStatus zelmDotProduct_vav_64f_5x1_LS2(const double *const *src1Tabl
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmDotProduct_vav_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, uint32_t count);
+/** @} */
 
-/*
- * zelmDotProduct_vava: dst[k] = sum over j of src1[k][j] * src2[k][j]
+/** @name zelmDotProduct_vava */
+/** @{ */
+/**
+ * dst[k] = sum over j of src1[k][j] * src2[k][j].
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: one number per object, packed. Units: len in
- *   elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmDotProduct_vava_32f(const float *src1, int32_t src1ObjStride, const float *src2,
@@ -361,15 +397,24 @@ ZELM_API ZelmStatus zelmDotProduct_vava_64f_5x1_LS2(const double *const *src1Tab
 ZELM_API ZelmStatus zelmDotProduct_vava_64f_6x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride,
         double *dst, uint32_t count);
+/** @} */
 
-/*
- * ==== Cross product ====
+/** @} */
+
+/**
+ * @defgroup cross_product Cross product
  */
+/** @{ */
 
-/*
- * zelmCrossProduct_vv: dst = src1 x src2
+/** @name zelmCrossProduct_vv */
+/** @{ */
+/**
+ * dst = src1 x src2.
+ *
  * Shapes: src1: vector; src2: vector; dst: vector. Units: strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null.
+ *
  * Overlap: dst may be a source in the standard and L layouts.
  */
 ZELM_API ZelmStatus zelmCrossProduct_vv_32f_3x1(const float *src1, const float *src2, float *dst);
@@ -382,12 +427,18 @@ ZELM_API ZelmStatus zelmCrossProduct_vv_64f_3x1_S2(const double *src1, int32_t s
         int32_t src2ElemStride, double *dst, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmCrossProduct_vv_64f_3x1_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift);
+/** @} */
 
-/*
- * zelmCrossProduct_vav: dst = src1 x src2
+/** @name zelmCrossProduct_vav */
+/** @{ */
+/**
+ * dst = src1 x src2.
+ *
  * Shapes: src1: array of vectors; src2: vector, the same for every object; dst: array of vectors. Units: count in
- *   objects; strides and shifts in bytes.
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null.
+ *
  * Overlap: dst may be a source in the standard and L layouts.
  */
 ZELM_API ZelmStatus zelmCrossProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
@@ -421,12 +472,18 @@ ZELM_API ZelmStatus zelmCrossProduct_vav_64f_3x1_PS2(const double *const *src1Ta
 ZELM_API ZelmStatus zelmCrossProduct_vav_64f_3x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmCrossProduct_vava: dst = src1 x src2
+/** @name zelmCrossProduct_vava */
+/** @{ */
+/**
+ * dst = src1 x src2.
+ *
  * Shapes: src1: array of vectors; src2: array of vectors; dst: array of vectors. Units: count in objects; strides
- *   and shifts in bytes.
+ * and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null.
+ *
  * Overlap: dst may be a source in the standard and L layouts.
  */
 ZELM_API ZelmStatus zelmCrossProduct_vava_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
@@ -461,12 +518,18 @@ ZELM_API ZelmStatus zelmCrossProduct_vava_64f_3x1_PS2(const double *const *src1T
 ZELM_API ZelmStatus zelmCrossProduct_vava_64f_3x1_LS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ElemStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride,
         double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * zelmCrossProduct_vva: dst = src1 x src2
+/** @name zelmCrossProduct_vva */
+/** @{ */
+/**
+ * dst = src1 x src2.
+ *
  * Shapes: src1: vector, the same for every object; src2: array of vectors; dst: array of vectors. Units: count in
- *   objects; strides and shifts in bytes.
+ * objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null.
+ *
  * Overlap: dst may be a source in the standard and L layouts.
  */
 ZELM_API ZelmStatus zelmCrossProduct_vva_32f_3x1(const float *src1, const float *src2, int32_t src2ObjStride,
@@ -500,17 +563,26 @@ ZELM_API ZelmStatus zelmCrossProduct_vva_64f_3x1_PS2(const double *const *src1Ta
 ZELM_API ZelmStatus zelmCrossProduct_vva_64f_3x1_LS2(const double *src1, int32_t src1ElemStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, double *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+/** @} */
 
-/*
- * ==== Euclidean length ====
+/** @} */
+
+/**
+ * @defgroup l2_norm Euclidean length
  */
+/** @{ */
 
-/*
- * zelmL2Norm_v: dst = sqrt(sum over j of src[j]^2)
+/** @name zelmL2Norm_v */
+/** @{ */
+/**
+ * dst = sqrt(sum over j of src[j]^2).
+ *
  * Shapes: src: vector; dst: one number per object, packed. Units: len in elements (a size in the name stands for
- *   it); strides and shifts in bytes.
+ * it); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmL2Norm_v_32f(const float *src, float *dst, uint32_t len);
@@ -543,13 +615,19 @@ ZELM_API ZelmStatus zelmL2Norm_v_64f_3x1_P(const double *const *srcTable, int32_
 ZELM_API ZelmStatus zelmL2Norm_v_64f_4x1_P(const double *const *srcTable, int32_t srcShift, double *dst);
 ZELM_API ZelmStatus zelmL2Norm_v_64f_5x1_P(const double *const *srcTable, int32_t srcShift, double *dst);
 ZELM_API ZelmStatus zelmL2Norm_v_64f_6x1_P(const double *const *srcTable, int32_t srcShift, double *dst);
+/** @} */
 
-/*
- * zelmL2Norm_va: dst[k] = sqrt(sum over j of src[k][j]^2)
+/** @name zelmL2Norm_va */
+/** @{ */
+/**
+ * dst[k] = sqrt(sum over j of src[k][j]^2).
+ *
  * Shapes: src: array of vectors; dst: one number per object, packed. Units: len in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmL2Norm_va_32f(const float *src, int32_t srcObjStride, float *dst, uint32_t len,
@@ -582,7 +660,11 @@ ZELM_API ZelmStatus zelmL2Norm_va_32f_L(const float *const *srcTable, int32_t sr
         uint32_t count);
 ZELM_API ZelmStatus zelmL2Norm_va_32f_3x1_L(const float *const *srcTable, int32_t srcShift, float *dst,
         uint32_t count);
-/* departs from its row: no entry of srcTable is tested */
+/**
+ * Departs from its row: no entry of srcTable is tested.
+ *
+ * @copydoc zelmL2Norm_va_32f
+ */
 ZELM_API ZelmStatus zelmL2Norm_va_32f_4x1_L(const float *const *srcTable, int32_t srcShift, float *dst,
         uint32_t count);
 ZELM_API ZelmStatus zelmL2Norm_va_32f_5x1_L(const float *const *srcTable, int32_t srcShift, float *dst,
@@ -665,17 +747,26 @@ ZELM_API ZelmStatus zelmL2Norm_va_64f_5x1_LS2(const double *const *srcTable, int
         int32_t srcElemStride, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmL2Norm_va_64f_6x1_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcElemStride, double *dst, uint32_t count);
+/** @} */
 
-/*
- * ==== Frobenius norm ====
+/** @} */
+
+/**
+ * @defgroup frobenius_norm Frobenius norm
  */
+/** @{ */
 
-/*
- * zelmFrobNorm_m: dst = sqrt(sum over i, j of src[i][j]^2)
+/** @name zelmFrobNorm_m */
+/** @{ */
+/**
+ * dst = sqrt(sum over i, j of src[i][j]^2).
+ *
  * Shapes: src: matrix; dst: one number per object, packed. Units: width, height in elements (a size in the name
- *   stands for them); strides and shifts in bytes.
+ * stands for them); strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmFrobNorm_m_32f(const float *src, int32_t srcRowStride, uint32_t width, uint32_t height,
@@ -722,70 +813,19 @@ ZELM_API ZelmStatus zelmFrobNorm_m_64f_3x3_P(const double *const *srcTable, int3
 ZELM_API ZelmStatus zelmFrobNorm_m_64f_4x4_P(const double *const *srcTable, int32_t srcShift, double *dst);
 ZELM_API ZelmStatus zelmFrobNorm_m_64f_5x5_P(const double *const *srcTable, int32_t srcShift, double *dst);
 ZELM_API ZelmStatus zelmFrobNorm_m_64f_6x6_P(const double *const *srcTable, int32_t srcShift, double *dst);
+/** @} */
 
-/*
- * ==== Trace ====
- */
-
-/*
- * zelmTrace_m: dst = sum over i of src[i][i]
- * Shapes: src: matrix; dst: one number per object, packed. Units: n in elements (a size in the name stands for it);
- *   strides and shifts in bytes.
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
- * Overlap: dst must not lie on the diagonal of src.
- */
-ZELM_API ZelmStatus zelmTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t n, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t n,
-        float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
-        float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
-        float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
-        float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
-        float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t n, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_3x3_P(const float *const *srcTable, int32_t srcShift, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_4x4_P(const float *const *srcTable, int32_t srcShift, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_5x5_P(const float *const *srcTable, int32_t srcShift, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_32f_6x6_P(const float *const *srcTable, int32_t srcShift, float *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f(const double *src, int32_t srcRowStride, uint32_t n, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t n,
-        double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
-        double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
-        double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
-        double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
-        double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t n, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_3x3_P(const double *const *srcTable, int32_t srcShift, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_4x4_P(const double *const *srcTable, int32_t srcShift, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_5x5_P(const double *const *srcTable, int32_t srcShift, double *dst);
-ZELM_API ZelmStatus zelmTrace_m_64f_6x6_P(const double *const *srcTable, int32_t srcShift, double *dst);
-
-/*
- * ==== Frobenius norm ====
- */
-
-/*
- * zelmFrobNorm_ma: dst[k] = sqrt(sum over i, j of src[k][i][j]^2)
+/** @name zelmFrobNorm_ma */
+/** @{ */
+/**
+ * dst[k] = sqrt(sum over i, j of src[k][i][j]^2).
+ *
  * Shapes: src: array of matrices; dst: one number per object, packed. Units: width, height in elements (a size in
- *   the name stands for them); count in objects; strides and shifts in bytes.
+ * the name stands for them); count in objects; strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst is written once per object.
  */
 ZELM_API ZelmStatus zelmFrobNorm_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride,
@@ -908,17 +948,81 @@ ZELM_API ZelmStatus zelmFrobNorm_ma_64f_5x5_LS2(const double *const *srcTable, i
         int32_t srcRowStride, int32_t srcElemStride, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmFrobNorm_ma_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *dst, uint32_t count);
+/** @} */
 
-/*
- * ==== Trace ====
+/** @} */
+
+/**
+ * @defgroup trace Trace
  */
+/** @{ */
 
-/*
- * zelmTrace_ma: dst[k] = sum over i of src[k][i][i]
- * Shapes: src: array of matrices; dst: one number per object, packed. Units: n in elements (a size in the name
- *   stands for it); count in objects; strides and shifts in bytes.
+/** @name zelmTrace_m */
+/** @{ */
+/**
+ * dst = sum over i of src[i][i].
+ *
+ * Shapes: src: matrix; dst: one number per object, packed. Units: n in elements (a size in the name stands for it);
+ * strides and shifts in bytes.
+ *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- *   ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
+ * Overlap: dst must not lie on the diagonal of src.
+ */
+ZELM_API ZelmStatus zelmTrace_m_32f(const float *src, int32_t srcRowStride, uint32_t n, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_4x4(const float *src, int32_t srcRowStride, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_5x5(const float *src, int32_t srcRowStride, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t n,
+        float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
+        float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
+        float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
+        float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
+        float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t n, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_3x3_P(const float *const *srcTable, int32_t srcShift, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_4x4_P(const float *const *srcTable, int32_t srcShift, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_5x5_P(const float *const *srcTable, int32_t srcShift, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_32f_6x6_P(const float *const *srcTable, int32_t srcShift, float *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f(const double *src, int32_t srcRowStride, uint32_t n, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_4x4(const double *src, int32_t srcRowStride, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_5x5(const double *src, int32_t srcRowStride, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride, uint32_t n,
+        double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
+        double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
+        double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
+        double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
+        double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t n, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_3x3_P(const double *const *srcTable, int32_t srcShift, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_4x4_P(const double *const *srcTable, int32_t srcShift, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_5x5_P(const double *const *srcTable, int32_t srcShift, double *dst);
+ZELM_API ZelmStatus zelmTrace_m_64f_6x6_P(const double *const *srcTable, int32_t srcShift, double *dst);
+/** @} */
+
+/** @name zelmTrace_ma */
+/** @{ */
+/**
+ * dst[k] = sum over i of src[k][i][i].
+ *
+ * Shapes: src: array of matrices; dst: one number per object, packed. Units: n in elements (a size in the name
+ * stands for it); count in objects; strides and shifts in bytes.
+ *
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
+ * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ *
  * Overlap: dst must not lie on the diagonal of src.
  */
 ZELM_API ZelmStatus zelmTrace_ma_32f(const float *src, int32_t srcObjStride, int32_t srcRowStride, uint32_t n,
@@ -1041,6 +1145,9 @@ ZELM_API ZelmStatus zelmTrace_ma_64f_5x5_LS2(const double *const *srcTable, int3
         int32_t srcElemStride, double *dst, uint32_t count);
 ZELM_API ZelmStatus zelmTrace_ma_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, uint32_t count);
+/** @} */
+
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,5 @@
-// conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--digest FILE]
+// conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--digest FILE] [--summary
+// FILE]
 #include "crash.h"
 #include "library.h"
 #include "options.h"
@@ -9,7 +10,20 @@
 #include <chrono>
 #include <cinttypes>
 #include <cstdio>
+#include <fstream>
 #include <stdexcept>
+#include <string>
+
+namespace {
+
+bool writeLine(const std::string &path, const std::string &text) {
+    std::ofstream file(path);
+    file << text << '\n';
+    file.close();
+    return !file.fail();
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
     using namespace zelmtest;
@@ -27,10 +41,13 @@ int main(int argc, char **argv) {
 
     const auto start = std::chrono::steady_clock::now();
     int result = RUN_ALL_TESTS();
-    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    const std::string text = summary().text(options().seed, std::chrono::steady_clock::now() - start);
 
-    std::printf("conformance: %zu functions, %" PRIu64 " calls, seed %" PRIu64 ", %.1f s\n",
-                summary().functionCount(), summary().calls(), options().seed, seconds.count());
+    std::puts(text.c_str());
+    if (!options().summary.empty() && !writeLine(options().summary, text)) {
+        std::fprintf(stderr, "cannot write %s\n", options().summary.c_str());
+        result = 1;
+    }
     if (!options().digest.empty() && !summary().writeDigest(options().digest)) {
         std::fprintf(stderr, "cannot write %s\n", options().digest.c_str());
         result = 1;

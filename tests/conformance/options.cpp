@@ -31,6 +31,7 @@ void parseOptions(int argc, char **argv) {
         {"--case", [&](const std::string &v) { o.onlyCase = number(v); }},
         {"--function", [&](const std::string &v) { o.function = v; }},
         {"--digest", [&](const std::string &v) { o.digest = v; }},
+        {"--summary", [&](const std::string &v) { o.summary = v; }},
     };
     if (const char *seed = std::getenv("ZELM_SEED"))
         o.seed = number(seed);
@@ -44,7 +45,7 @@ void parseOptions(int argc, char **argv) {
         if (option == known.end())
             throw std::invalid_argument(
                 "unknown option " + argument +
-                "; known: --seed --cases --case --function --digest, each with a value");
+                "; known: --seed --cases --case --function --digest --summary, each with a value");
         if (equals != std::string::npos)
             option->second(argument.substr(equals + 1));
         else if (i + 1 < argc)

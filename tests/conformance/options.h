@@ -13,6 +13,7 @@ struct Options {
     std::optional<std::uint64_t> onlyCase; // --case: this one alone
     std::string function;                  // --function: this one alone
     std::string digest;                    // --digest: the file to write
+    std::string summary;                   // --summary: likewise
 };
 
 Options &options();

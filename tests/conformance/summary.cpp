@@ -5,6 +5,13 @@
 
 namespace zelmtest {
 
+std::string Summary::text(std::uint64_t seed, std::chrono::duration<double> time) const {
+    char text[128];
+    std::snprintf(text, sizeof text, "conformance: %zu names, %" PRIu64 " calls, seed %" PRIu64 ", %.1f s",
+                  lines_.size(), calls_, seed, time.count());
+    return text;
+}
+
 bool Summary::writeDigest(const std::string &path) const {
     std::FILE *file = std::fopen(path.c_str(), "w");
     if (!file)

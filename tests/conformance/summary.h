@@ -1,6 +1,7 @@
 // What a run has covered, and a hash of all that the functions gave.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,8 +15,8 @@ public:
         calls_ += calls;
     }
 
-    std::size_t functionCount() const { return lines_.size(); }
-    std::uint64_t calls() const { return calls_; }
+    // What the run was, on one line.
+    std::string text(std::uint64_t seed, std::chrono::duration<double> time) const;
 
     // One line `name hash` per function; false if the file cannot be written.
     bool writeDigest(const std::string &path) const;
