@@ -136,16 +136,22 @@ TEST(Copy, NegativeStridesTurnAMatrix) {
     EXPECT_EQ(result, (std::array<float, 6>{6, 5, 4, 3, 2, 1}));
 }
 
+// Two objects of three elements, told in the three ways: the addresses are the same on both sides.
 TEST(Copy, OntoItselfChangesNothing) {
-    auto numbers = counted<float>(48);
+    auto numbers = counted<float>(6);
     const auto before = numbers;
-    float *table[12];
-    for (std::size_t e = 0; e < 12; ++e)
-        table[e] = &numbers[4 * e];
-    EXPECT_EQ(zelmCopy_ma_32f_SS(numbers.data(), 48, 16, 4, numbers.data(), 48, 16, 4, 4, 3, 4), ZELM_OK);
-    EXPECT_EQ(zelmCopy_ma_32f_PP(table, 0, 4, table, 0, 4, 4, 3, 4), ZELM_OK);
-    EXPECT_EQ(zelmCopy_va_32f_LL(table, 0, 4, table, 0, 4, 4, 12), ZELM_OK);
-    EXPECT_EQ(zelmCopy_va_32f_PP(table, 0, 4, table, 0, 4, 12, 4), ZELM_OK);
+    float *const data = numbers.data();
+    float *const positions[] = {&data[0], &data[1], &data[2]}, *const objects[] = {&data[0], &data[3]};
+    EXPECT_EQ(zelmCopy_va_32f_SS(data, 12, 4, data, 12, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_SP(data, 12, 4, positions, 0, 12, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_SL(data, 12, 4, objects, 0, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_PS(positions, 0, 12, data, 12, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_PP(positions, 0, 12, positions, 0, 12, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_PL(positions, 0, 12, objects, 0, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_LS(objects, 0, 4, data, 12, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_LP(objects, 0, 4, positions, 0, 12, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_va_32f_LL(objects, 0, 4, objects, 0, 4, 3, 2), ZELM_OK);
+    EXPECT_EQ(zelmCopy_ma_32f_SS(data, 12, 12, 4, data, 12, 12, 4, 3, 1, 2), ZELM_OK);
     EXPECT_EQ(numbers, before);
 }
 
@@ -233,6 +239,20 @@ TEST(Extract, MatricesPTestNoSize) {
     EXPECT_EQ(zelmExtract_m_64f_P(nowhere<const double *>(), 0, nowhere<double>(), 0, 3), ZELM_OK);
     EXPECT_EQ(zelmExtract_mT_32f_P(nullptr, 0, nullptr, 0, 3), ZELM_OK);
     EXPECT_EQ(zelmExtract_mT_64f_P(nullptr, 0, nullptr, 3, 0), ZELM_OK);
+}
+
+// Each element is moved before the next is read, also where dst lies across the source.
+TEST(Extract, AcrossItsSourceFollowsTheTraversal) {
+    auto numbers = counted<double>(8);
+    EXPECT_EQ(zelmExtract_v_64f_S2(&numbers[0], 8, &numbers[1], 6), ZELM_OK);
+    EXPECT_EQ(numbers, (std::vector<double>{1, 1, 1, 1, 1, 1, 1, 8}));
+    numbers = counted<double>(8);
+    EXPECT_EQ(zelmExtract_ma_64f_S2(&numbers[2], 16, 8, 8, &numbers[0], 2, 1, 3), ZELM_OK);
+    EXPECT_EQ(numbers, (std::vector<double>{3, 4, 5, 6, 7, 8, 7, 8}));
+    numbers = counted<double>(8);
+    const double *const table[] = {&numbers[0], &numbers[1], &numbers[2], &numbers[3]};
+    EXPECT_EQ(zelmExtract_mT_64f_P(table, 0, &numbers[1], 2, 2), ZELM_OK);
+    EXPECT_EQ(numbers, (std::vector<double>{1, 1, 3, 1, 1, 6, 7, 8}));
 }
 
 // A null table or dst is used as it stands.
