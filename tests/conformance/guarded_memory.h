@@ -14,7 +14,7 @@ class GuardedMemory {
 public:
     static constexpr std::size_t guardSize = 1 << 16;
 
-    explicit GuardedMemory(std::size_t size = 1 << 18) : size_(size) {
+    explicit GuardedMemory(std::size_t size = 1 << 16) : size_(size) {
 #ifdef __x86_64__
         constexpr int place = MAP_32BIT; // so that a 32-bit shift reaches it from a null pointer
 #else
