@@ -210,7 +210,7 @@ TEST(Transpose, OnlyThreeMembersWorkInPlace) {
         const bool array = std::string_view(function.descriptor) == "ma",
                    works = inPlace.count(function.name);
         for (std::uint32_t n : {2u, 3u, 4u, 5u, 6u, 8u, 9u})
-            for (std::uint32_t count : {1u, 2u, 3u, 4u, 5u, 9u}) {
+            for (std::uint32_t count : {1u, 2u, 3u, 4u, 5u, 9u, 21u}) {
                 if ((*function.size && n != static_cast<std::uint32_t>(*function.size - '0')) ||
                     (!array && count != 1))
                     continue;
