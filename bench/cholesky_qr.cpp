@@ -265,9 +265,7 @@ std::vector<double> factorsOf(Systems<T, layout, n> &s) {
 
 template <class Method, class T, Layout layout, std::size_t n>
 std::string nameOf(const std::string &row) {
-    const std::string order = std::to_string(n);
-    return std::string("zelm") + Method::name + row + "_" + typeName<T> + "_" + order + "x" + order +
-           suffixOf(layout);
+    return fixedName<T, layout, n, n>(Method::name + row);
 }
 
 template <class Method, int storage, class T, std::size_t n>

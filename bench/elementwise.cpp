@@ -211,13 +211,6 @@ void runLoop(Operands<T, layout, rows, columns> &o) {
     }
 }
 
-template <class T, Layout layout, std::size_t rows, std::size_t columns>
-std::string nameOf(const char *operation) {
-    return std::string("zelm") + operation + "_" + typeName<T> + "_" +
-           std::to_string(rows == 1 ? columns : rows) + "x" + std::to_string(rows == 1 ? 1 : columns) +
-           suffixOf(layout);
-}
-
 template <class Row, class T, Layout layout, std::size_t rows, std::size_t columns>
 Comparison compareArrays(std::size_t count) {
     constexpr Shape shape = Row::shape;
@@ -235,7 +228,7 @@ Comparison compareArrays(std::size_t count) {
                             operand(o->src2, std::bool_constant<Row::shape.secondIsArray>())),
             o->dst.array(k), countArgument(objects));
     };
-    const std::string name = nameOf<T, layout, rows, columns>(Row::array);
+    const std::string name = fixedName<T, layout, rows, columns>(Row::array);
     const auto results = [o] { return o->dst.values(); };
     Comparison comparison{
         count, 1e-5, {{own, callOf(name, [=](std::size_t) { return arguments(0, count); }), results}}};
@@ -283,7 +276,7 @@ Comparison compareSingle() {
                               factors<Row, T>());
     };
     const auto results = [o] { return o->dst.values(); };
-    const std::string name = nameOf<T, Layout::Standard, rows, columns>(Row::single);
+    const std::string name = fixedName<T, Layout::Standard, rows, columns>(Row::single);
     return {
         singles,
         1e-5,
@@ -329,7 +322,7 @@ Comparison compareLength(const std::string &name, std::size_t len) {
 
 template <class Row, class T, Layout layout, std::size_t rows, std::size_t columns>
 void addArrayRow(std::size_t count) {
-    addRow(nameOf<T, layout, rows, columns>(Row::array) + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, rows, columns>(Row::array) + "/" + std::to_string(count),
            [count] { return compareArrays<Row, T, layout, rows, columns>(count); });
 }
 
@@ -339,7 +332,7 @@ void addRowsOfSize() {
     addArrayRow<Row, T, Layout::Standard, rows, columns>(manyObjects<T>(rows * columns));
     addArrayRow<Row, T, Layout::P, rows, columns>(1000);
     if constexpr (Row::shape.firstIsArray && Row::shape.secondIsArray) {
-        addRow(nameOf<T, Layout::Standard, rows, columns>(Row::single) + "/single",
+        addRow(fixedName<T, Layout::Standard, rows, columns>(Row::single) + "/single",
                [] { return compareSingle<Row, T, rows, columns>(); });
     }
 }

@@ -49,12 +49,6 @@ __attribute__((noinline)) ZelmStatus eigenDeterminant(const T *matrix, T *determ
 }
 
 template <class T, Layout layout, std::size_t n>
-std::string nameOf(const std::string &row) {
-    const std::string order = std::to_string(n);
-    return "zelm" + row + "_" + typeName<T> + "_" + order + "x" + order + suffixOf(layout);
-}
-
-template <class T, Layout layout, std::size_t n>
 Comparison compareInverses(std::size_t count) {
     const auto s = std::make_shared<Matrices<T, layout, n>>(count);
     const auto arguments = [s, count](std::size_t) {
@@ -66,11 +60,11 @@ Comparison compareInverses(std::size_t count) {
             result = Eigen::Map<const Matrix<T, n>>(s->packed.data() + k * n * n).inverse();
         }
     };
-    return {
-        count,
-        tolerance<T>,
-        {{own, callOf(nameOf<T, layout, n>("Invert_ma"), arguments), [s] { return s->inverses.values(); }},
-         {eigen, invert, [s] { return s->packedInverses.values(); }}}};
+    return {count,
+            tolerance<T>,
+            {{own, callOf(fixedName<T, layout, n, n>("Invert_ma"), arguments),
+              [s] { return s->inverses.values(); }},
+             {eigen, invert, [s] { return s->packedInverses.values(); }}}};
 }
 
 template <class T, Layout layout, std::size_t n>
@@ -85,11 +79,11 @@ Comparison compareDeterminants(std::size_t count) {
                 Eigen::Map<const Matrix<T, n>>(s->packed.data() + k * n * n).determinant();
         }
     };
-    return {
-        count,
-        tolerance<T>,
-        {{own, callOf(nameOf<T, layout, n>("Det_ma"), arguments), [s] { return s->determinants.values(); }},
-         {eigen, expand, [s] { return s->eigenDeterminants.values(); }}}};
+    return {count,
+            tolerance<T>,
+            {{own, callOf(fixedName<T, layout, n, n>("Det_ma"), arguments),
+              [s] { return s->determinants.values(); }},
+             {eigen, expand, [s] { return s->eigenDeterminants.values(); }}}};
 }
 
 template <class T, std::size_t n>
@@ -102,7 +96,7 @@ Comparison compareSingleInverse() {
         return std::tuple(static_cast<const T *>(s->packed.data() + k * n * n),
                           s->packedInverses.data() + k * n * n);
     };
-    const std::string name = nameOf<T, Layout::Standard, n>("Invert_m");
+    const std::string name = fixedName<T, Layout::Standard, n, n>("Invert_m");
     return {singles,
             tolerance<T>,
             {{own, callPerObject(name, singles, objects), [s] { return s->inverses.values(); }},
@@ -120,7 +114,7 @@ Comparison compareSingleDeterminant() {
         return std::tuple(static_cast<const T *>(s->packed.data() + k * n * n),
                           s->eigenDeterminants.data() + k);
     };
-    const std::string name = nameOf<T, Layout::Standard, n>("Det_m");
+    const std::string name = fixedName<T, Layout::Standard, n, n>("Det_m");
     return {singles,
             tolerance<T>,
             {{own, callPerObject(name, singles, objects), [s] { return s->determinants.values(); }},
@@ -130,9 +124,9 @@ Comparison compareSingleDeterminant() {
 
 template <class T, std::size_t n, Layout layout>
 void addArrayRows(std::size_t count) {
-    addRow(nameOf<T, layout, n>("Det_ma") + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, n, n>("Det_ma") + "/" + std::to_string(count),
            [count] { return compareDeterminants<T, layout, n>(count); });
-    addRow(nameOf<T, layout, n>("Invert_ma") + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, n, n>("Invert_ma") + "/" + std::to_string(count),
            [count] { return compareInverses<T, layout, n>(count); });
 }
 
@@ -141,9 +135,9 @@ void addRowsOfOrder() {
     addArrayRows<T, n, Layout::Standard>(1000);
     addArrayRows<T, n, Layout::Standard>(manyObjects<T>(n * n));
     addArrayRows<T, n, Layout::P>(1000);
-    addRow(nameOf<T, Layout::Standard, n>("Det_m") + "/single",
+    addRow(fixedName<T, Layout::Standard, n, n>("Det_m") + "/single",
            [] { return compareSingleDeterminant<T, n>(); });
-    addRow(nameOf<T, Layout::Standard, n>("Invert_m") + "/single",
+    addRow(fixedName<T, Layout::Standard, n, n>("Invert_m") + "/single",
            [] { return compareSingleInverse<T, n>(); });
 }
 

@@ -147,12 +147,6 @@ constexpr bool hasSingleForms(Layout layout) {
     return layout == Layout::Standard || layout == Layout::S2 || layout == Layout::P;
 }
 
-template <class T, Layout layout, std::size_t n>
-std::string nameOf(const std::string &row) {
-    const std::string order = std::to_string(n);
-    return "zelm" + row + "_" + typeName<T> + "_" + order + "x" + order + suffixOf(layout);
-}
-
 template <int storage, class T, std::size_t n>
 Contender eigenDecompositions(const std::shared_ptr<Systems<T, Layout::Standard, n>> &s) {
     const auto e = std::make_shared<EigenSystems<T, n, storage>>(s->factors.count());
@@ -171,7 +165,7 @@ Comparison compareDecompositions(std::size_t count) {
         return std::tuple_cat(s->matrices.constArray(s->firstMatrix(turn) + k), std::tuple(s->pivotOf(k)),
                               s->factors.array(k), countArgument(objects));
     };
-    const std::string name = nameOf<T, layout, n>("LUDecomp_ma");
+    const std::string name = fixedName<T, layout, n, n>("LUDecomp_ma");
     const auto wholeArray = [arrays, count](std::size_t turn) { return arrays(turn, 0, count); };
     Comparison comparison{count, tolerance<T>, {{own, callOf(name, wholeArray), results}}};
     if constexpr (layout == Layout::Standard) {
@@ -194,7 +188,7 @@ Comparison compareDecompositions(std::size_t count) {
                                   std::tuple(s->pivotOf(k)), s->factors.object(k));
         };
         comparison.contenders.push_back(
-            {one, callPerObject(nameOf<T, layout, n>("LUDecomp_m"), count, objects), results});
+            {one, callPerObject(fixedName<T, layout, n, n>("LUDecomp_m"), count, objects), results});
     } else {
         const auto objects = [arrays](std::size_t turn, std::size_t k) { return arrays(turn, k, 1); };
         comparison.contenders.push_back({one, callPerObject(name, count, objects), results});
@@ -224,7 +218,7 @@ Comparison compareSingleDecomposition() {
     const auto objects = [s](std::size_t, std::size_t k) {
         return std::tuple_cat(s->matrices.constObject(k), std::tuple(s->pivotOf(k)), s->factors.object(k));
     };
-    const std::string name = nameOf<T, Layout::Standard, n>("LUDecomp_m");
+    const std::string name = fixedName<T, Layout::Standard, n, n>("LUDecomp_m");
     return {matricesInTurn,
             tolerance<T>,
             {{own, callPerObject(name, matricesInTurn, objects), [s] { return s->permutedFactors(); }},
@@ -284,7 +278,7 @@ Comparison compareSolutions(std::size_t count) {
         return std::tuple_cat(factors(k), std::tuple(s->constPivotOf(shared ? 0 : k)), s->right.constArray(k),
                               s->unknowns.array(k), countArgument(objects));
     };
-    const std::string name = nameOf<T, layout, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava");
+    const std::string name = fixedName<T, layout, n, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava");
     Comparison comparison{
         count, tolerance<T>, {{own, callOf(name, [=](std::size_t) { return arrays(0, count); }), results}}};
     if constexpr (layout == Layout::Standard) {
@@ -308,7 +302,7 @@ Comparison compareSolutions(std::size_t count) {
                                   s->right.constObject(k), s->unknowns.object(k));
         };
         comparison.contenders.push_back(
-            {one, callPerObject(nameOf<T, layout, n>("LUBackSubst_mv"), count, objects), results});
+            {one, callPerObject(fixedName<T, layout, n, n>("LUBackSubst_mv"), count, objects), results});
     } else {
         const auto objects = [arrays](std::size_t, std::size_t k) { return arrays(k, 1); };
         comparison.contenders.push_back({one, callPerObject(name, count, objects), results});
@@ -343,7 +337,7 @@ Comparison compareSingleSolution() {
         return std::tuple_cat(s->factors.constObject(k), std::tuple(s->constPivotOf(k)),
                               s->right.constObject(k), s->unknowns.object(k));
     };
-    const std::string name = nameOf<T, Layout::Standard, n>("LUBackSubst_mv");
+    const std::string name = fixedName<T, Layout::Standard, n, n>("LUBackSubst_mv");
     return {singles,
             tolerance<T>,
             {{own, callPerObject(name, singles, objects), [s] { return s->unknowns.values(); }},
@@ -353,13 +347,13 @@ Comparison compareSingleSolution() {
 
 template <class T, std::size_t n, Layout layout = Layout::Standard>
 void addDecompositionRow(std::size_t count) {
-    addRow(nameOf<T, layout, n>("LUDecomp_ma") + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, n, n>("LUDecomp_ma") + "/" + std::to_string(count),
            [count] { return compareDecompositions<T, layout, n>(count); });
 }
 
 template <bool shared, class T, std::size_t n, Layout layout = Layout::Standard>
 void addSolutionRow(std::size_t count) {
-    addRow(nameOf<T, layout, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava") + "/" +
+    addRow(fixedName<T, layout, n, n>(shared ? "LUBackSubst_mva" : "LUBackSubst_mava") + "/" +
                std::to_string(count),
            [count] { return compareSolutions<shared, T, layout, n>(count); });
 }
@@ -368,7 +362,7 @@ template <class T, std::size_t n>
 void addRowsOfOrder() {
     addDecompositionRow<T, n>(1000);
     addDecompositionRow<T, n>(manyObjects<T>(n * n));
-    addRow(nameOf<T, Layout::Standard, n>("LUDecomp_m") + "/single",
+    addRow(fixedName<T, Layout::Standard, n, n>("LUDecomp_m") + "/single",
            [] { return compareSingleDecomposition<T, n>(); });
 }
 
@@ -378,7 +372,7 @@ void addSolutionRows() {
     addSolutionRow<false, T, n>(manyObjects<T>(n * n));
     addSolutionRow<true, T, n>(1000);
     addSolutionRow<true, T, n>(1000000);
-    addRow(nameOf<T, Layout::Standard, n>("LUBackSubst_mv") + "/single",
+    addRow(fixedName<T, Layout::Standard, n, n>("LUBackSubst_mv") + "/single",
            [] { return compareSingleSolution<T, n>(); });
 }
 

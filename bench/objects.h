@@ -36,6 +36,13 @@ constexpr const char *suffixOf(Layout layout) {
 template <class T>
 constexpr const char *typeName = std::is_same_v<T, float> ? "32f" : "64f";
 
+// The name of a fixed-size function: row is "Mul_mv" or the like; vectors have one row.
+template <class T, Layout layout, std::size_t rows, std::size_t columns>
+std::string fixedName(const std::string &row) {
+    return std::string("zelm") + row + "_" + typeName<T> + "_" + std::to_string(rows == 1 ? columns : rows) +
+           "x" + std::to_string(rows == 1 ? 1 : columns) + suffixOf(layout);
+}
+
 // Memory for one operand. Successive buffers begin at different distances from a page's start: operands that
 // all begin at the same one would slow each other down on processors that compare only the low bits of
 // addresses.

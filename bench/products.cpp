@@ -159,12 +159,6 @@ void runLoop(Operands<Row, T, layout, n> &o) {
     }
 }
 
-template <class T, Layout layout, std::size_t n>
-std::string sizedName(const std::string &row) {
-    const std::string order = std::to_string(n);
-    return "zelm" + row + "_" + typeName<T> + "_" + order + "x" + order + suffixOf(layout);
-}
-
 template <class T>
 constexpr double tolerance = std::is_same_v<T, float> ? 1e-4 : 1e-12;
 
@@ -172,7 +166,7 @@ template <class Row, class T, Layout layout, std::size_t n>
 Comparison compareArrays(std::size_t count) {
     const auto o = std::make_shared<Operands<Row, T, layout, n>>(count);
     const auto results = [o] { return o->dst.values(); };
-    const std::string name = sizedName<T, layout, n>(Row::array);
+    const std::string name = fixedName<T, layout, n, n>(Row::array);
     Comparison comparison{
         count,
         tolerance<T>,
@@ -211,15 +205,16 @@ Comparison compareSingle() {
                           static_cast<const T *>(o->src2.data() + (Row::secondIsArray ? k * vector : 0)),
                           static_cast<const T *>(o->src3.data() + k * vector), o->dst.data() + k * vector);
     };
-    return {singles,
-            tolerance<T>,
-            {{own, callPerObject(sizedName<T, Layout::Standard, n>(Row::single), singles, objects), results},
-             {eigen, callPerObject(&eigenSingle<Row, T, n>, singles, peers), results}}};
+    return {
+        singles,
+        tolerance<T>,
+        {{own, callPerObject(fixedName<T, Layout::Standard, n, n>(Row::single), singles, objects), results},
+         {eigen, callPerObject(&eigenSingle<Row, T, n>, singles, peers), results}}};
 }
 
 template <class Row, class T, std::size_t n, Layout layout = Layout::Standard>
 void addArrayRow(std::size_t count) {
-    addRow(sizedName<T, layout, n>(Row::array) + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, n, n>(Row::array) + "/" + std::to_string(count),
            [count] { return compareArrays<Row, T, layout, n>(count); });
 }
 
@@ -233,7 +228,7 @@ void addRows() {
 
 template <class Row, class T, std::size_t n>
 void addSingleRow() {
-    addRow(sizedName<T, Layout::Standard, n>(Row::single) + "/single",
+    addRow(fixedName<T, Layout::Standard, n, n>(Row::single) + "/single",
            [] { return compareSingle<Row, T, n>(); });
 }
 

@@ -131,13 +131,6 @@ void runLoop(Operands<Row, T, layout, rows, columns> &o) {
     }
 }
 
-template <class T, Layout layout, std::size_t rows, std::size_t columns>
-std::string nameOf(const char *operation) {
-    return std::string("zelm") + operation + "_" + typeName<T> + "_" +
-           std::to_string(rows == 1 ? columns : rows) + "x" + std::to_string(rows == 1 ? 1 : columns) +
-           suffixOf(layout);
-}
-
 template <class Row, class T, Layout layout, std::size_t rows, std::size_t columns>
 Comparison compareArrays(std::size_t count) {
     const auto o = std::make_shared<Operands<Row, T, layout, rows, columns>>(count);
@@ -159,7 +152,7 @@ Comparison compareArrays(std::size_t count) {
             return std::tuple_cat(o->src1.constArray(k), result(), countArgument(objects));
         }
     };
-    const std::string name = nameOf<T, layout, rows, columns>(Row::array);
+    const std::string name = fixedName<T, layout, rows, columns>(Row::array);
     const auto results = [o] { return o->values(); };
     Comparison comparison{
         count, 1e-5, {{own, callOf(name, [=](std::size_t) { return arguments(0, count); }), results}}};
@@ -203,7 +196,7 @@ Comparison compareSingle() {
                           static_cast<const T *>(&o->src2.at(k, 0, 0)), &o->result(k, 0));
     };
     const auto results = [o] { return o->values(); };
-    const std::string name = nameOf<T, Layout::Standard, rows, columns>(Row::single);
+    const std::string name = fixedName<T, Layout::Standard, rows, columns>(Row::single);
     return {singles,
             1e-5,
             {{own, callPerObject(name, singles, arguments), results},
@@ -245,7 +238,7 @@ Comparison compareLength(const std::string &name, std::size_t len) {
 
 template <class Row, class T, Layout layout, std::size_t rows, std::size_t columns>
 void addArrayRow(std::size_t count) {
-    addRow(nameOf<T, layout, rows, columns>(Row::array) + "/" + std::to_string(count),
+    addRow(fixedName<T, layout, rows, columns>(Row::array) + "/" + std::to_string(count),
            [count] { return compareArrays<Row, T, layout, rows, columns>(count); });
 }
 
@@ -256,7 +249,7 @@ void addRowsOfSize() {
     addArrayRow<Row, T, Layout::P, rows, columns>(1000);
     addArrayRow<Row, T, Layout::L, rows, columns>(1000);
     if constexpr (!hasInvariant<Row>) {
-        addRow(nameOf<T, Layout::Standard, rows, columns>(Row::single) + "/single",
+        addRow(fixedName<T, Layout::Standard, rows, columns>(Row::single) + "/single",
                [] { return compareSingle<Row, T, rows, columns>(); });
     }
 }
