@@ -128,14 +128,14 @@ TEST(LoadIdentity, WithoutColumnsOnlyOnesAreStored) {
 TEST(LoadIdentity, ANegativeWidthHasNoColumns) {
     // The least row stride, one element back, is a large number: it is the one that counts.
     auto matrix = nines<double, 8>();
-    EXPECT_EQ(zelmLoadIdentity_ma_64f_S(&matrix[3], 0, 3 * d, 2 * d, ~0u, 3, 1), ZELM_OK);
+    EXPECT_EQ(zelmLoadIdentity_ma_64f_S(&matrix[3], 0, 3 * d, 2 * d, -1, 3, 1), ZELM_OK);
     EXPECT_EQ(matrix, (std::array<double, 8>{9, 9, 9, 1, 1, 1, 9, 9}));
 }
 
 TEST(LoadIdentity, WithoutRowsNothingIsWritten) {
     auto matrix = nines<float, 4>();
     float *const table[] = {matrix.data(), matrix.data(), matrix.data(), matrix.data()};
-    for (const std::uint32_t height : {0u, ~0u, 0x80000000u}) {
+    for (const std::int32_t height : {0, -1, INT32_MIN}) {
         EXPECT_EQ(zelmLoadIdentity_ma_32f_S(matrix.data(), 0, 2 * f, f, 2, height, 1), ZELM_OK);
         EXPECT_EQ(zelmLoadIdentity_ma_32f_P(table, 0, f, 2, height, 1), ZELM_OK);
         EXPECT_EQ(zelmLoadIdentity_ma_32f_L(table, 0, 2 * f, f, 2, height, 1), ZELM_OK);
