@@ -84,6 +84,13 @@ ZELM_INLINE void moveRows(const S &s, const D &d, RunTimeShape shape, std::uint3
     if constexpr (kIsDenseArray<S> && kIsDenseArray<D>)
         if (isOneRun(s, shape) && isOneRun(d, shape))
             return moveRun<T>(d.start, s.start, shape.elements() * count);
+    const Address row = Address{shape.width} * sizeof(T);
+    if (shape.height == 1 || (s.rowStride == row && d.rowStride == row)) {
+        const Address elements = shape.elements();
+        for (std::uint32_t k = 0; k < count; ++k)
+            moveRun<T>(d.object(k).start, s.object(k).start, elements);
+        return;
+    }
     for (std::uint32_t k = 0; k < count; ++k) {
         const auto from = s.object(k);
         const auto to = d.object(k);
@@ -103,94 +110,121 @@ ZELM_INLINE void movePlanes(const PackedTableArray<const T> &s, const PackedTabl
 
 // ---- between rows and planes: blocks of as many objects as a pack has lanes, transposed in registers
 
-// N elements from column j on of row i, of each object of a group.
+// N adjacent elements of a row, in the objects from `first` to before `last`, a multiple of the lanes apart.
+struct Columns {
+    std::uint32_t row, column, first, last;
+};
+
+template <typename T, typename Rows>
+ZELM_INLINE void addressLanes(const Rows &rows, const Columns &at, std::uint32_t k, LaneAddresses<T> &lanes) {
+    const Address within = at.row * rows.rowStride + at.column * sizeof(T);
+#pragma GCC unroll 4
+    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
+        lanes[lane] = rows.object(k + lane).start + within;
+}
+
+// Objects of three elements that follow each other without a gap.
+template <unsigned N, typename Rows>
+ZELM_INLINE bool areThrees(const Rows &rows) {
+    if constexpr (N == 3 && kIsDenseArray<Rows>)
+        return rows.objStride == 3 * sizeof(typename Rows::Element);
+    else
+        return false;
+}
+
 template <unsigned N, typename S, typename T>
-ZELM_INLINE void moveColumns(const Group<S> &from, const Table<T> &to, std::uint32_t i, std::uint32_t j,
-                             std::uint32_t width) {
-    LaneAddresses<T> at;
-    Pack<T> columns[N];
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-        at[lane] = from.objects[lane].address(i, j, width);
-    loadAdjacent<T, N>(at, columns);
+ZELM_INLINE void moveColumns(const S &s, const PackedTableArray<T> &d, std::uint32_t width,
+                             const Columns &at) {
+    Address plane[N];
 #pragma GCC unroll 4
     for (unsigned c = 0; c < N; ++c)
-        storePack(to.address(i, j + c, width), columns[c]);
-}
-
-template <unsigned N, typename T, typename D>
-ZELM_INLINE void moveColumns(const Table<const T> &from, const Group<D> &to, std::uint32_t i, std::uint32_t j,
-                             std::uint32_t width) {
-    LaneAddresses<T> at;
-    Pack<T> columns[N];
-#pragma GCC unroll 4
-    for (unsigned c = 0; c < N; ++c)
-        columns[c] = loadPack<T>(from.address(i, j + c, width));
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-        at[lane] = to.objects[lane].address(i, j, width);
-    storeAdjacent<T, N>(at, columns);
-}
-
-// Rows of three, which may follow each other without a gap.
-template <typename S, typename T>
-ZELM_INLINE void moveThrees(const Group<S> &from, const Table<T> &to, std::uint32_t i) {
-    Pack<T> columns[3];
-    loadRow<3>(from, i, columns);
-#pragma GCC unroll 3
-    for (unsigned c = 0; c < 3; ++c)
-        storePack(to.address(i, c, 3), columns[c]);
-}
-
-template <typename T, typename D>
-ZELM_INLINE void moveThrees(const Table<const T> &from, const Group<D> &to, std::uint32_t i) {
-    Pack<T> columns[3];
-#pragma GCC unroll 3
-    for (unsigned c = 0; c < 3; ++c)
-        columns[c] = loadPack<T>(from.address(i, c, 3));
-    storeRow<3>(to, i, columns);
-}
-
-template <unsigned lanes, typename S, typename D>
-ZELM_INLINE void moveGroup(const S &from, const D &to, RunTimeShape shape) {
-    for (std::uint32_t i = 0; i < shape.height; ++i) {
-        std::uint32_t j = 0;
-        for (; shape.width - j >= lanes; j += lanes)
-            moveColumns<lanes>(from, to, i, j, shape.width);
-        if constexpr (lanes == 4) {
-            if (shape.width == 3)
-                moveThrees(from, to, i);
-            else if (shape.width - j == 3)
-                moveColumns<3>(from, to, i, j, shape.width);
-            else if (shape.width - j == 2)
-                moveColumns<2>(from, to, i, j, shape.width);
+        plane[c] = d.object(0).address(at.row, at.column + c, width);
+    const bool threes = areThrees<N>(s);
+    for (std::uint32_t k = at.first; k < at.last; k += kLanes<T>) {
+        LaneAddresses<T> lanes;
+        Pack<T> columns[N];
+        addressLanes<T>(s, at, k, lanes);
+        if constexpr (N == 3) {
+            if (threes)
+                loadThrees(lanes[0], columns);
+            else
+                loadAdjacent<T, N>(lanes, columns);
+        } else {
+            loadAdjacent<T, N>(lanes, columns);
         }
-        if (shape.width - j == 1)
-            moveColumns<1>(from, to, i, j, shape.width);
+#pragma GCC unroll 4
+        for (unsigned c = 0; c < N; ++c)
+            storePack(plane[c] + k * sizeof(T), columns[c]);
     }
 }
 
-template <typename S, typename T>
-ZELM_INLINE void moveRowsToPlanes(const S &s, const PackedTableArray<T> &d, RunTimeShape shape,
-                                  std::uint32_t count) {
+template <unsigned N, typename T, typename D>
+ZELM_INLINE void moveColumns(const PackedTableArray<const T> &s, const D &d, std::uint32_t width,
+                             const Columns &at) {
+    Address plane[N];
+#pragma GCC unroll 4
+    for (unsigned c = 0; c < N; ++c)
+        plane[c] = s.object(0).address(at.row, at.column + c, width);
+    const bool threes = areThrees<N>(d);
+    for (std::uint32_t k = at.first; k < at.last; k += kLanes<T>) {
+        LaneAddresses<T> lanes;
+        Pack<T> columns[N];
+        addressLanes<T>(d, at, k, lanes);
+#pragma GCC unroll 4
+        for (unsigned c = 0; c < N; ++c)
+            columns[c] = loadPack<T>(plane[c] + k * sizeof(T));
+        if constexpr (N == 3) {
+            if (threes)
+                storeThrees(lanes[0], columns);
+            else
+                storeAdjacent<T, N>(lanes, columns);
+        } else {
+            storeAdjacent<T, N>(lanes, columns);
+        }
+    }
+}
+
+template <typename T, typename S, typename D>
+ZELM_INLINE void moveObjectsInBlocks(const S &s, const D &d, RunTimeShape shape, std::uint32_t first,
+                                     std::uint32_t last) {
     constexpr unsigned lanes = kLanes<T>;
-    std::uint32_t k = 0;
-    for (; count - k >= lanes; k += lanes)
-        moveGroup<lanes>(groupAt(s, k), d.object(k), shape);
-    for (; k < count; ++k)
+    for (std::uint32_t i = 0; i < shape.height; ++i) {
+        std::uint32_t j = 0;
+        for (; shape.width - j >= lanes; j += lanes)
+            moveColumns<lanes>(s, d, shape.width, {i, j, first, last});
+        if constexpr (lanes == 4) {
+            if (shape.width - j == 3)
+                moveColumns<3>(s, d, shape.width, {i, j, first, last});
+            else if (shape.width - j == 2)
+                moveColumns<2>(s, d, shape.width, {i, j, first, last});
+        }
+        if (shape.width - j == 1)
+            moveColumns<1>(s, d, shape.width, {i, j, first, last});
+    }
+}
+
+// So many objects stay in the nearest cache while their blocks are moved one after the other.
+constexpr std::uint32_t kObjectsAtOnce = 64;
+
+template <typename T, typename S, typename D>
+ZELM_INLINE void moveInBlocks(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
+    const std::uint32_t whole = count - count % kLanes<T>;
+    for (std::uint32_t k = 0; k < whole; k += kObjectsAtOnce)
+        moveObjectsInBlocks<T>(s, d, shape, k, whole - k < kObjectsAtOnce ? whole : k + kObjectsAtOnce);
+    for (std::uint32_t k = whole; k < count; ++k)
         moveObject(s.object(k), d.object(k), shape);
 }
 
 // Of a list's objects a group may be moved at once only where they are apart from each other.
-template <typename T, typename D>
-ZELM_INLINE void movePlanesToRows(const PackedTableArray<const T> &s, const D &d, RunTimeShape shape,
-                                  std::uint32_t count) {
+template <typename T>
+ZELM_INLINE void moveInBlocks(const PackedTableArray<const T> &s, const DenseList<T> &d, RunTimeShape shape,
+                              std::uint32_t count) {
     constexpr unsigned lanes = kLanes<T>;
     const Extent extent = extentOf(d, shape.height, shape.width);
     std::uint32_t k = 0;
     for (; count - k >= lanes; k += lanes) {
         if (areApartFromEachOther(lowestOf<lanes>(d, extent, k), extent.bytes)) {
-            moveGroup<lanes>(s.object(k), groupAt(d, k), shape);
+            moveObjectsInBlocks<T>(s, d, shape, k, k + lanes);
         } else {
             for (std::uint32_t object = k; object < k + lanes; ++object)
                 moveObject(s.object(object), d.object(object), shape);
@@ -198,6 +232,16 @@ ZELM_INLINE void movePlanesToRows(const PackedTableArray<const T> &s, const D &d
     }
     for (; k < count; ++k)
         moveObject(s.object(k), d.object(k), shape);
+}
+
+template <typename T>
+ZELM_INLINE bool rowsAreApart(const DenseArray<T> &d, RunTimeShape shape, std::uint32_t count) {
+    return count <= kMostObjectsInRange && elementsAreApart(d, shape.height, shape.width, count);
+}
+
+template <typename T>
+ZELM_INLINE bool rowsAreApart(const DenseList<T> &d, RunTimeShape shape, std::uint32_t) {
+    return objectElementsAreApart(d, shape.height, shape.width);
 }
 
 // src and dst must be apart, or the same element by element. Elements of dst may lie on each other.
@@ -211,11 +255,10 @@ ZELM_INLINE void moveBetween(const S &s, const D &d, RunTimeShape shape, std::ui
             return movePlanes(s, d, shape, count);
     } else if constexpr (fromRows && D::isSideBySide) {
         if (planesAreWorthIt(shape.elements(), count) && planesAreApart(d, shape.elements(), count))
-            return moveRowsToPlanes(s, d, shape, count);
+            return moveInBlocks<typename D::Element>(s, d, shape, count);
     } else if constexpr (S::isSideBySide && toRows) {
-        if (shape.width <= kMostInGroups && shape.height <= kMostInGroups &&
-            objectElementsAreApart(d, shape.height, shape.width))
-            return movePlanesToRows(s, d, shape, count);
+        if (shape.width <= kMostInGroups && shape.height <= kMostInGroups && rowsAreApart(d, shape, count))
+            return moveInBlocks<typename D::Element>(s, d, shape, count);
     }
     moveInOrder(s, d, shape, count);
 }

@@ -21,12 +21,16 @@ ZELM_INLINE void moveRun(Address to, Address from, Address elements) {
     const Address bytes = elements * sizeof(T);
     if (bytes >= kStringBytes)
         return moveString(to, from, bytes);
+    Address at = 0;
     if (bytes < kPackBytes) {
-        for (Address at = 0; at < bytes; at += sizeof(T))
-            copyElement<T>(to + at, from + at);
+        if (bytes >= kPackBytes / 2) {
+            copyElement<double>(to, from);
+            at = kPackBytes / 2;
+        }
+        if (at != bytes)
+            copyElement<float>(to + at, from + at);
         return;
     }
-    Address at = 0;
     for (; bytes - at >= kPackBytes; at += kPackBytes)
         storePack(to + at, loadPack<T>(from + at));
     if (at != bytes)
