@@ -420,7 +420,7 @@ Comparison compareSingleSolution() {
 
 template <class Method, class T, std::size_t n, Layout layout>
 void addArrayRows(std::size_t count) {
-    const std::string suffix = "/" + std::to_string(count);
+    const std::string suffix = std::string("/") + std::to_string(count);
     addRow(nameOf<Method, T, layout, n>("Decomp_ma") + suffix,
            [count] { return compareDecompositions<Method, T, layout, n>(count); });
     addRow(nameOf<Method, T, layout, n>("BackSubst_mava") + suffix,

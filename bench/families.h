@@ -3,6 +3,7 @@
 
 namespace zelmbench {
 
+void addMovementRows();
 void addVectorSumRows();
 void addElementwiseRows();
 void addVectorAlgebraRows();

@@ -51,6 +51,7 @@ int main(int argc, char **argv) {
         std::cerr << "zelm_bench: " << error.what() << '\n';
         return 2;
     }
+    zelmbench::addMovementRows();
     zelmbench::addVectorSumRows();
     zelmbench::addElementwiseRows();
     zelmbench::addVectorAlgebraRows();

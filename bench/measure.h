@@ -29,9 +29,10 @@ struct Comparison {
 inline constexpr const char *own = "own";     // the library's function
 inline constexpr const char *eigen = "eigen"; // Eigen's best fixed-size code
 inline constexpr const char *eigenRows =
-    "eigen_rows";                           // Eigen with its matrices in rows, where that is slower
-inline constexpr const char *loop = "loop"; // plain loops, for the layouts that Eigen cannot address
-inline constexpr const char *one = "one";   // the library, one object per call
+    "eigen_rows";                                  // Eigen with its matrices in rows, where that is slower
+inline constexpr const char *loop = "loop";        // plain loops, for the layouts that Eigen cannot address
+inline constexpr const char *plainCopy = "memcpy"; // of as many bytes, in the order they lie
+inline constexpr const char *one = "one";          // the library, one object per call
 
 // Registers a row. Its iterations sample the contenders in turn, so that whatever slows the machine slows
 // them alike; the counters are the fastest sample of each name, in nanoseconds per object. The operands are

@@ -2,11 +2,22 @@
 
 #include <Eigen/LU>
 
+#include <cmath>
 #include <map>
 
 namespace zelmbench {
 namespace {
 constexpr std::size_t distinctObjects = 16000;
+
+// Inverses by blocks take a leading block as it is unless it is singular.
+bool hasGoodLeadingMinors(const Eigen::MatrixXd &matrix) {
+    for (Eigen::Index order = 1; order <= 3; ++order) {
+        if (std::abs(matrix.topLeftCorner(order, order).determinant()) < 0.05) {
+            return false;
+        }
+    }
+    return true;
+}
 
 std::vector<double> drawMatrices(std::size_t n) {
     std::mt19937 generator(static_cast<unsigned>(n));
@@ -16,7 +27,7 @@ std::vector<double> drawMatrices(std::size_t n) {
     while (values.size() < distinctObjects * n * n) {
         const Eigen::MatrixXd matrix =
             Eigen::MatrixXd::NullaryExpr(order, order, [&] { return uniform(generator); });
-        if (matrix.partialPivLu().rcond() > 0.02) {
+        if (matrix.partialPivLu().rcond() > 0.02 && hasGoodLeadingMinors(matrix)) {
             values.insert(values.end(), matrix.data(), matrix.data() + matrix.size());
         }
     }

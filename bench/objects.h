@@ -63,21 +63,23 @@ class Objects {
 public:
     static constexpr std::size_t elements = rows * columns;
 
-    explicit Objects(std::size_t count) : count_(count), buffer_(count * elements * spread) {
+    // The first object begins `shift` elements behind a multiple of 64 bytes.
+    explicit Objects(std::size_t count, std::size_t shift = 0)
+        : count_(count), shift_(shift), buffer_(shift + count * elements * spread) {
         if constexpr (planes) {
             for (std::size_t e = 0; e < elements; ++e) {
-                table_.push_back(buffer_.data() + e * count * spread);
+                table_.push_back(data() + e * count * spread);
             }
         } else if constexpr (list) {
             for (std::size_t k = 0; k < count; ++k) {
-                table_.push_back(buffer_.data() + k * elements * spread);
+                table_.push_back(data() + k * elements * spread);
             }
             std::shuffle(table_.begin(), table_.end(), std::minstd_rand(1));
         }
     }
 
     std::size_t count() const { return count_; }
-    T *data() { return buffer_.data(); }
+    T *data() { return buffer_.data() + shift_; }
 
     T &at(std::size_t k, std::size_t i, std::size_t j) {
         const std::size_t e = i * columns + j;
@@ -182,7 +184,7 @@ private:
         return table_.data() + k;
     }
 
-    std::size_t count_;
+    std::size_t count_, shift_;
     Buffer<T> buffer_;
     std::vector<T *> table_;
 };

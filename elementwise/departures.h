@@ -102,7 +102,7 @@ ZELM_INLINE ZelmStatus lastColumnAtSecondRowStride(const A &a, const B &b, const
         status != kProceed)
         return status;
     const auto objects = [&](const auto &second) __attribute__((always_inline)) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             const auto first = a.object(k);
             const auto other = second.object(k);
             const auto result = d.object(k);
@@ -166,7 +166,7 @@ ZELM_INLINE ZelmStatus byTableOfElements(const A &a, const B &b, const D &d, Fix
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const auto first = a.object(k);
         const auto second = b.object(k);
         const auto result = d.object(k);
@@ -194,10 +194,6 @@ constexpr unsigned kPackedRegisters = 6, kRegisters = 9;
 struct HeldRegisters {
     double low[kRegisters], high[kRegisters];
 };
-
-ZELM_INLINE bool isMultipleOf16(Address address) {
-    return address % 16 == 0;
-}
 
 template <typename Invariant>
 ZELM_INLINE HeldRegisters holdInRegisters(const Invariant &invariant) {
@@ -246,7 +242,7 @@ ZELM_INLINE ZelmStatus heldByAlignment(const A &a, const B &b, const DenseList<d
         return status;
     const auto objects = [&](const HeldRegisters &held, const auto &s, auto first)
         __attribute__((always_inline)) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             objectWithRegisters<Op, decltype(first)::value>(s.object(k), held, d.object(k));
             return ZELM_OK;
         };
@@ -306,7 +302,7 @@ ZELM_INLINE bool straddlesPairs(const A &a, const B &b) {
 
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const auto first = a.object(k);
         const auto second = b.object(k);
         const auto result = d.object(k);
@@ -401,7 +397,7 @@ ZELM_INLINE ZelmStatus wholeMatrixFirst(const A &a, const Constant<T> &b, const 
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         scaleTransposed4x4<T>(a.object(k), b.value, d.object(k));
         return ZELM_OK;
     };

@@ -27,6 +27,10 @@ struct PackOf<double> {
 template <typename T>
 using Pack = typename PackOf<T>::type;
 
+ZELM_INLINE bool isMultipleOf16(Address address) {
+    return address % kPackBytes == 0;
+}
+
 template <typename T>
 ZELM_INLINE Pack<T> loadPack(Address from) {
     if constexpr (sizeof(T) == 4)
@@ -49,6 +53,25 @@ ZELM_INLINE __m128 broadcast(float value) {
 
 ZELM_INLINE __m128d broadcast(double value) {
     return _mm_set1_pd(value);
+}
+
+// The first lane, and a pack that is zero but for it.
+ZELM_INLINE float firstLane(__m128 a) {
+    return a[0];
+}
+ZELM_INLINE double firstLane(__m128d a) {
+    return a[0];
+}
+ZELM_INLINE __m128 inFirstLane(float value) {
+    return _mm_set_ss(value);
+}
+ZELM_INLINE __m128d inFirstLane(double value) {
+    return _mm_set_sd(value);
+}
+
+// Two adjacent elements in the first lanes, the others zero.
+ZELM_INLINE __m128 loadTwo(Address from) {
+    return _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(from));
 }
 
 // Comparisons give a mask: all bits of a lane set or none.
@@ -119,6 +142,19 @@ ZELM_INLINE bool anyLane(__m128d mask) {
 template <typename V>
 ZELM_INLINE V select(V mask, V a, V b) {
     return bitOr(bitAnd(mask, a), bitAndNot(mask, b));
+}
+
+ZELM_INLINE float squareRoot(float a) {
+    return __builtin_sqrtf(a);
+}
+ZELM_INLINE double squareRoot(double a) {
+    return __builtin_sqrt(a);
+}
+ZELM_INLINE __m128 squareRoot(__m128 a) {
+    return _mm_sqrt_ps(a);
+}
+ZELM_INLINE __m128d squareRoot(__m128d a) {
+    return _mm_sqrt_pd(a);
 }
 
 ZELM_INLINE float magnitude(float a) {

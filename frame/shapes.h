@@ -33,6 +33,13 @@ struct Transposed : Operand {
     }
 };
 
+// A list whose entries are taken as they are.
+template <typename List>
+struct Untested : List {
+    ZELM_INLINE explicit Untested(const List &list) : List(list) {}
+    static constexpr bool entryIsNull(std::uint32_t) { return false; }
+};
+
 // ---- the element (i, j) of one object
 
 template <typename Object, typename Shape>

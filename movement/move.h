@@ -200,9 +200,6 @@ ZELM_INLINE void movePlanesToRows(const PackedTableArray<const T> &s, const D &d
         moveObject(s.object(k), d.object(k), shape);
 }
 
-// More rows or columns than this are moved in order: the arithmetic on ranges could overflow.
-constexpr std::uint32_t kMostInGroups = std::uint32_t{1} << 24;
-
 // src and dst must be apart, or the same element by element. Elements of dst may lie on each other.
 template <typename S, typename D>
 ZELM_INLINE void moveBetween(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {

@@ -11,6 +11,9 @@ namespace zelm::movement {
 constexpr std::uint32_t kPlanesCount = 16;
 constexpr Address kPlanesElements = 64;
 
+// More rows or columns than this are moved in order: the arithmetic on ranges could overflow.
+constexpr std::uint32_t kMostInGroups = std::uint32_t{1} << 24;
+
 ZELM_INLINE constexpr bool planesAreWorthIt(Address elements, std::uint32_t count) {
     return count >= kPlanesCount && count <= kMostObjectsInRange && elements <= kPlanesElements;
 }

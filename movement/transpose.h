@@ -84,17 +84,14 @@ ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Sha
     }
 }
 
-// More rows and columns than this are moved one by one: the arithmetic on ranges could overflow.
-constexpr std::uint32_t kMostInBlocks = std::uint32_t{1} << 24;
-
 // Whether blocks leave in every object what the order of elements leaves: asked once for the strides, and
 // then for each object.
 struct Blocks {
-    Extent source, target;
+    Extent source{}, target{};
     bool possible;
     template <typename S, typename D, typename Shape>
     ZELM_INLINE Blocks(const S &s, const D &d, Shape shape) {
-        possible = shape.rows() <= kMostInBlocks && shape.columns() <= kMostInBlocks;
+        possible = shape.rows() <= kMostInGroups && shape.columns() <= kMostInGroups;
         if (!possible)
             return;
         source = extentOf(s, shape.rows(), shape.columns());
@@ -165,13 +162,13 @@ ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::
             return ZELM_OK;
     if constexpr (decltype(d.object(0))::isDense) {
         const Blocks blocks(s, d, shape);
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             transposeObject(s.object(k), d.object(k), shape, blocks);
             return ZELM_OK;
         };
         return forEachObject(count, one, s, d);
     } else {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             transposeInOrder(s.object(k), d.object(k), shape);
             return ZELM_OK;
         };

@@ -20,10 +20,6 @@ ZELM_INLINE ZelmStatus multiplyByTranspose(const Dense<const T> &a, const Transp
 
 // zelmMul_{mama,maTma,mamaT,maTmaT}_64f_{3x3,4x4,5x5,6x6}: where src2, its row stride, dst and its strides
 // are multiples of 16, src1 doesn't advance, and every object is computed from object 0 of src1.
-ZELM_INLINE bool isMultipleOf16(Address address) {
-    return address % 16 == 0;
-}
-
 template <typename A, typename B, unsigned N>
 ZELM_INLINE ZelmStatus advancingByAlignment(const A &a, const B &b, const DenseArray<double> &d,
                                             FixedSizes<N> sizes, std::uint32_t count) {
@@ -49,12 +45,6 @@ ZELM_INLINE ZelmStatus multiplyUntested(const A &a, const B &b, const D &d, Fixe
 }
 
 // zelmMul_{mam,maTm,mamT,maTmT}_32f_3x3_LS2: no entry of src1Table or dstTable is tested.
-template <typename List>
-struct Untested : List {
-    ZELM_INLINE explicit Untested(const List &list) : List(list) {}
-    static constexpr bool entryIsNull(std::uint32_t) { return false; }
-};
-
 template <typename List>
 ZELM_INLINE auto untested(const List &list) {
     return Untested<List>(list);

@@ -151,7 +151,7 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixS
                        tested(d, Address{sizes.*entries.first} * sizes.*entries.second));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), boundsOf(sizes),
                                             pitchesOf<A, B>(sizes));
         return ZELM_OK;
@@ -225,7 +225,7 @@ ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSi
         }
     }
     if constexpr (kIsArray<B>) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
             return ZELM_OK;
         };
@@ -233,7 +233,7 @@ ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSi
     } else {
         // An invariant src2 is read once, ahead of the objects.
         const auto held = holdSecond<N, std::remove_cvref_t<decltype(d.object(0))>>(b);
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             const auto first = a.object(k);
             const auto result = d.object(k);
             if (!inPlace.first && beginsAt(first, result))

@@ -94,18 +94,18 @@ template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Dense<float> &d) {
 #pragma GCC unroll 3
     for (unsigned i = 0; i < 6; i += 2) {
-        const RowResult<float, 6> upper = rowOf<float, 6>(a, i, b), lower = rowOf<float, 6>(a, i + 1, b);
-        __m128 pair;
+        __m128 sums[2], pair;
 #pragma GCC unroll 6
         for (unsigned t = 0; t < 6; ++t) {
-            const __m128 two =
-                _mm_unpacklo_ps(_mm_set_ss(used(a, i, t, 0)), _mm_set_ss(used(a, i + 1, t, 0)));
-            const __m128 product = _mm_unpacklo_ps(two, two) * b.pair[t];
-            pair = t == 0 ? product : pair + product;
+            const __m128 one = broadcast(used(a, i, t, 0)), other = broadcast(used(a, i + 1, t, 0));
+            const __m128 both = _mm_movelh_ps(one, other) * b.pair[t];
+            sums[0] = t == 0 ? one * b.pack[t][0] : sums[0] + one * b.pack[t][0];
+            sums[1] = t == 0 ? other * b.pack[t][0] : sums[1] + other * b.pack[t][0];
+            pair = t == 0 ? both : pair + both;
         }
-        storeRowOf(upper, d, i);
+        storePack(d.rowStart(i), sums[0]);
         _mm_storel_pi(reinterpret_cast<__m64 *>(d.rowStart(i) + 16), pair);
-        storeRowOf(lower, d, i + 1);
+        storePack(d.rowStart(i + 1), sums[1]);
         _mm_storeh_pi(reinterpret_cast<__m64 *>(d.rowStart(i + 1) + 16), pair);
     }
 }
@@ -120,13 +120,16 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T
 // ---- 32f 3x3: a row is a pack whose last element is not used. Rows that follow each other without a gap are
 // loaded and stored over each other, never outside of the matrix.
 
+ZELM_INLINE __m128 loadThree(Address from) {
+    return _mm_movelh_ps(loadTwo(from), _mm_load_ss(reinterpret_cast<const float *>(from + 8)));
+}
+
 template <typename A>
 ZELM_INLINE __m128 threeOfRow(const A &a, std::uint32_t row) {
     if constexpr (kIsTransposed<A>)
         return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), 0);
     else
-        return _mm_movelh_ps(_mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(a.rowStart(row))),
-                             _mm_load_ss(reinterpret_cast<const float *>(a.rowStart(row) + 8)));
+        return loadThree(a.rowStart(row));
 }
 
 template <>
@@ -156,7 +159,7 @@ ZELM_INLINE void storeThree(Address to, __m128 row) {
 
 template <unsigned lane>
 ZELM_INLINE __m128 spread(__m128 pack) {
-    return _mm_shuffle_ps(pack, pack, _MM_SHUFFLE(lane, lane, lane, lane));
+    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pack), lane * 0x55));
 }
 
 // A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.

@@ -93,6 +93,27 @@ ZELM_INLINE void multiplyVectorHeld(const A &a, const T (&x)[N], const D &d) {
 
 // ---- dense objects of a fixed size: as many rows at once as a pack has lanes
 
+ZELM_INLINE __m128 loadSome(Address from, unsigned number, float) {
+    return number >= 4 ? loadPack<float>(from) : number == 3 ? loadThree(from) : loadTwo(from);
+}
+
+ZELM_INLINE __m128d loadSome(Address from, unsigned, double) {
+    return loadPack<double>(from);
+}
+
+ZELM_INLINE void storeSome(Address to, __m128 rows, unsigned number) {
+    if (number >= 4)
+        storePack(to, rows);
+    else if (number == 3)
+        storeThree(to, rows);
+    else
+        _mm_storel_pi(reinterpret_cast<__m64 *>(to), rows);
+}
+
+ZELM_INLINE void storeSome(Address to, __m128d rows, unsigned) {
+    storePack(to, rows);
+}
+
 // The elements (row, 0) to (row + lanes - 1, N - 1) of the matrix as used, one pack per column. Rows behind
 // the last are the last again.
 template <unsigned N, typename T>
@@ -107,68 +128,47 @@ ZELM_INLINE void loadRows(const Dense<const T> &a, unsigned row, Pack<T> (&colum
 template <unsigned N, typename T>
 ZELM_INLINE void loadRows(const Transposed<Dense<const T>> &a, unsigned row, Pack<T> (&columns)[N]) {
 #pragma GCC unroll 6
-    for (unsigned t = 0; t < N; ++t) {
-        const Address at = a.rowStart(t) + row * sizeof(T);
-        if constexpr (sizeof(T) == 8)
-            columns[t] = loadPack<T>(at);
-        else if (row + 4 <= N)
-            columns[t] = loadPack<T>(at);
-        else if (N - row == 3)
-            columns[t] = threeOfRow(Dense<const float>(at, 0), 0);
-        else
-            columns[t] = _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(at));
+    for (unsigned t = 0; t < N; ++t)
+        columns[t] = loadSome(a.rowStart(t) + row * sizeof(T), N - row, T{});
+}
+
+// A matrix that is read row by row when it is needed ...
+template <unsigned N, typename A>
+struct ReadRows {
+    using T = typename A::Element;
+    const A &matrix;
+    template <unsigned row>
+    ZELM_INLINE void load(Pack<T> (&columns)[N]) const {
+        loadRows<N>(matrix, row, columns);
     }
-}
+    ZELM_INLINE T last(unsigned t) const { return used(matrix, N - 1, t, 0); }
+};
 
-ZELM_INLINE void storeRows(Address to, __m128 rows, unsigned number) {
-    if (number >= 4)
-        storePack(to, rows);
-    else if (number == 3)
-        storeThree(to, rows);
-    else
-        _mm_storel_pi(reinterpret_cast<__m64 *>(to), rows);
-}
-
-ZELM_INLINE void storeRows(Address to, __m128d rows, unsigned) {
-    storePack(to, rows);
-}
-
-ZELM_INLINE __m128 loadSome(Address from, unsigned number, float) {
-    if (number >= 4)
-        return loadPack<float>(from);
-    if (number == 3)
-        return threeOfRow(Dense<const float>(from, 0), 0);
-    return _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(from));
-}
-
-ZELM_INLINE __m128d loadSome(Address from, unsigned, double) {
-    return loadPack<double>(from);
-}
-
-template <unsigned N, unsigned row, typename A, typename T, typename Z>
-ZELM_INLINE void multiplyRowsOf(const A &a, const Pack<T> (&x)[N], const T (&elements)[N], const Z &z,
-                                const Dense<T> &d) {
-    constexpr Sum order = vectorSumOfRow<T, true, kIsTransposed<A>, N>(row);
-    if constexpr (N - row == 1) {
-        T products[N];
+// ... and one that serves many vectors.
+template <unsigned N, typename A>
+struct HeldColumns {
+    using T = typename A::Element;
+    static constexpr unsigned packs = (N % kLanes<T> == 1 ? N - 1 : N + kLanes<T> - 1) / kLanes<T>;
+    Pack<T> column[packs][N];
+    T lastRow[N];
+    ZELM_INLINE explicit HeldColumns(const A &a) {
+#pragma GCC unroll 3
+        for (unsigned p = 0; p < packs; ++p)
+            loadRows<N>(a, p * kLanes<T>, column[p]);
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t)
-            products[t] = used(a, row, t, 0) * elements[t];
-        d.set(row, plus(sumOf<order>(products), z, row));
-    } else {
-        Pack<T> columns[N];
-        loadRows<N>(a, row, columns);
+            lastRow[t] = used(a, N - 1, t, 0);
+    }
+    template <unsigned row>
+    ZELM_INLINE void load(Pack<T> (&columns)[N]) const {
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t)
-            columns[t] = columns[t] * x[t];
-        Pack<T> sum = sumOf<order>(columns);
-        if constexpr (kAdds<Z>)
-            sum = sum + loadSome(z.start + row * sizeof(T), N - row, T{});
-        storeRows(d.start + row * sizeof(T), sum, N - row);
-        if constexpr (row + kLanes<T> < N)
-            multiplyRowsOf<N, row + kLanes<T>>(a, x, elements, z, d);
+            columns[t] = column[row / kLanes<T>][t];
     }
-}
+    ZELM_INLINE T last(unsigned t) const {
+        return lastRow[t];
+    }
+};
 
 // A vector read ahead of the writes: each element alone and in all lanes.
 template <typename T, unsigned N>
@@ -185,25 +185,116 @@ struct HeldVectorOf {
     }
 };
 
-template <unsigned N, typename A, typename T, typename Z, typename D>
-ZELM_INLINE void multiplyVectorWith(const A &a, const HeldVectorOf<T, N> &x, const Z &z, const D &d) {
-    if constexpr (D::isDense)
-        multiplyRowsOf<N, 0>(a, x.spread, x.element, z, d);
+template <unsigned N, unsigned row, bool isTransposed, typename Rows, typename T, typename Z>
+ZELM_INLINE void multiplyRowsOf(const Rows &a, const HeldVectorOf<T, N> &x, const Z &z, const Dense<T> &d) {
+    constexpr Sum order = vectorSumOfRow<T, true, isTransposed, N>(row);
+    if constexpr (N - row == 1) {
+        T products[N];
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t)
+            products[t] = a.last(t) * x.element[t];
+        d.set(row, plus(sumOf<order>(products), z, row));
+    } else {
+        Pack<T> products[N];
+        a.template load<row>(products);
+#pragma GCC unroll 6
+        for (unsigned t = 0; t < N; ++t)
+            products[t] = products[t] * x.spread[t];
+        Pack<T> sum = sumOf<order>(products);
+        if constexpr (kAdds<Z>)
+            sum = sum + loadSome(z.start + row * sizeof(T), N - row, T{});
+        storeSome(d.start + row * sizeof(T), sum, N - row);
+        if constexpr (row + kLanes<T> < N)
+            multiplyRowsOf<N, row + kLanes<T>, isTransposed>(a, x, z, d);
+    }
+}
+
+// ---- dense objects of 4x4 and 6x6: whole rows times the vector. The sums of these sizes are what adding the
+// products of two rows lane by lane gives, so that half of a transposition is saved.
+
+template <typename T, unsigned N>
+struct VectorAlongRows {
+    Pack<T> pack[N * sizeof(T) / kPackBytes];
+    __m128 lastTwo; // of six 32-bit elements, twice
+    ZELM_INLINE explicit VectorAlongRows(const Dense<const T> &x) {
+#pragma GCC unroll 3
+        for (unsigned p = 0; p < N * sizeof(T) / kPackBytes; ++p)
+            pack[p] = loadPack<T>(x.start + p * kPackBytes);
+        lastTwo = _mm_setzero_ps();
+        if constexpr (sizeof(T) == 4 && N == 6) {
+            lastTwo = loadTwo(x.start + kPackBytes);
+            lastTwo = _mm_movelh_ps(lastTwo, lastTwo);
+        }
+    }
+};
+
+// The even columns' sums of two rows, and the odd ones'.
+template <unsigned N>
+ZELM_INLINE __m128 evenAndOdd(const Dense<const float> &a, unsigned row, const VectorAlongRows<float, N> &x) {
+    const Address upper = a.rowStart(row), lower = a.rowStart(row + 1);
+    const __m128 p = loadPack<float>(upper) * x.pack[0], q = loadPack<float>(lower) * x.pack[0];
+    const __m128 sums = _mm_unpacklo_ps(p, q) + _mm_unpackhi_ps(p, q);
+    if constexpr (N == 4)
+        return sums;
+    const __m128 rest =
+        _mm_loadh_pi(loadTwo(upper + 16), reinterpret_cast<const __m64 *>(lower + 16)) * x.lastTwo;
+    return sums + _mm_shuffle_ps(rest, rest, _MM_SHUFFLE(3, 1, 2, 0));
+}
+
+template <unsigned N>
+ZELM_INLINE __m128 sumsOfRows(const Dense<const float> &a, unsigned row, const VectorAlongRows<float, N> &x) {
+    const __m128 upper = evenAndOdd<N>(a, row, x);
+    const __m128 lower = row + 2 < N ? evenAndOdd<N>(a, row + 2, x) : upper;
+    return _mm_movelh_ps(upper, lower) + _mm_movehl_ps(lower, upper);
+}
+
+template <unsigned N>
+ZELM_INLINE __m128d sumsOfRows(const Dense<const double> &a, unsigned row,
+                               const VectorAlongRows<double, N> &x) {
+    __m128d sum = _mm_setzero_pd();
+#pragma GCC unroll 3
+    for (unsigned p = 0; p < N / 2; ++p) {
+        const __m128d upper = loadPack<double>(a.rowStart(row) + p * kPackBytes) * x.pack[p];
+        const __m128d lower = loadPack<double>(a.rowStart(row + 1) + p * kPackBytes) * x.pack[p];
+        const __m128d pairs = _mm_unpacklo_pd(upper, lower) + _mm_unpackhi_pd(upper, lower);
+        sum = p == 0 ? pairs : sum + pairs;
+    }
+    return sum;
+}
+
+template <unsigned N, typename T, typename Z>
+ZELM_INLINE void multiplyWholeRows(const Dense<const T> &a, const VectorAlongRows<T, N> &x, const Z &z,
+                                   const Dense<T> &d) {
+#pragma GCC unroll 3
+    for (unsigned row = 0; row < N; row += kLanes<T>) {
+        Pack<T> sums = sumsOfRows<N>(a, row, x);
+        if constexpr (kAdds<Z>)
+            sums = sums + loadSome(z.start + row * sizeof(T), N - row, T{});
+        storeSome(d.start + row * sizeof(T), sums, N - row);
+    }
+}
+
+template <unsigned N, typename A, typename X, typename Z, typename D>
+ZELM_INLINE void multiplyVectorOnce(const A &a, const X &x, const Z &z, const D &d) {
+    using T = typename D::Element;
+    if constexpr (D::isDense && !kIsTransposed<A> && N % 2 == 0)
+        multiplyWholeRows<N>(a, VectorAlongRows<T, N>(x), z, d);
+    else if constexpr (D::isDense)
+        multiplyRowsOf<N, 0, kIsTransposed<A>>(ReadRows<N, A>{a}, HeldVectorOf<T, N>(x), z, d);
     else
-        multiplyVectorHeld<N>(a, x.element, d);
+        multiplyVectorHeld<N>(a, HeldVectorOf<T, N>(x).element, d);
 }
 
 // In the standard and L layouts dst may be src2, in the others it may not.
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE void multiplyVectorObject(const A &a, const X &x, const Z &z, const D &d) {
-    using T = typename D::Element;
     if constexpr (kAdds<Z> && !D::isDense) {
         accumulateVector<false>(a, x, z, d, N, N, N);
     } else {
         if (!D::isDense && beginsAt(x, d))
             multiplyVectorAnew<N>(a, x, d);
         else
-            multiplyVectorWith<N>(a, HeldVectorOf<T, N>(x), z, d);
+            multiplyVectorOnce<N>(a, x, z, d);
     }
 }
 
@@ -256,46 +347,25 @@ template <unsigned N, typename S, typename D>
 ZELM_INLINE bool vectorsMayRun(const S &s, const D &d, std::uint32_t count) {
     if constexpr (std::is_same_v<S, Nothing>)
         return true;
-    else if constexpr (S::isList || D::isList)
-        return true; // asked group by group
     else
         return isUntouched(s, 1, N, d, 1, N, count) || coincide(s, d);
 }
 
-// Whether the vectors of a list's group lie apart, or are dst's own.
-template <unsigned N, typename S, typename D>
-ZELM_INLINE bool groupMayRun(const S &s, const D &d, std::uint32_t k) {
-    using T = typename D::Element;
-    constexpr unsigned lanes = kLanes<T>;
-    if constexpr (std::is_same_v<S, Nothing> || !D::isList) {
-        return true;
-    } else if constexpr (!S::isList) {
-        return true;
-    } else {
-        if (anyEntryNull(s, k) || anyEntryNull(d, k))
-            return false;
-        constexpr Address bytes = N * sizeof(T);
-        const Extent extent = {0, bytes};
-        const Lowest<lanes> source = lowestOf<lanes>(s, extent, k), target = lowestOf<lanes>(d, extent, k);
-        bool own = true;
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < lanes; ++lane)
-            own &= source.at[lane] == target.at[lane];
-        return areApartFromEachOther(target, bytes) && (own || areApartFrom(source, bytes, target, bytes));
-    }
+template <unsigned N, typename A, typename D>
+ZELM_INLINE bool missesInvariant(const A &a, const D &d, std::uint32_t count) {
+    if constexpr (D::isList)
+        return true; // what a list's objects do to the matrix is open
+    else
+        return count <= kMostObjectsInRange && isUntouched(a, N, N, d, 1, N, count);
 }
 
 // An invariant matrix by many vectors, whose elements are distinct and miss the matrix.
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE bool acrossMayRun(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
     constexpr std::uint32_t least = 8;
-    if (count < least || count > kMostObjectsInRange)
+    if (count < least || !missesInvariant<N>(a, d, count))
         return false;
-    if constexpr (!D::isList) {
-        if (!elementsAreApart(d, 1, N, count) || !isUntouched(a, N, N, d, 1, N, count))
-            return false;
-    }
-    return vectorsMayRun<N>(x, d, count) && vectorsMayRun<N>(z, d, count);
+    return elementsAreApart(d, 1, N, count) && vectorsMayRun<N>(x, d, count) && vectorsMayRun<N>(z, d, count);
 }
 
 template <unsigned N, typename M, typename A, typename X, typename Z, typename D>
@@ -303,13 +373,11 @@ ZELM_INLINE ZelmStatus multiplyGroups(const M &m, const A &a, const X &x, const 
                                       std::uint32_t count) {
     using T = typename D::Element;
     constexpr bool isDense = decltype(d.object(0))::isDense;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         multiplyVectorObject<N>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](std::uint32_t k) {
-        if (!groupMayRun<N>(x, d, k) || !groupMayRun<N>(z, d, k))
-            return false;
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         Pack<T> vectors[N], added[N], result[N];
         loadVectors<N>(x, k, vectors);
         if constexpr (kAdds<Z>) {
@@ -349,7 +417,7 @@ ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, con
 template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
                                    std::uint32_t terms, std::uint32_t pitch, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), rows, terms,
                                             pitch);
         return ZELM_OK;
@@ -359,14 +427,25 @@ ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &
 
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
-    if constexpr (kIsGroupable<D> && !kIsArray<A>) {
+    if constexpr (decltype(d.object(0))::isDense && !kIsArray<A> && (N == 4 || D::isList)) {
+        if (missesInvariant<N>(a, d, count)) {
+            const HeldColumns<N, A> columns(a);
+            using T = typename D::Element;
+            const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+                multiplyRowsOf<N, 0, kIsTransposed<A>>(columns, HeldVectorOf<T, N>(x.object(k)), z.object(k),
+                                                       d.object(k));
+                return ZELM_OK;
+            };
+            return forEachObject(count, one, a, x, z, d);
+        }
+    } else if constexpr (kIsGroupable<D> && !kIsArray<A>) {
         if (acrossMayRun<N>(a, x, z, d, count))
             return multiplyGroups<N>(SpreadMatrix<N, A>(a), a, x, z, d, count);
     } else if constexpr (D::isSideBySide) {
         if (acrossMayRun<N>(a, x, z, d, count))
             return multiplyGroups<N>(Planes<N, A>{a}, a, x, z, d, count);
     }
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         multiplyVectorObject<N>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };

@@ -88,7 +88,7 @@ ZELM_INLINE ZelmStatus choleskySolveOwn(const A &a, const B &b, const D &d, One 
     constexpr unsigned lanes = kLanes<typename D::Element>;
     if constexpr (D::isList) {
         const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             if (anyObjectNull(a, k) || anyObjectNull(b, k) || anyObjectNull(d, k) || !groups.mayWrite(k) ||
                 !groups.mayRead(a, N, k) || !groups.mayRead(b, 1, k))
                 return false;
@@ -101,7 +101,7 @@ ZELM_INLINE ZelmStatus choleskySolveOwn(const A &a, const B &b, const D &d, One 
             !mayReadAhead(b, 1, N, d, 1, count) || !hasNoNullObject(a, N, N, count) ||
             !hasNoNullObject(b, 1, N, count) || !hasNoNullObject(d, 1, N, count))
             return forEachObject(count, one);
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             choleskySolveGroup<N>(groupAt(a, k), groupAt(b, k), groupAt(d, k));
             return true;
         };
@@ -128,7 +128,7 @@ ZELM_INLINE ZelmStatus choleskySolveShared(const A &a, const B &b, const D &d, O
             factor[i][j] = broadcast(a.get(i, j, N));
     if constexpr (D::isList) {
         const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             // Once an object is done by itself for its overlap, the matrix may be another one than was
             // spread.
             grouped = grouped && !anyObjectNull(b, k) && !anyObjectNull(d, k) && groups.mayWrite(k) &&
@@ -139,7 +139,7 @@ ZELM_INLINE ZelmStatus choleskySolveShared(const A &a, const B &b, const D &d, O
         };
         return forEachGroup<lanes>(count, group, one);
     } else {
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             choleskySolveGroupShared<N, T>(factor, groupAt(b, k), groupAt(d, k));
             return true;
         };
@@ -171,7 +171,7 @@ ZELM_INLINE ZelmStatus choleskySolveArray(const A &a, const B &b, const D &d, Si
         return ZELM_OK;
     const std::uint32_t objects = static_cast<std::uint32_t>(count);
     // An object at null is passed over.
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const auto matrix = a.object(k);
         const auto right = b.object(k);
         const auto target = d.object(k);

@@ -127,7 +127,7 @@ ZELM_INLINE ZelmStatus choleskyArray(const S &givenS, const D &givenD, Size size
         if (count < 0)
             return ZELM_OK;
     const std::uint32_t objects = static_cast<std::uint32_t>(count);
-    const auto one = [&](const S &s, const D &d) {
+    const auto one = [&](const S &s, const D &d) __attribute__((always_inline)) {
         return [&s, &d, size](std::uint32_t k) {
             const auto source = s.object(k);
             const auto target = d.object(k);
@@ -145,7 +145,7 @@ ZELM_INLINE ZelmStatus choleskyArray(const S &givenS, const D &givenD, Size size
         const D d = departures::wholeSteps(givenD);
         if constexpr (D::isList) {
             const ListGroups<D> groups(d, N, N);
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return !anyObjectNull(s, k) && !anyObjectNull(d, k) && groups.mayWrite(k) &&
                        groups.mayRead(s, N, k) && choleskyGroup<N>(groupAt(s, k), groupAt(d, k));
             };
@@ -154,7 +154,7 @@ ZELM_INLINE ZelmStatus choleskyArray(const S &givenS, const D &givenD, Size size
             if (!mayWriteGroups<N>(d, N, objects) || !mayReadAhead(s, N, N, d, N, objects) ||
                 !hasNoNullObject(s, N, N, objects) || !hasNoNullObject(d, N, N, objects))
                 return forEachObject(objects, one(s, d));
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return choleskyGroup<N>(groupAt(s, k), groupAt(d, k));
             };
             return forEachGroup<lanes>(objects, group, one(s, d));

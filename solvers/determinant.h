@@ -4,7 +4,7 @@
 
 #include "solvers/determinant_kernels.h"
 #include "solvers/elimination.h"
-#include "solvers/object_groups.h"
+#include "solvers/groups.h"
 
 namespace zelm::solvers {
 
@@ -41,7 +41,7 @@ template <typename T, typename S>
 __attribute__((noinline)) ZelmStatus determinantsByElimination(const S &s, void *scratch, T *dst,
                                                                std::uint32_t n, std::uint32_t count) {
     const WorkSpace<T> space(scratch, n);
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const Address result = addressOf(dst) + Address{k} * sizeof(T);
         store(result, T{1});
         copyToWorkSpace(s.object(k), space);
@@ -69,11 +69,11 @@ ZELM_INLINE T determinantInElementType(const S &s) {
 template <unsigned N, typename T, typename S>
 ZELM_INLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
     const DenseArray<T> results(dst, std::int32_t{sizeof(T)}, 0);
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         results.object(k).set(0, determinantInElementType<N, T>(s.object(k)));
         return ZELM_OK;
     };
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         const Group<S> objects = groupAt(s, k);
         Pack<T> a[N][N];
 #pragma GCC unroll 6

@@ -152,7 +152,7 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
                                            tested(Pointer(scratch), 0));
             status != kProceed)
             return status;
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             return invertByElimination<T>(s.object(k), scratch, d.object(k), size.value());
         };
         return forEachObject(count, one, s, d);
@@ -161,8 +161,10 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
         if (ZelmStatus status = checkArray(false, count, tested(s, n * n), tested(d, n * n));
             status != kProceed)
             return status;
-        const auto one = [&](std::uint32_t k) { return invertObject<T, N>(s.object(k), d.object(k)); };
-        const auto group = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return invertObject<T, N>(s.object(k), d.object(k));
+        };
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             return invertGroupOf<T, N, S, D>(groupAt(s, k), groupAt(d, k));
         };
         return forEachMatrix<N, N>(count, group, one, s, d);

@@ -133,10 +133,7 @@ __attribute__((noinline)) void luBackSubstGroupShared(const Pack<T> (&factors)[N
 template <unsigned N, typename A, typename B, typename D>
 ZELM_INLINE bool luBackSubstInGroups(const A &a, const Range &pivots, const B &b, const D &d,
                                      std::uint32_t count) {
-    if (count < (D::isTable ? kGroupsInTablesCount : kLanes<typename D::Element>) ||
-        count > kMostObjectsInRange)
-        return false;
-    return elementsAreApart(d, 1, N, count) && isUntouched(a, N, N, d, 1, N, count) &&
+    return mayWriteGroups<N>(d, 1, count) && isUntouched(a, N, N, d, 1, N, count) &&
            isUntouched(b, 1, N, d, 1, N, count) && areDisjoint(pivots, rangeOf(d, 1, N, count));
 }
 
@@ -184,7 +181,7 @@ ZELM_INLINE ZelmStatus luBackSubstOwn(const A &a, const std::uint32_t *pivotInde
         else
             return 0;
     }();
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         if (anyEntryNull(a, k) || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
         const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
@@ -223,7 +220,7 @@ ZELM_INLINE ZelmStatus luBackSubstShared(const A &a, Address pivots, const B &b,
         else
             return 0;
     }();
-    const auto group = [&](std::uint32_t k) {
+    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
         if (!grouped || anyEntryNull(b, k) || anyEntryNull(d, k))
             return false;
         if constexpr (D::isList) {
@@ -279,7 +276,7 @@ ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIn
         constexpr unsigned N = Size::fixed;
         if (!resultIsDistinct<N>(d))
             return forEachObject(count, inPlace, a, b, d);
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             luBackSubstInRegisters<N>(a.object(k), pivotsOf(k), b.object(k), d.object(k));
             return ZELM_OK;
         };

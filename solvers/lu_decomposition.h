@@ -248,10 +248,7 @@ __attribute__((noinline)) bool luDecompGroup(const Group<S> &s, Address pivots, 
 template <unsigned N, typename S, typename D>
 ZELM_INLINE bool luDecompInGroups(const S &s, const std::uint32_t *pivotIndex, const D &d,
                                   std::uint32_t count) {
-    if (count < (D::isTable ? kGroupsInTablesCount : kLanes<typename D::Element>) ||
-        count > kMostObjectsInRange)
-        return false;
-    if (!elementsAreApart(d, N, N, count))
+    if (!mayWriteGroups<N>(d, N, count))
         return false;
     const Range pivots = rangeFrom(addressOf(pivotIndex), std::int64_t{count} * N * 4);
     return (coincide(s, d) || isUntouched(s, N, N, d, N, N, count)) &&
@@ -278,7 +275,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
                                        tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         return luDecompObject(s.object(k), pivotAddress(pivotIndex, k * n), d.object(k), size);
     };
     if constexpr (Size::fixed == 0) {
@@ -290,7 +287,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
             const Extent read = extentOf(s, N, N), written = extentOf(d, N, N);
             const bool distinct = objectElementsAreApart(d, N, N);
             const bool sameStrides = s.rowStride == d.rowStride && s.elemStride == d.elemStride;
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 if (!distinct || anyEntryNull(s, k) || anyEntryNull(d, k))
                     return false;
                 const Lowest<lanes> source = lowestOf<lanes>(s, read, k),
@@ -313,7 +310,7 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
         } else {
             if (!luDecompInGroups<N>(s, pivotIndex, d, count))
                 return forEachObject(count, one, s, d);
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return luDecompGroup<N>(groupAt(s, k), pivotAddress(pivotIndex, k * n), groupAt(d, k));
             };
             return forEachGroup<lanes>(count, group, one, s, d);

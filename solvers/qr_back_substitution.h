@@ -122,7 +122,7 @@ ZELM_INLINE ZelmStatus qrSolveOwn(const A &a, const void *scratch, const B &b, c
     };
     if constexpr (D::isList) {
         const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             return qrSolveFits<N>(groups, a, scratch, b, k) && solve(k);
         };
         return forEachGroup<lanes>(count, group, one, a, b, d);
@@ -154,7 +154,7 @@ ZELM_INLINE ZelmStatus qrSolveShared(const A &a, const void *scratch, const B &b
     };
     if constexpr (D::isList) {
         const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) {
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
             // Once an object is done by itself for its overlap, the matrix may be another one than was
             // spread.
             grouped = grouped && qrSolveFits<N>(groups, a, scratch, b, k);
@@ -187,7 +187,7 @@ ZELM_INLINE ZelmStatus qrSolveArray(const A &a, T *scratch, const B &b, const D 
                        tested(b, shape.columns()), tested(d, shape.columns()));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), shape);
         return ZELM_OK;
     };

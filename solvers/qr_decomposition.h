@@ -138,14 +138,16 @@ ZELM_INLINE ZelmStatus qrArray(const S &s, T *scratch, const D &d, Shape shape, 
         status != kProceed)
         return status;
     const Address buffer = addressOf(scratch);
-    const auto one = [&](std::uint32_t k) { return qrObject(s.object(k), buffer, d.object(k), shape); };
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        return qrObject(s.object(k), buffer, d.object(k), shape);
+    };
     if constexpr (!Shape::isFixed) {
         return forEachObject(count, one, s, d);
     } else {
         constexpr unsigned N = Shape::rows(), lanes = kLanes<T>;
         if constexpr (D::isList) {
             const ListGroups<D> groups(d, N, N);
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return groups.mayWrite(k) && groups.mayRead(s, N, k) &&
                        groups.miss(scratch, N * sizeof(T), k) &&
                        qrGroup<N>(groupAt(s, k), buffer, groupAt(d, k));
@@ -156,7 +158,7 @@ ZELM_INLINE ZelmStatus qrArray(const S &s, T *scratch, const D &d, Shape shape, 
                 !missesBuffer(s, N, N, count, scratch, N * sizeof(T)) ||
                 !missesBuffer(d, N, N, count, scratch, N * sizeof(T)))
                 return forEachObject(count, one, s, d);
-            const auto group = [&](std::uint32_t k) {
+            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                 return qrGroup<N>(groupAt(s, k), buffer, groupAt(d, k));
             };
             return forEachGroup<lanes>(count, group, one, s, d);

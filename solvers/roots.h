@@ -1,4 +1,4 @@
-// Square roots and their reciprocals, of elements and of packs.
+// Reciprocals of square roots, of elements and of packs.
 #pragma once
 
 #include "frame/pack.h"
@@ -6,19 +6,6 @@
 namespace zelm::solvers {
 
 using namespace zelm::frame;
-
-ZELM_INLINE float squareRoot(float a) {
-    return __builtin_sqrtf(a);
-}
-ZELM_INLINE double squareRoot(double a) {
-    return __builtin_sqrt(a);
-}
-ZELM_INLINE __m128 squareRoot(__m128 a) {
-    return _mm_sqrt_ps(a);
-}
-ZELM_INLINE __m128d squareRoot(__m128d a) {
-    return _mm_sqrt_pd(a);
-}
 
 // One over the square root, in the type of the argument ...
 ZELM_INLINE float reciprocalRoot(float a) {

@@ -97,7 +97,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
     };
     constexpr bool isDense = decltype(d.object(0))::isDense;
     if constexpr (isDense) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             crossReadingFirst(a.object(k), b.object(k), d.object(k));
             return ZELM_OK;
         };
@@ -106,7 +106,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
                 elementsAreApart(d, 1, 3, count) && crossMisses(a, d, count) && crossMisses(b, d, count)) {
                 const VectorsOfGroup<3, A> firsts(a);
                 const VectorsOfGroup<3, B> seconds(b);
-                const auto group = [&](std::uint32_t k) {
+                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     Pack<T> first[3], second[3], result[3];
                     firsts.load(k, first);
                     seconds.load(k, second);
@@ -127,7 +127,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
             else
                 return s.object(k);
         };
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
             return ZELM_OK;
         };

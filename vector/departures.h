@@ -7,13 +7,6 @@
 
 namespace zelm::vector::departures {
 
-// A list whose entries are taken as they are.
-template <typename T>
-struct UntestedList : DenseList<T> {
-    ZELM_INLINE explicit UntestedList(const DenseList<T> &list) : DenseList<T>(list) {}
-    static constexpr bool entryIsNull(std::uint32_t) { return false; }
-};
-
 // zelmDotProduct_vav_32f_4x1 and its _L: the four products are summed in pairs.
 template <typename A, typename B, typename T>
 ZELM_INLINE ZelmStatus dotInPairs(const A &a, const B &b, T *dst, FixedShape<1, 4> shape,
@@ -28,20 +21,20 @@ ZELM_INLINE ZelmStatus dotInPairs(const A &a, const B &b, T *dst, FixedShape<1, 
 template <typename T>
 ZELM_INLINE ZelmStatus dotUntested(const DenseList<const T> &a, const Dense<const T> &b, T *dst,
                                    FixedShape<1, 3> shape, std::uint32_t count) {
-    return dotArray(UntestedList<const T>(a), b, dst, shape, count);
+    return dotArray(Untested(a), b, dst, shape, count);
 }
 
 template <typename T>
 ZELM_INLINE ZelmStatus l2NormUntested(const DenseList<const T> &s, T *dst, FixedShape<1, 4> shape,
                                       std::uint32_t count) {
-    return l2NormArray(UntestedList<const T>(s), dst, shape, count);
+    return l2NormArray(Untested(s), dst, shape, count);
 }
 
 // ... nor in zelmDotProduct_vav_32f_4x1_L, which sums in pairs as well.
 template <typename T>
 ZELM_INLINE ZelmStatus dotUntestedInPairs(const DenseList<const T> &a, const Dense<const T> &b, T *dst,
                                           FixedShape<1, 4> shape, std::uint32_t count) {
-    return dotInPairs(UntestedList<const T>(a), b, dst, shape, count);
+    return dotInPairs(Untested(a), b, dst, shape, count);
 }
 
 // zelmDotProduct_vav_64f_3x1_L: the entries of all objects are tested before anything is written.

@@ -53,14 +53,14 @@ template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
     if constexpr (!Shape::isFixed) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, dotOfLength(a.object(k), b.object(k), shape.columns()));
             return ZELM_OK;
         };
         return forEachObject(count, one, a, b);
     } else {
         constexpr unsigned N = Shape::columns();
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, dotOf<order, N>(a.object(k), b.object(k)));
             return ZELM_OK;
         };
@@ -69,7 +69,7 @@ ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, s
                 resultsMissSource<1, N>(b, results, count)) {
                 const VectorsOfGroup<N, A> firsts(a);
                 const VectorsOfGroup<N, B> seconds(b);
-                const auto group = [&](std::uint32_t k) {
+                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     if (!resultsMissGroup<1, N>(a, results, k) || !resultsMissGroup<1, N>(b, results, k))
                         return false;
                     Pack<T> first[N], second[N], products[N];

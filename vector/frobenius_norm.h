@@ -29,134 +29,170 @@ ZELM_INLINE auto squaresByColumns(const S &s, Shape shape) {
     return sum;
 }
 
-// ---- trees of the dense fixed-size forms, over squares[i][j], of elements or of packs
+// ---- trees of the dense fixed-size forms, in packs of one object's squares
 
-// The sum of column j.
+template <typename T>
+ZELM_INLINE Pack<T> squaresAt(const Dense<const T> &s, unsigned i, unsigned j) {
+    const Pack<T> elements = loadPack<T>(s.rowStart(i) + j * sizeof(T));
+    return elements * elements;
+}
+
+// Two 32-bit squares in the first lanes.
+ZELM_INLINE __m128 twoSquaresAt(const Dense<const float> &s, unsigned i, unsigned j) {
+    const __m128 elements = loadTwo(s.rowStart(i) + j * sizeof(float));
+    return elements * elements;
+}
+
+template <typename T>
+ZELM_INLINE T squareAt(const Dense<const T> &s, unsigned i, unsigned j) {
+    const T element = s.get(i, j, 0);
+    return element * element;
+}
+
+// The sum of a column, or of several in a pack, over its squares from above.
 template <unsigned N, typename V>
-ZELM_INLINE V columnSum(const V (&s)[N][N], unsigned j) {
+ZELM_INLINE V columnSum(const V (&s)[N]) {
     if constexpr (N == 3)
-        return (s[0][j] + s[1][j]) + s[2][j];
-    const V four = (s[0][j] + s[1][j]) + (s[2][j] + s[3][j]);
+        return (s[0] + s[1]) + s[2];
+    const V four = (s[0] + s[1]) + (s[2] + s[3]);
     if constexpr (N == 4)
         return four;
     else if constexpr (N == 5)
-        return four + s[4][j];
+        return four + s[4];
     else
-        return four + (s[4][j] + s[5][j]);
+        return four + (s[4] + s[5]);
 }
 
-template <typename V>
-ZELM_INLINE V tree32(const V (&s)[3][3]) {
-    return (columnSum(s, 0) + columnSum(s, 1)) + columnSum(s, 2);
+template <unsigned N, typename T>
+ZELM_INLINE Pack<T> columnSumsFrom(const Dense<const T> &s, unsigned j) {
+    Pack<T> squares[N];
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        squares[i] = squaresAt(s, i, j);
+    return columnSum(squares);
 }
 
-template <typename V>
-ZELM_INLINE V tree32(const V (&s)[4][4]) {
-    return (columnSum(s, 0) + columnSum(s, 2)) + (columnSum(s, 1) + columnSum(s, 3));
+template <unsigned N, typename T>
+ZELM_INLINE T columnSumAt(const Dense<const T> &s, unsigned j) {
+    T squares[N];
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        squares[i] = squareAt(s, i, j);
+    return columnSum(squares);
 }
 
-template <typename V>
-ZELM_INLINE V tree32(const V (&s)[5][5]) {
-    return ((columnSum(s, 0) + columnSum(s, 2)) + (columnSum(s, 1) + columnSum(s, 3))) + columnSum(s, 4);
+// (lane 0 + lane 2) + (lane 1 + lane 3).
+ZELM_INLINE float evenThenOdd(__m128 four) {
+    const __m128 two = four + _mm_movehl_ps(four, four);
+    return firstLane(two) + two[1];
 }
 
-// Order 6 in 32-bit float, where the object and its row stride are multiples of 16 ...
-template <typename V>
-ZELM_INLINE V tree32Aligned(const V (&s)[6][6]) {
-    const auto last = [&](unsigned j) __attribute__((always_inline)) {
-        return ((s[0][j] + s[2][j]) + s[4][j]) + ((s[1][j] + s[3][j]) + s[5][j]);
+ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<3, 3>) {
+    __m128 squares[3];
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 3; ++i)
+        squares[i] = twoSquaresAt(s, i, 0);
+    const __m128 two = columnSum(squares);
+    return (firstLane(two) + two[1]) + columnSumAt<3>(s, 2);
+}
+
+ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<4, 4>) {
+    return evenThenOdd(columnSumsFrom<4>(s, 0));
+}
+
+ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<5, 5>) {
+    return evenThenOdd(columnSumsFrom<5>(s, 0)) + columnSumAt<5>(s, 4);
+}
+
+// The last two columns, of which the even rows and the odd rows are summed apart.
+ZELM_INLINE __m128 lastTwoColumns(const Dense<const float> &s, unsigned parity) {
+    return (twoSquaresAt(s, parity, 4) + twoSquaresAt(s, parity + 2, 4)) + twoSquaresAt(s, parity + 4, 4);
+}
+
+// Order 6 in 32-bit float has a tree for an object and a row stride that are multiples of 16, and one for all
+// others.
+ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<6, 6>) {
+    const __m128 even = lastTwoColumns(s, 0), odd = lastTwoColumns(s, 1);
+    if (isMultipleOf16(s.start) && isMultipleOf16(s.rowStride)) {
+        const __m128 last = even + odd;
+        return evenThenOdd(columnSumsFrom<6>(s, 0)) + (firstLane(last) + last[1]);
+    }
+    const __m128 upper = (squaresAt(s, 0, 0) + squaresAt(s, 1, 0)) + squaresAt(s, 5, 0);
+    const __m128 lower = (squaresAt(s, 2, 0) + squaresAt(s, 3, 0)) + squaresAt(s, 4, 0);
+    return evenThenOdd((upper + lower) + _mm_movelh_ps(even, odd));
+}
+
+ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<3, 3>) {
+    const __m128d two = columnSumsFrom<3>(s, 0);
+    return (columnSumAt<3>(s, 2) + firstLane(two)) + two[1];
+}
+
+ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<4, 4>) {
+    __m128d rows[4];
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i)
+        rows[i] = squaresAt(s, i, 0) + squaresAt(s, i, 2);
+    const __m128d lanes = columnSum(rows);
+    return firstLane(lanes) + lanes[1];
+}
+
+ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<5, 5>) {
+    const __m128d left = columnSumsFrom<5>(s, 0), right = columnSumsFrom<5>(s, 2);
+    return ((firstLane(left) + left[1]) + (firstLane(right) + right[1])) + columnSumAt<5>(s, 4);
+}
+
+// Order 6 in 64-bit float: the squares in row-major order are dealt to two lanes.
+ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<6, 6>) {
+    const auto t = [&](unsigned m) __attribute__((always_inline)) {
+        return squaresAt(s, m / 3, m % 3 * 2);
     };
-    return ((columnSum(s, 0) + columnSum(s, 2)) + (columnSum(s, 1) + columnSum(s, 3))) + (last(4) + last(5));
+    const __m128d lanes =
+        ((((t(0) + t(1)) + (t(2) + t(3))) + (t(16) + t(17))) + ((t(4) + t(5)) + (t(6) + t(7)))) +
+        (((t(8) + t(9)) + (t(10) + t(11))) + ((t(12) + t(13)) + (t(14) + t(15))));
+    return firstLane(lanes) + lanes[1];
 }
 
-// ... and where they are not.
-template <typename V>
-ZELM_INLINE V tree32Unaligned(const V (&s)[6][6]) {
-    const auto column = [&](unsigned j) __attribute__((always_inline)) {
-        return ((s[0][j] + s[1][j]) + s[5][j]) + ((s[2][j] + s[3][j]) + s[4][j]);
-    };
-    const V a = (s[0][4] + s[2][4]) + s[4][4], b = (s[1][4] + s[3][4]) + s[5][4];
-    const V c = (s[0][5] + s[2][5]) + s[4][5], d = (s[1][5] + s[3][5]) + s[5][5];
-    return ((column(0) + a) + (column(2) + b)) + ((column(1) + c) + (column(3) + d));
-}
+// ---- objects of an array of 32-bit matrices that are taken four at a time, in the sizes in which it matters
 
-// The objects of an array of 32-bit matrices that are taken four at a time, in the sizes in which it matters.
 template <typename V>
-ZELM_INLINE V tree32OfFour(const V (&s)[3][3]) {
+ZELM_INLINE V treeOfFour(const V (&s)[3][3]) {
     return (((s[0][0] + s[0][1]) + s[2][2]) + (s[0][2] + s[1][0])) +
            ((s[1][1] + s[1][2]) + (s[2][0] + s[2][1]));
 }
 
-template <typename V>
-ZELM_INLINE V tree32OfFour(const V (&s)[4][4]) {
-    return (columnSum(s, 0) + columnSum(s, 1)) + (columnSum(s, 2) + columnSum(s, 3));
+ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<3, 3>) {
+    float squares[3][3];
+#pragma GCC unroll 9
+    for (unsigned e = 0; e < 9; ++e)
+        squares[e / 3][e % 3] = squareAt(s, e / 3, e % 3);
+    return treeOfFour(squares);
 }
 
-template <typename V>
-ZELM_INLINE V tree64(const V (&s)[3][3]) {
-    return (columnSum(s, 2) + columnSum(s, 0)) + columnSum(s, 1);
+ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<4, 4>) {
+    const __m128 sums = columnSumsFrom<4>(s, 0);
+    return (sums[0] + sums[1]) + (sums[2] + sums[3]);
 }
 
-template <typename V>
-ZELM_INLINE V tree64(const V (&s)[4][4]) {
-    const auto even = [&](unsigned i) __attribute__((always_inline)) {
-        return s[i][0] + s[i][2];
-    };
-    const auto odd = [&](unsigned i) __attribute__((always_inline)) {
-        return s[i][1] + s[i][3];
-    };
-    return ((even(0) + even(1)) + (even(2) + even(3))) + ((odd(0) + odd(1)) + (odd(2) + odd(3)));
-}
-
-template <typename V>
-ZELM_INLINE V tree64(const V (&s)[5][5]) {
-    return ((columnSum(s, 0) + columnSum(s, 1)) + (columnSum(s, 2) + columnSum(s, 3))) + columnSum(s, 4);
-}
-
-// Order 6 in 64-bit float: the squares in row-major order are dealt to two lanes.
-template <typename V>
-ZELM_INLINE V tree64(const V (&s)[6][6]) {
-    const auto lane = [&](unsigned parity) __attribute__((always_inline)) {
-        const auto t = [&](unsigned m) __attribute__((always_inline)) {
-            return s[(2 * m + parity) / 6][(2 * m + parity) % 6];
-        };
-        return ((((t(0) + t(1)) + (t(2) + t(3))) + (t(16) + t(17))) + ((t(4) + t(5)) + (t(6) + t(7)))) +
-               (((t(8) + t(9)) + (t(10) + t(11))) + ((t(12) + t(13)) + (t(14) + t(15))));
-    };
-    return lane(0) + lane(1);
-}
-
-// ---- one matrix of adjacent rows
-
-template <unsigned N, typename T>
-ZELM_INLINE bool isAligned(const Dense<const T> &s) {
-    return s.start % 16 == 0 && s.rowStride % 16 == 0;
-}
-
-template <unsigned N, typename T>
-ZELM_INLINE void squaresOf(const Dense<const T> &s, T (&squares)[N][N]) {
-#pragma GCC unroll 36
-    for (unsigned e = 0; e < N * N; ++e) {
-        const T element = s.get(e / N, e % N, N);
-        squares[e / N][e % N] = element * element;
+template <typename S>
+ZELM_INLINE __m128 treesOfFour(const Group<S> &group, FixedShape<3, 3>) {
+    __m128 squares[3][3];
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 3; ++i) {
+        loadRow<3>(group, i, squares[i]);
+#pragma GCC unroll 3
+        for (unsigned j = 0; j < 3; ++j)
+            squares[i][j] = squares[i][j] * squares[i][j];
     }
+    return treeOfFour(squares);
 }
 
-template <unsigned N>
-ZELM_INLINE float treeOf(const Dense<const float> &s) {
-    float squares[N][N];
-    squaresOf<N>(s, squares);
-    if constexpr (N == 6)
-        return isAligned<N>(s) ? tree32Aligned(squares) : tree32Unaligned(squares);
-    else
-        return tree32(squares);
-}
-
-template <unsigned N>
-ZELM_INLINE double treeOf(const Dense<const double> &s) {
-    double squares[N][N];
-    squaresOf<N>(s, squares);
-    return tree64(squares);
+template <typename S>
+ZELM_INLINE __m128 treesOfFour(const Group<S> &group, FixedShape<4, 4>) {
+    __m128 sums[4];
+#pragma GCC unroll 4
+    for (unsigned lane = 0; lane < 4; ++lane)
+        sums[lane] = columnSumsFrom<4>(group.objects[lane], 0);
+    return _mm_hadd_ps(_mm_hadd_ps(sums[0], sums[1]), _mm_hadd_ps(sums[2], sums[3]));
 }
 
 // ---- the exported rows
@@ -171,7 +207,7 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
             return ZELM_ERR_NULL_PTR;
     }
     if constexpr (S::isDense && Shape::isFixed) {
-        const T sum = treeOf<Shape::columns()>(s);
+        const T sum = treeOf(s, shape);
         if constexpr (sizeof(T) == 4)
             *dst = rootByRefinedReciprocal(sum);
         else
@@ -182,66 +218,35 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
     return ZELM_OK;
 }
 
-// The dense 32-bit arrays of a fixed size: objects by fours as far as they last, the rest one by one. The
-// place of an object decides its tree, also where a group can't be loaded at once.
-template <unsigned N, bool ofFour>
-ZELM_INLINE float arrayTreeOf(const Dense<const float> &s) {
-    if constexpr (ofFour && N <= 4) {
-        float squares[N][N];
-        squaresOf<N>(s, squares);
-        return tree32OfFour(squares);
-    } else {
-        return treeOf<N>(s);
-    }
-}
-
-template <unsigned N, typename S>
-ZELM_INLINE bool frobeniusGroup(const S &s, const DenseArray<float> &results, std::uint32_t k) {
-    const Group<S> group = groupAt(s, k);
-    if constexpr (N == 6) {
-        bool aligned = true, unaligned = true;
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < 4; ++lane) {
-            aligned &= isAligned<N>(group.objects[lane]);
-            unaligned &= !isAligned<N>(group.objects[lane]);
-        }
-        if (!aligned && !unaligned)
-            return false;
-    }
-    __m128 squares[N][N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i) {
-        loadRow<N>(group, i, squares[i]);
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            squares[i][j] = squares[i][j] * squares[i][j];
-    }
-    __m128 sum;
-    if constexpr (N == 6)
-        sum = isAligned<N>(group.objects[0]) ? tree32Aligned(squares) : tree32Unaligned(squares);
-    else if constexpr (N == 5)
-        sum = tree32(squares);
-    else
-        sum = tree32OfFour(squares);
-    storePack(results.object(k).start, rootByRefinedReciprocal(sum));
-    return true;
-}
-
-template <unsigned N, typename S>
-ZELM_INLINE ZelmStatus frobeniusByFours(const S &s, const DenseArray<float> &results, std::uint32_t count) {
-    const std::uint32_t fours = count / 4 * 4;
-    const auto one = [&](std::uint32_t k) {
-        const Dense<const float> object = s.object(k);
-        const float sum = k < fours ? arrayTreeOf<N, true>(object) : arrayTreeOf<N, false>(object);
+// The dense 32-bit arrays of a fixed size: in the orders 3 and 4 objects by fours as far as they last, the
+// rest one by one. The place of an object decides its tree, also where a group can't be loaded at once.
+template <typename S, unsigned N>
+ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &results, FixedShape<N, N> shape,
+                                        std::uint32_t count) {
+    const auto store = [&](std::uint32_t k, float sum) __attribute__((always_inline)) {
         results.object(k).set(0, rootByRefinedReciprocal(sum));
         return ZELM_OK;
     };
-    if (!resultsMissSource<N, N>(s, results, count))
+    if constexpr (N > 4) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return store(k, treeOf(s.object(k), shape));
+        };
         return forEachObject(count, one, s);
-    const auto group = [&](std::uint32_t k) {
-        return resultsMissGroup<N, N>(s, results, k) && frobeniusGroup<N>(s, results, k);
-    };
-    return forEachGroup<4>(count, group, one, s);
+    } else {
+        const std::uint32_t fours = count / 4 * 4;
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return store(k, k < fours ? treeOfFour(s.object(k), shape) : treeOf(s.object(k), shape));
+        };
+        if (!resultsMissSource<N, N>(s, results, count))
+            return forEachObject(count, one, s);
+        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
+            if (!resultsMissGroup<N, N>(s, results, k))
+                return false;
+            storePack(results.object(k).start, rootByRefinedReciprocal(treesOfFour(groupAt(s, k), shape)));
+            return true;
+        };
+        return forEachGroup<4>(count, group, one, s);
+    }
 }
 
 template <typename S, typename T, typename Shape>
@@ -253,16 +258,16 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
     const DenseArray<T> results = resultsAt(dst);
     constexpr bool isDense = decltype(s.object(0))::isDense;
     if constexpr (Shape::isFixed && isDense && sizeof(T) == 4) {
-        return frobeniusByFours<Shape::columns()>(s, results, count);
+        return frobeniusByTrees(s, results, shape, count);
     } else {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
             return ZELM_OK;
         };
         if constexpr (Shape::isFixed && kLoadsInGroups<S>) {
             constexpr unsigned N = Shape::columns();
             if (count >= kResultGroupsCount && resultsMissSource<N, N>(s, results, count)) {
-                const auto group = [&](std::uint32_t k) {
+                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     if (!resultsMissGroup<N, N>(s, results, k))
                         return false;
                     const Group<S> objects = groupAt(s, k);

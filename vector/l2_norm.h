@@ -75,7 +75,7 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
         return status;
     const DenseArray<T> results = resultsAt(dst);
     if constexpr (!Shape::isFixed) {
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
             return ZELM_OK;
         };
@@ -83,14 +83,14 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
     } else {
         constexpr unsigned N = Shape::columns();
         constexpr bool isDense = decltype(s.object(0))::isDense;
-        const auto one = [&](std::uint32_t k) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             results.object(k).set(0, fixedLength<true, N>(s.object(k)));
             return ZELM_OK;
         };
         if constexpr (kLoadsInGroups<S>) {
             if (count >= kResultGroupsCount && resultsMissSource<1, N>(s, results, count)) {
                 const VectorsOfGroup<N, S> vectors(s);
-                const auto group = [&](std::uint32_t k) {
+                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     if (!resultsMissGroup<1, N>(s, results, k))
                         return false;
                     Pack<T> elements[N], squares[N];

@@ -37,15 +37,14 @@ struct Squares {
 // The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 +
 // s3).
 ZELM_INLINE float combined(__m128 s0to3, __m128 s4to7) {
-    float sum[4] = {};
-    storePack(addressOf(sum), s0to3 + s4to7);
-    return (sum[0] + sum[1]) + (sum[2] + sum[3]);
+    const __m128 four = s0to3 + s4to7;
+    const __m128 pairs = four + _mm_shuffle_ps(four, four, _MM_SHUFFLE(2, 3, 0, 1));
+    return firstLane(pairs + _mm_movehl_ps(pairs, pairs));
 }
 
 ZELM_INLINE double combined(__m128d s0to1, __m128d s2to3) {
-    double sum[2] = {};
-    storePack(addressOf(sum), s0to1 + s2to3);
-    return sum[0] + sum[1];
+    const __m128d two = s0to1 + s2to3;
+    return firstLane(two + _mm_unpackhi_pd(two, two));
 }
 
 // `aligned` is the address that is brought to a multiple of 16 by summing a head of terms one by one. The
@@ -60,8 +59,7 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
         const auto head = static_cast<std::uint32_t>((0 - aligned) % kPackBytes / sizeof(T));
         for (; t < head; ++t)
             sum = sum + terms.term(t);
-        T first[lanes] = {sum};
-        Pack<T> low = loadPack<T>(addressOf(first)), high = broadcast(T{0});
+        Pack<T> low = inFirstLane(sum), high = broadcast(T{0});
         for (; length - t >= round; t += round) {
 #pragma GCC unroll 2
             for (unsigned term = 0; term < round; term += 2 * lanes) {

@@ -1,4 +1,4 @@
-// Square roots: correctly rounded, and by the processor's approximate reciprocal root with one Newton step.
+// The square root by the processor's approximate reciprocal root with one Newton step.
 // The approximation has no test of its argument: a zero and +infinity give NaN.
 #pragma once
 
@@ -8,26 +8,11 @@ namespace zelm::vector {
 
 using namespace zelm::frame;
 
-ZELM_INLINE float squareRoot(float value) {
-    return __builtin_sqrtf(value);
-}
-ZELM_INLINE double squareRoot(double value) {
-    return __builtin_sqrt(value);
-}
-ZELM_INLINE __m128 squareRoot(__m128 value) {
-    return _mm_sqrt_ps(value);
-}
-ZELM_INLINE __m128d squareRoot(__m128d value) {
-    return _mm_sqrt_pd(value);
-}
-
 ZELM_INLINE __m128 approximateReciprocalRoot(__m128 value) {
     return _mm_rsqrt_ps(value);
 }
 ZELM_INLINE float approximateReciprocalRoot(float value) {
-    float root;
-    _mm_store_ss(&root, _mm_rsqrt_ss(_mm_set_ss(value)));
-    return root;
+    return firstLane(_mm_rsqrt_ss(inFirstLane(value)));
 }
 
 // Spreads a constant like the value beside it.

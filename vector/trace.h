@@ -50,7 +50,7 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
         status != kProceed)
         return status;
     const DenseArray<T> results = resultsAt(dst);
-    const auto one = [&](std::uint32_t k) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
             results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
         else

@@ -387,7 +387,7 @@ private:
                 displace(case_.operands[chosen]);
             break;
         case Relation::Displaced:
-            if (overlap == Overlap::Apart)
+            if (overlap == Overlap::Apart || overlap == Overlap::Identical)
                 break;
             if (overlap == Overlap::Any) {
                 if (random_.chance(60) && fitsShape(case_.operands[chosen], dst()))
@@ -424,7 +424,7 @@ private:
 
     bool mayBeSame(const Placement &source) const {
         const Overlap overlap = overlapWith(source);
-        return overlap == Overlap::Any || overlap == Overlap::InPlace ||
+        return overlap == Overlap::Any || overlap == Overlap::InPlace || overlap == Overlap::Identical ||
                (overlap == Overlap::InPlaceDistinct && !elementsCoincide(source));
     }
 

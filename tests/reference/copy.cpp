@@ -91,7 +91,7 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
 const Family copy = {.serves = serves,
                      .signature = signature,
                      .run = run,
-                     .overlap = Overlap::Apart,
+                     .overlap = Overlap::Identical,
                      .content = Content::Numbers,
                      .followsNull = followsNull,
                      .raisesFault = raisesFault,

@@ -114,11 +114,10 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
         return false;
     const Bounds bounds(call);
     const std::uint32_t size = elementSize(*call.cell);
-    const Address dst = call.passed[call.index("dst")].base, bytes = bounds.height * bounds.width * size;
     for (std::uint32_t i = 0; i < bounds.height; ++i)
         for (std::uint32_t j = 0; j < bounds.width; ++j) {
             const Address from = source(call, 0, i, j);
-            if (!isMapped(from) || !isMapped(from + size - 1) || from - dst + size < bytes + size)
+            if (!isMapped(from) || !isMapped(from + size - 1))
                 return true;
         }
     return false;
@@ -129,7 +128,7 @@ bool raisesFault(const Call &call, const IsMapped &isMapped) {
 const Family extract = {.serves = serves,
                         .signature = signature,
                         .run = run,
-                        .overlap = Overlap::Apart,
+                        .overlap = Overlap::Any,
                         .content = Content::Numbers,
                         .followsNull = followsNull,
                         .raisesFault = raisesFault,

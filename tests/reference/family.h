@@ -16,6 +16,7 @@ enum class Overlap {
     InPlace,         // only dst and source object by object the same, or apart
     InPlaceDistinct, // likewise, and no two elements of an object may be the same
     OtherObjects,    // only dst's object another one of the source's
+    Identical,       // only dst element by element the source, or apart
     Apart,           // none
 };
 
