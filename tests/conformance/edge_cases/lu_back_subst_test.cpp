@@ -140,6 +140,25 @@ TEST(LuBackSubst, APivotBeyondTheOrderIsFollowed) {
     EXPECT_EQ(y, x);
 }
 
+TEST(LuBackSubst, APivotBeyondTheOrderIsFollowedForManyVectorsToo) {
+    const float tall[] = {1, 0, 0, 0, 1, 0, 9, 9, 9, 0, 0, 2};
+    const std::uint32_t rows[] = {0, 1, 3};
+    constexpr std::uint32_t count = 9;
+    std::array<float, 4 * count> b{};
+    std::array<float, 3 * count> x{}, expected{};
+    for (std::size_t k = 0; k < count; ++k) {
+        const auto number = static_cast<float>(k);
+        b[4 * k] = expected[3 * k] = 5 + number;
+        b[4 * k + 1] = expected[3 * k + 1] = 6 - number;
+        b[4 * k + 2] = 99;
+        b[4 * k + 3] = 8 * number;
+        expected[3 * k + 2] = 4 * number;
+    }
+    EXPECT_EQ(zelmLUBackSubst_mva_32f_3x3(tall, 0, 3 * f, rows, b.data(), 4 * f, x.data(), 3 * f, count),
+              ZELM_OK);
+    EXPECT_EQ(x, expected);
+}
+
 TEST(LuBackSubst, ReadsWhatTheDecompositionWrote) {
     // The systems of one array, with exchanges, through both calls.
     std::array<double, 18> matrices = {0, 2, 0, 4, 0, 0, 0, 0, 8, 1, 2, 0, 2, 2, 0, 0, 1, 4};
