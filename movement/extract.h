@@ -27,7 +27,7 @@ ZELM_INLINE ZelmStatus extractSingle(const S &s, T *dst, RunTimeShape shape) {
 // Whether the buffer is apart from the source, so that the order in which it is filled can't be seen.
 template <typename S, typename T>
 ZELM_INLINE bool isApart(const S &s, const DenseArray<T> &packed, RunTimeShape shape, std::uint32_t count) {
-    if constexpr (S::isList || kIsTransposed<S>) {
+    if constexpr (kIsTransposed<S>) {
         return false;
     } else {
         return shape.height <= kMostInGroups && shape.width <= kMostInGroups &&
@@ -36,12 +36,42 @@ ZELM_INLINE bool isApart(const S &s, const DenseArray<T> &packed, RunTimeShape s
     }
 }
 
+// A list's objects lie anywhere: each is moved as it may be.
+template <typename T>
+ZELM_INLINE void extractList(const DenseList<const T> &s, const DenseArray<T> &packed, RunTimeShape shape,
+                             std::uint32_t count) {
+    constexpr Address least = 8; // elements that are worth the test
+    const bool possible =
+        shape.height <= kMostInGroups && shape.width <= kMostInGroups && shape.elements() >= least;
+    const bool joined = rowsAreJoined(s, packed, shape);
+    const Extent read = possible ? extentOf(s, shape.height, shape.width) : Extent{};
+    for (std::uint32_t k = 0; k < count; ++k) {
+        const Dense<const T> from = s.object(k);
+        const Dense<T> to = packed.object(k);
+        if (possible &&
+            areDisjoint(from.start + read.lowest, read.bytes, to.start, shape.elements() * sizeof(T)))
+            moveRowsOf(from, to, shape, joined);
+        else
+            moveObject(from, to, shape);
+    }
+}
+
+template <typename S, typename T>
+ZELM_INLINE void extractList(const S &s, const DenseArray<T> &packed, RunTimeShape shape,
+                             std::uint32_t count) {
+    moveInOrder(s, packed, shape, count);
+}
+
 template <typename S, typename T>
 ZELM_INLINE ZelmStatus extractArray(const S &s, T *dst, RunTimeShape shape, std::uint32_t count) {
     if (ZelmStatus status = checkSingle(shape.isZero() || count == 0, s, Pointer(dst)); status != kProceed)
         return status;
     const DenseArray<T> packed = packedAt(dst, shape);
-    if (isApart(s, packed, shape, count))
+    if constexpr (S::isList && !kIsTransposed<S>)
+        withPlainestLayout(
+            s, [&](const auto &list)
+                   __attribute__((always_inline)) { extractList(list, packed, shape, count); });
+    else if (isApart(s, packed, shape, count))
         moveObjects(s, packed, shape, count);
     else
         moveInOrder(s, packed, shape, count);

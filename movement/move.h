@@ -78,25 +78,31 @@ ZELM_INLINE bool isOneRun(const DenseArray<T> &array, RunTimeShape shape) {
     return (shape.height == 1 || array.rowStride == row) && array.objStride == row * shape.height;
 }
 
+// One object; `joined` where its rows, here and there, follow each other without a gap.
+template <typename S, typename D>
+ZELM_INLINE void moveRowsOf(const S &from, const D &to, RunTimeShape shape, bool joined) {
+    using T = typename D::Element;
+    if (joined)
+        return moveRun<T>(to.start, from.start, shape.elements());
+    for (std::uint32_t i = 0; i < shape.height; ++i)
+        moveRun<T>(to.rowStart(i), from.rowStart(i), shape.width);
+}
+
+template <typename S, typename D>
+ZELM_INLINE bool rowsAreJoined(const S &s, const D &d, RunTimeShape shape) {
+    const Address row = Address{shape.width} * sizeof(typename D::Element);
+    return shape.height == 1 || (s.rowStride == row && d.rowStride == row);
+}
+
 template <typename S, typename D>
 ZELM_INLINE void moveRows(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
     using T = typename D::Element;
     if constexpr (kIsDenseArray<S> && kIsDenseArray<D>)
         if (isOneRun(s, shape) && isOneRun(d, shape))
             return moveRun<T>(d.start, s.start, shape.elements() * count);
-    const Address row = Address{shape.width} * sizeof(T);
-    if (shape.height == 1 || (s.rowStride == row && d.rowStride == row)) {
-        const Address elements = shape.elements();
-        for (std::uint32_t k = 0; k < count; ++k)
-            moveRun<T>(d.object(k).start, s.object(k).start, elements);
-        return;
-    }
-    for (std::uint32_t k = 0; k < count; ++k) {
-        const auto from = s.object(k);
-        const auto to = d.object(k);
-        for (std::uint32_t i = 0; i < shape.height; ++i)
-            moveRun<T>(to.rowStart(i), from.rowStart(i), shape.width);
-    }
+    const bool joined = rowsAreJoined(s, d, shape);
+    for (std::uint32_t k = 0; k < count; ++k)
+        moveRowsOf(s.object(k), d.object(k), shape, joined);
 }
 
 // ---- planes
