@@ -82,6 +82,23 @@ ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<
     return ZELM_OK;
 }
 
+ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const double> &s, const Dense<double> &d) {
+    __m128d rows[4][2];
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i) {
+        rows[i][0] = loadPack<double>(s.rowStart(i));
+        rows[i][1] = loadPack<double>(s.rowStart(i) + kPackBytes);
+    }
+    if (!invertRows(rows))
+        return ZELM_ERR_DIV_BY_ZERO;
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i) {
+        storePack(d.rowStart(i), rows[i][0]);
+        storePack(d.rowStart(i) + kPackBytes, rows[i][1]);
+    }
+    return ZELM_OK;
+}
+
 template <typename T, unsigned N, typename S, typename D>
 __attribute__((noinline)) ZelmStatus invertByPacks(const S &s, const D &d) {
     Pack<T> a[N][N];
@@ -103,7 +120,7 @@ __attribute__((noinline)) ZelmStatus invertByPacks(const S &s, const D &d) {
 
 template <typename T, unsigned N, typename S, typename D>
 ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
-    if constexpr (D::isDense && N == 4 && sizeof(T) == 4)
+    if constexpr (D::isDense && N == 4)
         return invertDenseRows(s, d);
     else
         return invertByPacks<T, N>(s, d);

@@ -1,5 +1,4 @@
-// One 4x4 inverse of 32-bit float with its rows in registers: the bits of invertClosed in a third of its
-// time.
+// One 4x4 inverse with its rows in registers: the bits of invertClosed in a part of its time.
 #pragma once
 
 #include "solvers/closed_inverse.h"
@@ -10,6 +9,8 @@ template <int e0, int e1, int e2, int e3>
 ZELM_INLINE __m128 pick(__m128 v) {
     return _mm_shuffle_ps(v, v, _MM_SHUFFLE(e3, e2, e1, e0));
 }
+
+// ---- 32-bit float: a row in a pack
 
 // The elements that stand first and second in the two differences of the cofactors of a row, and those of the
 // third term: C0 = (v1*m23 - v2*m13) + v3*m12, C1 = (v2*m03 - v0*m23) - v3*m02 and so on.
@@ -53,6 +54,65 @@ ZELM_INLINE bool invertRows(__m128 (&a)[4]) {
 #pragma GCC unroll 4
     for (unsigned i = 0; i < 4; ++i)
         a[i] = c[i] * r;
+    return true;
+}
+
+// ---- 64-bit float: two rows side by side, lane by lane
+
+// The order 2 minors of two rows, each in both lanes: of the columns 01, 02, 03, 12, 13, 23.
+ZELM_INLINE void minorsOfRows(const __m128d (&u)[2], const __m128d (&l)[2], __m128d (&m)[6]) {
+    const auto lows = [](__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); };
+    const auto highs = [](__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); };
+    const __m128d outer = lows(u[0], u[1]) * highs(l[0], l[1]) - lows(l[0], l[1]) * highs(u[0], u[1]);
+    const __m128d of0 = lows(u[0], u[0]) * l[1] - lows(l[0], l[0]) * u[1];
+    const __m128d of1 = highs(u[0], u[0]) * l[1] - highs(l[0], l[0]) * u[1];
+    m[0] = lows(outer, outer);
+    m[1] = lows(of0, of0);
+    m[2] = highs(of0, of0);
+    m[3] = lows(of1, of1);
+    m[4] = highs(of1, of1);
+    m[5] = highs(outer, outer);
+}
+
+// The cofactors of two neighbouring rows, column by column, each from the other row. Those of the second row
+// have the opposite signs, which its elements take here.
+ZELM_INLINE void cofactorsOfRows(const __m128d (&second)[2], const __m128d (&first)[2], const __m128d (&m)[6],
+                                 __m128d (&c)[4]) {
+    const __m128d minus = _mm_set1_pd(-0.0);
+    __m128d plain[4], opposite[4];
+#pragma GCC unroll 2
+    for (unsigned half = 0; half < 2; ++half) {
+        const __m128d other = bitXor(first[half], minus);
+        plain[2 * half] = _mm_unpacklo_pd(second[half], other);
+        plain[2 * half + 1] = _mm_unpackhi_pd(second[half], other);
+    }
+#pragma GCC unroll 4
+    for (unsigned j = 0; j < 4; ++j)
+        opposite[j] = bitXor(plain[j], minus);
+    c[0] = (plain[1] * m[5] - plain[2] * m[4]) + plain[3] * m[3];
+    c[1] = (opposite[0] * m[5] - opposite[2] * m[2]) + opposite[3] * m[1];
+    c[2] = (plain[0] * m[4] - plain[1] * m[2]) + plain[3] * m[0];
+    c[3] = (opposite[0] * m[3] - opposite[1] * m[1]) + opposite[2] * m[0];
+}
+
+// In place; false if the matrix is singular, with the rows as they were.
+ZELM_INLINE bool invertRows(__m128d (&a)[4][2]) {
+    __m128d m[6], upper[4], lower[4];
+    minorsOfRows(a[2], a[3], m);
+    cofactorsOfRows(a[1], a[0], m, upper);
+    minorsOfRows(a[0], a[1], m);
+    cofactorsOfRows(a[3], a[2], m, lower);
+    const __m128d pairs =
+        _mm_unpacklo_pd(a[0][0], a[1][0]) * upper[0] + _mm_unpacklo_pd(a[2][0], a[3][0]) * lower[0];
+    const __m128d det = _mm_unpackhi_pd(pairs, pairs) + _mm_unpacklo_pd(pairs, pairs);
+    if (anyLane(equal(det, __m128d{})))
+        return false;
+    const __m128d r = reciprocal(det);
+#pragma GCC unroll 4
+    for (unsigned i = 0; i < 4; ++i) {
+        a[i][0] = upper[i] * r;
+        a[i][1] = lower[i] * r;
+    }
     return true;
 }
 
