@@ -27,6 +27,81 @@ ZELM_INLINE auto dotOfLength(const A &a, const B &b, std::uint32_t length) {
     return sum;
 }
 
+// ---- the products of a group of pairs, one pack per element: multiplied object by object and then
+// transposed, instead of both operands
+
+template <typename T>
+ZELM_INLINE Pack<T> productsAt(const LaneAddresses<T> &a, const LaneAddresses<T> &b, Address offset) {
+    LaneAddresses<T> first, second;
+    shifted<T>(a, offset, first);
+    shifted<T>(b, offset, second);
+    return gather(first) * gather(second);
+}
+
+ZELM_INLINE __m128 twoOfTwo(Address first, Address second) {
+    return _mm_loadh_pi(loadTwo(first), reinterpret_cast<const __m64 *>(second));
+}
+
+template <unsigned N>
+ZELM_INLINE void productsAcross(const LaneAddresses<float> &a, const LaneAddresses<float> &b,
+                                __m128 (&out)[N]) {
+#pragma GCC unroll 4
+    for (unsigned lane = 0; lane < 4; ++lane)
+        out[lane] = loadPack<float>(a[lane]) * loadPack<float>(b[lane]);
+    _MM_TRANSPOSE4_PS(out[0], out[1], out[2], out[3]);
+    if constexpr (N == 5) {
+        out[4] = productsAt<float>(a, b, 4 * sizeof(float));
+    } else if constexpr (N == 6) {
+        const __m128 upper = twoOfTwo(a[0] + 16, a[1] + 16) * twoOfTwo(b[0] + 16, b[1] + 16);
+        const __m128 lower = twoOfTwo(a[2] + 16, a[3] + 16) * twoOfTwo(b[2] + 16, b[3] + 16);
+        out[4] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 0, 2, 0));
+        out[5] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
+    }
+}
+
+template <unsigned N>
+ZELM_INLINE void productsAcross(const LaneAddresses<double> &a, const LaneAddresses<double> &b,
+                                __m128d (&out)[N]) {
+#pragma GCC unroll 3
+    for (unsigned j = 0; j + 1 < N; j += 2) {
+        const Address offset = j * sizeof(double);
+        const __m128d first = loadPack<double>(a[0] + offset) * loadPack<double>(b[0] + offset);
+        const __m128d second = loadPack<double>(a[1] + offset) * loadPack<double>(b[1] + offset);
+        out[j] = _mm_unpacklo_pd(first, second);
+        out[j + 1] = _mm_unpackhi_pd(first, second);
+    }
+    if constexpr (N % 2 == 1)
+        out[N - 1] = productsAt<double>(a, b, (N - 1) * sizeof(double));
+}
+
+template <typename S>
+constexpr bool kIsArrayOfRows =
+    decltype(std::declval<const S &>().object(0))::isDense && !requires(const S &s) {
+    s.get(0u);
+};
+
+// Three elements are transposed in fewer steps by the frame, where they follow each other without a gap.
+template <unsigned N, typename A, typename B, typename T>
+ZELM_INLINE void productsOfGroup(const VectorsOfGroup<N, A> &a, const VectorsOfGroup<N, B> &b,
+                                 std::uint32_t k, Pack<T> (&products)[N]) {
+    if constexpr (N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
+        LaneAddresses<T> first, second;
+#pragma GCC unroll 4
+        for (unsigned lane = 0; lane < kLanes<T>; ++lane) {
+            first[lane] = a.operand.object(k + lane).start;
+            second[lane] = b.operand.object(k + lane).start;
+        }
+        productsAcross<N>(first, second, products);
+    } else {
+        Pack<T> firsts[N], seconds[N];
+        a.load(k, firsts);
+        b.load(k, seconds);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            products[j] = firsts[j] * seconds[j];
+    }
+}
+
 // ---- one pair
 
 template <typename A, typename B, typename T, typename Shape>
@@ -72,12 +147,8 @@ ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, s
                 const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
                     if (!resultsMissGroup<1, N>(a, results, k) || !resultsMissGroup<1, N>(b, results, k))
                         return false;
-                    Pack<T> first[N], second[N], products[N];
-                    firsts.load(k, first);
-                    seconds.load(k, second);
-#pragma GCC unroll 6
-                    for (unsigned j = 0; j < N; ++j)
-                        products[j] = first[j] * second[j];
+                    Pack<T> products[N];
+                    productsOfGroup<N, A, B, T>(firsts, seconds, k, products);
                     storePack(results.object(k).start, sumOf<order>(products));
                     return true;
                 };
