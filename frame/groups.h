@@ -53,9 +53,8 @@ ZELM_INLINE void storeFour(const LaneAddresses<float> &at, Address offset, const
 }
 
 ZELM_INLINE void loadTwo(const LaneAddresses<float> &at, Address offset, __m128 *out) {
-    const auto half = [&](unsigned lane) { return reinterpret_cast<const __m64 *>(at[lane] + offset); };
-    const __m128 a = _mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), half(0)), half(1));
-    const __m128 b = _mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), half(2)), half(3));
+    const __m128 a = loadTwoAndTwo(at[0] + offset, at[1] + offset);
+    const __m128 b = loadTwoAndTwo(at[2] + offset, at[3] + offset);
     out[0] = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0));
     out[1] = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
 }

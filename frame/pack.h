@@ -74,6 +74,11 @@ ZELM_INLINE __m128 loadTwo(Address from) {
     return _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(from));
 }
 
+// Two from one place and two from another.
+ZELM_INLINE __m128 loadTwoAndTwo(Address first, Address second) {
+    return _mm_loadh_pi(loadTwo(first), reinterpret_cast<const __m64 *>(second));
+}
+
 // Comparisons give a mask: all bits of a lane set or none.
 ZELM_INLINE __m128 greater(__m128 a, __m128 b) {
     return _mm_cmpgt_ps(a, b);

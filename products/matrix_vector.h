@@ -236,8 +236,7 @@ ZELM_INLINE __m128 evenAndOdd(const Dense<const float> &a, unsigned row, const V
     const __m128 sums = _mm_unpacklo_ps(p, q) + _mm_unpackhi_ps(p, q);
     if constexpr (N == 4)
         return sums;
-    const __m128 rest =
-        _mm_loadh_pi(loadTwo(upper + 16), reinterpret_cast<const __m64 *>(lower + 16)) * x.lastTwo;
+    const __m128 rest = loadTwoAndTwo(upper + 16, lower + 16) * x.lastTwo;
     return sums + _mm_shuffle_ps(rest, rest, _MM_SHUFFLE(3, 1, 2, 0));
 }
 

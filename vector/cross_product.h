@@ -72,11 +72,6 @@ ZELM_INLINE ZelmStatus crossSingle(const A &a, const B &b, const D &d, FixedShap
     return ZELM_OK;
 }
 
-template <typename S>
-constexpr bool kIsOneVector = requires(const S &s) {
-    s.get(0u);
-};
-
 // Whether groups may store before later objects are read.
 template <typename S, typename D>
 ZELM_INLINE bool crossMisses(const S &s, const D &d, std::uint32_t count) {

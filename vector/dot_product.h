@@ -38,10 +38,6 @@ ZELM_INLINE Pack<T> productsAt(const LaneAddresses<T> &a, const LaneAddresses<T>
     return gather(first) * gather(second);
 }
 
-ZELM_INLINE __m128 twoOfTwo(Address first, Address second) {
-    return _mm_loadh_pi(loadTwo(first), reinterpret_cast<const __m64 *>(second));
-}
-
 template <unsigned N>
 ZELM_INLINE void productsAcross(const LaneAddresses<float> &a, const LaneAddresses<float> &b,
                                 __m128 (&out)[N]) {
@@ -52,8 +48,8 @@ ZELM_INLINE void productsAcross(const LaneAddresses<float> &a, const LaneAddress
     if constexpr (N == 5) {
         out[4] = productsAt<float>(a, b, 4 * sizeof(float));
     } else if constexpr (N == 6) {
-        const __m128 upper = twoOfTwo(a[0] + 16, a[1] + 16) * twoOfTwo(b[0] + 16, b[1] + 16);
-        const __m128 lower = twoOfTwo(a[2] + 16, a[3] + 16) * twoOfTwo(b[2] + 16, b[3] + 16);
+        const __m128 upper = loadTwoAndTwo(a[0] + 16, a[1] + 16) * loadTwoAndTwo(b[0] + 16, b[1] + 16);
+        const __m128 lower = loadTwoAndTwo(a[2] + 16, a[3] + 16) * loadTwoAndTwo(b[2] + 16, b[3] + 16);
         out[4] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 0, 2, 0));
         out[5] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
     }
@@ -75,10 +71,7 @@ ZELM_INLINE void productsAcross(const LaneAddresses<double> &a, const LaneAddres
 }
 
 template <typename S>
-constexpr bool kIsArrayOfRows =
-    decltype(std::declval<const S &>().object(0))::isDense && !requires(const S &s) {
-    s.get(0u);
-};
+constexpr bool kIsArrayOfRows = decltype(std::declval<const S &>().object(0))::isDense && !kIsOneVector<S>;
 
 // Three elements are transposed in fewer steps by the frame, where they follow each other without a gap.
 template <unsigned N, typename A, typename B, typename T>

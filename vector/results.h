@@ -52,6 +52,12 @@ ZELM_INLINE bool resultsMissGroup(const S &s, const DenseArray<T> &results, std:
 template <typename D>
 constexpr bool kLoadsInGroups = D::isSideBySide || decltype(std::declval<const D &>().object(0))::isDense;
 
+// An operand that is one vector for all objects.
+template <typename S>
+constexpr bool kIsOneVector = requires(const S &s) {
+    s.get(0u);
+};
+
 // The vectors of a group, one pack per element. An invariant is spread over the lanes once: it is asked for
 // only where no result is stored in it.
 template <unsigned N, typename S>
@@ -65,9 +71,7 @@ struct VectorsOfGroup {
 };
 
 template <unsigned N, typename S>
-requires requires(const S &s) {
-    s.get(0u);
-}
+requires kIsOneVector<S>
 struct VectorsOfGroup<N, S> {
     using T = typename S::Element;
     Pack<T> spread[N];
