@@ -2,92 +2,142 @@
 #pragma once
 
 #include "frame/operands.h"
-#include "frame/pack.h"
+#include "frame/shuffles.h"
 
 #include <utility>
 
 namespace zelm::frame {
 
-template <typename T>
-using LaneAddresses = Address[kLanes<T>];
+// One address per lane.
+template <typename V>
+using LaneAddresses = Address[kLanesOf<V>];
 
 // ---- one element of each object
 
-ZELM_INLINE __m128 gather(const LaneAddresses<float> &at) {
+ZELM_INLINE Floats4 gatherBlock(const Address *at, float) {
     return _mm_setr_ps(load<float>(at[0]), load<float>(at[1]), load<float>(at[2]), load<float>(at[3]));
 }
 
-ZELM_INLINE __m128d gather(const LaneAddresses<double> &at) {
+ZELM_INLINE Doubles2 gatherBlock(const Address *at, double) {
     return _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double *>(at[0])),
                         reinterpret_cast<const double *>(at[1]));
 }
 
-ZELM_INLINE void scatter(const LaneAddresses<float> &at, __m128 value) {
+ZELM_INLINE void scatterBlock(const Address *at, Floats4 value) {
     _mm_store_ss(reinterpret_cast<float *>(at[0]), value);
     _mm_store_ss(reinterpret_cast<float *>(at[1]), _mm_shuffle_ps(value, value, 0x55));
     _mm_store_ss(reinterpret_cast<float *>(at[2]), _mm_movehl_ps(value, value));
     _mm_store_ss(reinterpret_cast<float *>(at[3]), _mm_shuffle_ps(value, value, 0xff));
 }
 
-ZELM_INLINE void scatter(const LaneAddresses<double> &at, __m128d value) {
+ZELM_INLINE void scatterBlock(const Address *at, Doubles2 value) {
     _mm_storel_pd(reinterpret_cast<double *>(at[0]), value);
     _mm_storeh_pd(reinterpret_cast<double *>(at[1]), value);
 }
 
+template <typename V>
+ZELM_INLINE V gather(const Address *at) {
+    using T = ElementOf<V>;
+    return fromBlocks<V>(
+        [at](unsigned b) __attribute__((always_inline)) { return gatherBlock(at + b * kLanes<T>, T{}); });
+}
+
+template <typename V>
+ZELM_INLINE void scatter(const Address *at, V value) {
+    toBlocks(
+        value, [at](unsigned b, auto block)
+                   __attribute__((always_inline)) { scatterBlock(at + b * kLanes<ElementOf<V>>, block); });
+}
+
 // ---- adjacent elements of each object, transposed on the way; nothing beside them is touched
 
-ZELM_INLINE void loadFour(const LaneAddresses<float> &at, Address offset, __m128 *out) {
-    __m128 r0 = loadPack<float>(at[0] + offset), r1 = loadPack<float>(at[1] + offset);
-    __m128 r2 = loadPack<float>(at[2] + offset), r3 = loadPack<float>(at[3] + offset);
-    _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+// Block b is the 16 bytes at the first address of that block.
+template <typename V>
+ZELM_INLINE V loadBlocks(const Address *at, Address offset) {
+    using T = ElementOf<V>;
+    return fromBlocks<V>([at, offset](unsigned b) __attribute__((always_inline)) {
+        return loadPack<T>(at[b * kLanes<T>] + offset);
+    });
+}
+
+template <typename V>
+ZELM_INLINE void storeBlocks(const Address *at, Address offset, V value) {
+    toBlocks(
+        value, [at, offset](unsigned b, auto block) __attribute__((always_inline)) {
+            storePack(at[b * kLanes<ElementOf<V>>] + offset, block);
+        });
+}
+
+// Two elements of each of the first two objects of a block.
+template <typename V>
+ZELM_INLINE V loadPairs(const Address *at, Address offset) {
+    return fromBlocks<V>([at, offset](unsigned b) __attribute__((always_inline)) {
+        return loadTwoAndTwo(at[b * 4] + offset, at[b * 4 + 1] + offset);
+    });
+}
+
+template <typename V>
+ZELM_INLINE void storePairs(const Address *at, Address offset, V value) {
+    toBlocks(
+        value, [at, offset](unsigned b, auto block) __attribute__((always_inline)) {
+            _mm_storel_pi(reinterpret_cast<__m64 *>(at[b * 4] + offset), block);
+            _mm_storeh_pi(reinterpret_cast<__m64 *>(at[b * 4 + 1] + offset), block);
+        });
+}
+
+template <typename V>
+ZELM_INLINE void loadFour(const Address *at, Address offset, V *out) {
+    V r0 = loadBlocks<V>(at, offset), r1 = loadBlocks<V>(at + 1, offset);
+    V r2 = loadBlocks<V>(at + 2, offset), r3 = loadBlocks<V>(at + 3, offset);
+    transposeBlocks(r0, r1, r2, r3);
     out[0] = r0, out[1] = r1, out[2] = r2, out[3] = r3;
 }
 
-ZELM_INLINE void storeFour(const LaneAddresses<float> &at, Address offset, const __m128 *in) {
-    __m128 r0 = in[0], r1 = in[1], r2 = in[2], r3 = in[3];
-    _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
-    storePack(at[0] + offset, r0);
-    storePack(at[1] + offset, r1);
-    storePack(at[2] + offset, r2);
-    storePack(at[3] + offset, r3);
+template <typename V>
+ZELM_INLINE void storeFour(const Address *at, Address offset, const V *in) {
+    V r0 = in[0], r1 = in[1], r2 = in[2], r3 = in[3];
+    transposeBlocks(r0, r1, r2, r3);
+    storeBlocks(at, offset, r0);
+    storeBlocks(at + 1, offset, r1);
+    storeBlocks(at + 2, offset, r2);
+    storeBlocks(at + 3, offset, r3);
 }
 
-ZELM_INLINE void loadTwo(const LaneAddresses<float> &at, Address offset, __m128 *out) {
-    const __m128 a = loadTwoAndTwo(at[0] + offset, at[1] + offset);
-    const __m128 b = loadTwoAndTwo(at[2] + offset, at[3] + offset);
-    out[0] = _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0));
-    out[1] = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+template <typename V>
+ZELM_INLINE void loadTwo(const Address *at, Address offset, V *out) {
+    if constexpr (sizeof(ElementOf<V>) == 4) {
+        const V a = loadPairs<V>(at, offset), b = loadPairs<V>(at + 2, offset);
+        out[0] = shuffle<0, 2, 0, 2>(a, b);
+        out[1] = shuffle<1, 3, 1, 3>(a, b);
+    } else {
+        const V a = loadBlocks<V>(at, offset), b = loadBlocks<V>(at + 1, offset);
+        out[0] = interleaveLow(a, b);
+        out[1] = interleaveHigh(a, b);
+    }
 }
 
-ZELM_INLINE void storeTwo(const LaneAddresses<float> &at, Address offset, const __m128 *in) {
-    const auto half = [&](unsigned lane) { return reinterpret_cast<__m64 *>(at[lane] + offset); };
-    const __m128 a = _mm_unpacklo_ps(in[0], in[1]), b = _mm_unpackhi_ps(in[0], in[1]);
-    _mm_storel_pi(half(0), a);
-    _mm_storeh_pi(half(1), a);
-    _mm_storel_pi(half(2), b);
-    _mm_storeh_pi(half(3), b);
+template <typename V>
+ZELM_INLINE void storeTwo(const Address *at, Address offset, const V *in) {
+    const V low = interleaveLow(in[0], in[1]), high = interleaveHigh(in[0], in[1]);
+    if constexpr (sizeof(ElementOf<V>) == 4) {
+        storePairs(at, offset, low);
+        storePairs(at + 2, offset, high);
+    } else {
+        storeBlocks(at, offset, low);
+        storeBlocks(at + 1, offset, high);
+    }
 }
 
-ZELM_INLINE void loadTwo(const LaneAddresses<double> &at, Address offset, __m128d *out) {
-    const __m128d a = loadPack<double>(at[0] + offset), b = loadPack<double>(at[1] + offset);
-    out[0] = _mm_unpacklo_pd(a, b);
-    out[1] = _mm_unpackhi_pd(a, b);
-}
-
-ZELM_INLINE void storeTwo(const LaneAddresses<double> &at, Address offset, const __m128d *in) {
-    storePack(at[0] + offset, _mm_unpacklo_pd(in[0], in[1]));
-    storePack(at[1] + offset, _mm_unpackhi_pd(in[0], in[1]));
-}
-
-template <typename T>
-ZELM_INLINE void shifted(const LaneAddresses<T> &at, Address offset, LaneAddresses<T> &out) {
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
+template <typename V>
+ZELM_INLINE void shifted(const Address *at, Address offset, Address *out) {
+#pragma GCC unroll 16
+    for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
         out[lane] = at[lane] + offset;
 }
 
-template <typename T, unsigned N>
-ZELM_INLINE void loadAdjacent(const LaneAddresses<T> &at, Pack<T> *out) {
+template <unsigned N, typename V>
+ZELM_INLINE void loadAdjacent(const Address *at, V *out) {
+    using T = ElementOf<V>;
     constexpr unsigned four = sizeof(T) == 4 ? N / 4 * 4 : 0, two = N / 2 * 2;
     if constexpr (four != 0)
         loadFour(at, 0, out);
@@ -95,14 +145,15 @@ ZELM_INLINE void loadAdjacent(const LaneAddresses<T> &at, Pack<T> *out) {
     for (unsigned j = four; j < two; j += 2)
         loadTwo(at, j * sizeof(T), out + j);
     if constexpr (two != N) {
-        LaneAddresses<T> last;
-        shifted<T>(at, two * sizeof(T), last);
-        out[two] = gather(last);
+        LaneAddresses<V> last;
+        shifted<V>(at, two * sizeof(T), last);
+        out[two] = gather<V>(last);
     }
 }
 
-template <typename T, unsigned N>
-ZELM_INLINE void storeAdjacent(const LaneAddresses<T> &at, const Pack<T> *in) {
+template <unsigned N, typename V>
+ZELM_INLINE void storeAdjacent(const Address *at, const V *in) {
+    using T = ElementOf<V>;
     constexpr unsigned four = sizeof(T) == 4 ? N / 4 * 4 : 0, two = N / 2 * 2;
     if constexpr (four != 0)
         storeFour(at, 0, in);
@@ -110,153 +161,133 @@ ZELM_INLINE void storeAdjacent(const LaneAddresses<T> &at, const Pack<T> *in) {
     for (unsigned j = four; j < two; j += 2)
         storeTwo(at, j * sizeof(T), in + j);
     if constexpr (two != N) {
-        LaneAddresses<T> last;
-        shifted<T>(at, two * sizeof(T), last);
+        LaneAddresses<V> last;
+        shifted<V>(at, two * sizeof(T), last);
         scatter(last, in[two]);
     }
 }
 
-// ---- objects of three adjacent elements that follow each other without a gap
+// ---- objects of three adjacent elements that follow each other without a gap: a block of objects is three
+// blocks of memory
 
-ZELM_INLINE void loadThrees(Address at, __m128 *out) {
-    const __m128 r0 = loadPack<float>(at), r1 = loadPack<float>(at + 16), r2 = loadPack<float>(at + 32);
-    const __m128 a = _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 1, 3, 2));
-    const __m128 b = _mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 0, 2, 1));
-    out[0] = _mm_shuffle_ps(r0, a, _MM_SHUFFLE(2, 0, 3, 0));
-    out[1] = _mm_shuffle_ps(b, a, _MM_SHUFFLE(3, 1, 2, 0));
-    out[2] = _mm_shuffle_ps(b, r2, _MM_SHUFFLE(3, 0, 3, 1));
+template <typename V>
+ZELM_INLINE V loadThird(Address at, unsigned third) {
+    return fromBlocks<V>([at, third](unsigned b) __attribute__((always_inline)) {
+        return loadPack<ElementOf<V>>(at + (b * 3 + third) * kBlockBytes);
+    });
 }
 
-ZELM_INLINE void storeThrees(Address at, const __m128 *in) {
-    const __m128 a = _mm_shuffle_ps(in[0], in[1], _MM_SHUFFLE(2, 0, 2, 0));
-    const __m128 b = _mm_shuffle_ps(in[1], in[2], _MM_SHUFFLE(3, 1, 3, 1));
-    const __m128 c = _mm_shuffle_ps(in[2], in[0], _MM_SHUFFLE(3, 1, 2, 0));
-    storePack(at, _mm_shuffle_ps(a, c, _MM_SHUFFLE(2, 0, 2, 0)));
-    storePack(at + 16, _mm_shuffle_ps(b, a, _MM_SHUFFLE(3, 1, 2, 0)));
-    storePack(at + 32, _mm_shuffle_ps(c, b, _MM_SHUFFLE(3, 1, 3, 1)));
+template <typename V>
+ZELM_INLINE void storeThird(Address at, unsigned third, V value) {
+    toBlocks(
+        value, [at, third](unsigned b, auto block)
+                   __attribute__((always_inline)) { storePack(at + (b * 3 + third) * kBlockBytes, block); });
 }
 
-ZELM_INLINE void loadThrees(Address at, __m128d *out) {
-    const __m128d r0 = loadPack<double>(at), r1 = loadPack<double>(at + 16), r2 = loadPack<double>(at + 32);
-    out[0] = _mm_shuffle_pd(r0, r1, 2);
-    out[1] = _mm_shuffle_pd(r0, r2, 1);
-    out[2] = _mm_shuffle_pd(r1, r2, 2);
-}
-
-ZELM_INLINE void storeThrees(Address at, const __m128d *in) {
-    storePack(at, _mm_unpacklo_pd(in[0], in[1]));
-    storePack(at + 16, _mm_shuffle_pd(in[2], in[0], 2));
-    storePack(at + 32, _mm_unpackhi_pd(in[1], in[2]));
-}
-
-// ---- groups
-
-// The objects k to k + lanes - 1 of an array.
-template <typename Array>
-struct Group {
-    using T = typename Array::Element;
-    using Object = decltype(std::declval<const Array &>().object(0));
-    static constexpr unsigned lanes = kLanes<T>;
-    Object objects[lanes];
-};
-
-template <typename Array>
-ZELM_INLINE Group<Array> groupAt(const Array &array, std::uint32_t k) {
-    if constexpr (Group<Array>::lanes == 4)
-        return {{array.object(k), array.object(k + 1), array.object(k + 2), array.object(k + 3)}};
-    else
-        return {{array.object(k), array.object(k + 1)}};
-}
-
-template <typename Array>
-ZELM_INLINE bool anyEntryNull(const Array &array, std::uint32_t k) {
-    bool null = false;
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<typename Array::Element>; ++lane)
-        null |= array.entryIsNull(k + lane);
-    return null;
-}
-
-// The row of N elements with number row(lane) of each object.
-template <unsigned N, typename Array, typename RowOfLane>
-ZELM_INLINE void loadRowOfEach(const Group<Array> &group, RowOfLane row, Pack<typename Array::Element> *out) {
-    using T = typename Array::Element;
-    LaneAddresses<T> at;
-    if constexpr (Group<Array>::Object::isDense) {
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-            at[lane] = group.objects[lane].rowStart(row(lane));
-        loadAdjacent<T, N>(at, out);
+template <typename V>
+ZELM_INLINE void loadThrees(Address at, V *out) {
+    const V r0 = loadThird<V>(at, 0), r1 = loadThird<V>(at, 1), r2 = loadThird<V>(at, 2);
+    if constexpr (sizeof(ElementOf<V>) == 4) {
+        const V a = shuffle<2, 3, 1, 2>(r1, r2), b = shuffle<1, 2, 0, 1>(r0, r1);
+        out[0] = shuffle<0, 3, 0, 2>(r0, a);
+        out[1] = shuffle<0, 2, 1, 3>(b, a);
+        out[2] = shuffle<1, 3, 0, 3>(b, r2);
     } else {
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j) {
-#pragma GCC unroll 4
-            for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-                at[lane] = group.objects[lane].address(row(lane), j, N);
-            out[j] = gather(at);
-        }
+        out[0] = shuffle<0, 1>(r0, r1);
+        out[1] = shuffle<1, 0>(r0, r2);
+        out[2] = shuffle<0, 1>(r1, r2);
     }
 }
 
-template <unsigned N, typename Array, typename RowOfLane>
-ZELM_INLINE void storeRowOfEach(const Group<Array> &group, RowOfLane row,
-                                const Pack<typename Array::Element> *in) {
-    using T = typename Array::Element;
-    LaneAddresses<T> at;
-    if constexpr (Group<Array>::Object::isDense) {
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-            at[lane] = group.objects[lane].rowStart(row(lane));
-        storeAdjacent<T, N>(at, in);
+template <typename V>
+ZELM_INLINE void storeThrees(Address at, const V *in) {
+    if constexpr (sizeof(ElementOf<V>) == 4) {
+        const V a = shuffle<0, 2, 0, 2>(in[0], in[1]), b = shuffle<1, 3, 1, 3>(in[1], in[2]);
+        const V c = shuffle<0, 2, 1, 3>(in[2], in[0]);
+        storeThird(at, 0, shuffle<0, 2, 0, 2>(a, c));
+        storeThird(at, 1, shuffle<0, 2, 1, 3>(b, a));
+        storeThird(at, 2, shuffle<1, 3, 1, 3>(c, b));
     } else {
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j) {
-#pragma GCC unroll 4
-            for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-                at[lane] = group.objects[lane].address(row(lane), j, N);
-            scatter(at, in[j]);
-        }
+        storeThird(at, 0, interleaveLow(in[0], in[1]));
+        storeThird(at, 1, shuffle<0, 1>(in[2], in[0]));
+        storeThird(at, 2, interleaveHigh(in[1], in[2]));
     }
 }
+
+// ---- rows of groups
 
 template <typename Array>
 constexpr bool kIsDenseArray = false;
 template <typename T>
 constexpr bool kIsDenseArray<DenseArray<T>> = true;
 
-template <typename Array>
-ZELM_INLINE bool followWithoutGap(const Group<Array> &group) {
-    return group.objects[1].start - group.objects[0].start == 3 * sizeof(typename Array::Element);
-}
-
-// Row i of each object.
-template <unsigned N, typename Array>
-ZELM_INLINE void loadRow(const Group<Array> &group, unsigned i, Pack<typename Array::Element> *out) {
-    if constexpr (Array::isSideBySide) {
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            out[j] = loadPack<typename Array::Element>(group.objects[0].address(i, j, N));
+// The row of N elements with number row(lane) of each of the objects from k on.
+template <unsigned N, typename V, typename Array, typename RowOfLane>
+ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, V *out) {
+    LaneAddresses<V> at;
+    if constexpr (decltype(array.object(0))::isDense) {
+#pragma GCC unroll 16
+        for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+            at[lane] = array.object(k + lane).rowStart(row(lane));
+        loadAdjacent<N>(at, out);
     } else {
-        if constexpr (N == 3 && kIsDenseArray<Array>)
-            if (followWithoutGap(group))
-                return loadThrees(group.objects[0].rowStart(i), out);
-        loadRowOfEach<N>(
-            group, [i](unsigned) { return i; }, out);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j) {
+#pragma GCC unroll 16
+            for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+                at[lane] = array.object(k + lane).address(row(lane), j, N);
+            out[j] = gather<V>(at);
+        }
     }
 }
 
-template <unsigned N, typename Array>
-ZELM_INLINE void storeRow(const Group<Array> &group, unsigned i, const Pack<typename Array::Element> *in) {
+template <unsigned N, typename V, typename Array, typename RowOfLane>
+ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, const V *in) {
+    LaneAddresses<V> at;
+    if constexpr (decltype(array.object(0))::isDense) {
+#pragma GCC unroll 16
+        for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+            at[lane] = array.object(k + lane).rowStart(row(lane));
+        storeAdjacent<N>(at, in);
+    } else {
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j) {
+#pragma GCC unroll 16
+            for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+                at[lane] = array.object(k + lane).address(row(lane), j, N);
+            scatter(at, in[j]);
+        }
+    }
+}
+
+// Row i, of N elements, of each of the objects from k on.
+template <unsigned N, typename V, typename Array>
+ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
     if constexpr (Array::isSideBySide) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            storePack(group.objects[0].address(i, j, N), in[j]);
+            out[j] = loadAs<V>(array.object(k).address(i, j, N));
     } else {
         if constexpr (N == 3 && kIsDenseArray<Array>)
-            if (followWithoutGap(group))
-                return storeThrees(group.objects[0].rowStart(i), in);
+            if (array.objStride == 3 * sizeof(ElementOf<V>))
+                return loadThrees(array.object(k).rowStart(i), out);
+        loadRowOfEach<N>(
+            array, k, [i](unsigned) { return i; }, out);
+    }
+}
+
+template <unsigned N, typename V, typename Array>
+ZELM_INLINE void storeRow(const Array &array, std::uint32_t k, unsigned i, const V *in) {
+    if constexpr (Array::isSideBySide) {
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            storePack(array.object(k).address(i, j, N), in[j]);
+    } else {
+        if constexpr (N == 3 && kIsDenseArray<Array>)
+            if (array.objStride == 3 * sizeof(ElementOf<V>))
+                return storeThrees(array.object(k).rowStart(i), in);
         storeRowOfEach<N>(
-            group, [i](unsigned) { return i; }, in);
+            array, k, [i](unsigned) { return i; }, in);
     }
 }
 

@@ -25,6 +25,11 @@ ZELM_INLINE Address addressOf(const void *pointer) {
     return reinterpret_cast<Address>(pointer);
 }
 
+// What some members ask of addresses and strides. It is part of what they do, and no width changes it.
+ZELM_INLINE constexpr bool isMultipleOf16(Address address) {
+    return address % 16 == 0;
+}
+
 // An element at any address: on 32-bit x86 the alignment of a double is not a multiple of its size.
 template <typename T>
 struct Anywhere {

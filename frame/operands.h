@@ -15,6 +15,8 @@
 
 #include "frame/memory.h"
 
+#include <utility>
+
 namespace zelm::frame {
 
 // The dimension of a vector or of a square matrix: part of the name, or an argument.
@@ -139,6 +141,8 @@ struct DenseArray : WithoutTable {
     static constexpr Address elemStride = sizeof(T);
     ZELM_INLINE DenseArray(T *pointer, std::int32_t obj, std::int32_t row)
         : start(addressOf(pointer)), objStride(distance(obj)), rowStride(distance(row)) {}
+    ZELM_INLINE DenseArray(Address at, Address obj, Address row)
+        : start(at), objStride(obj), rowStride(row) {}
     ZELM_INLINE bool isNull() const { return start == 0; }
     ZELM_INLINE Dense<T> object(std::uint32_t k) const { return {start + k * objStride, rowStride}; }
 };
@@ -164,6 +168,7 @@ struct PackedTableArray : TableEntries<T> {
     static constexpr Address objStride = sizeof(T);
     ZELM_INLINE PackedTableArray(T *const *entries, std::int32_t bytes)
         : TableEntries<T>(entries), shift(distance(bytes)) {}
+    ZELM_INLINE PackedTableArray(T *const *entries, Address bytes) : TableEntries<T>(entries), shift(bytes) {}
     ZELM_INLINE Table<T> object(std::uint32_t k) const { return {this->table, shift + k * sizeof(T)}; }
 };
 
@@ -185,6 +190,7 @@ struct ListEntries {
     T *const *table;
     Address shift;
     ZELM_INLINE ListEntries(T *const *entries, std::int32_t bytes) : table(entries), shift(distance(bytes)) {}
+    ZELM_INLINE ListEntries(T *const *entries, Address bytes) : table(entries), shift(bytes) {}
     ZELM_INLINE bool isNull() const { return table == nullptr; }
     static constexpr bool hasNullEntry(Address) { return false; }
     ZELM_INLINE bool entryIsNull(std::uint32_t k) const { return table[k] == nullptr; }
@@ -198,6 +204,8 @@ struct DenseList : ListEntries<T> {
     static constexpr Address elemStride = sizeof(T);
     ZELM_INLINE DenseList(T *const *entries, std::int32_t bytes, std::int32_t row)
         : ListEntries<T>(entries, bytes), rowStride(distance(row)) {}
+    ZELM_INLINE DenseList(T *const *entries, Address bytes, Address row)
+        : ListEntries<T>(entries, bytes), rowStride(row) {}
     ZELM_INLINE Dense<T> object(std::uint32_t k) const { return {this->objectStart(k), rowStride}; }
 };
 
@@ -211,5 +219,10 @@ struct StridedList : ListEntries<T> {
         return {this->objectStart(k), rowStride, elemStride};
     }
 };
+
+// Whether an operand has an object of its own for each k: one that is its own object serves them all.
+template <typename Operand>
+constexpr bool kIsArray =
+    !std::is_same_v<std::remove_cvref_t<decltype(std::declval<const Operand &>().object(0))>, Operand>;
 
 } // namespace zelm::frame

@@ -1,153 +1,167 @@
 // Several elements in one register: the packs that batch paths are written over.
 //
 // A pack is the compiler's own vector type, so that a + b reads the same for elements and for packs and
-// rounds each lane as one element is rounded. Memory access is unaligned throughout.
+// rounds each lane as one element is rounded. A pack consists of blocks of 16 bytes; shuffles stay inside a
+// block, so that they are the same for every width. Memory access is unaligned throughout.
 #pragma once
 
 #include "frame/memory.h"
 
+#if defined(__AVX__)
+#include <immintrin.h>
+#else
 #include <pmmintrin.h>
+#endif
 
 namespace zelm::frame {
 
-constexpr unsigned kPackBytes = 16;
-template <typename T>
-constexpr unsigned kLanes = kPackBytes / sizeof(T);
+constexpr unsigned kBlockBytes = 16;
 
-template <typename T>
-struct PackOf;
-template <>
-struct PackOf<float> {
-    using type = __m128;
+// The widest pack that this build has registers for. How much of it each class of kernels takes stands in
+// frame/widths.h.
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+constexpr unsigned kWidestBytes = 64;
+#elif defined(__AVX2__)
+constexpr unsigned kWidestBytes = 32;
+#else
+constexpr unsigned kWidestBytes = 16;
+#endif
+
+// Types of our own, which take part in templates; the processor's types carry an attribute that does not.
+template <typename T, unsigned Bytes>
+struct PackType {
+    typedef T type __attribute__((vector_size(Bytes)));
+};
+template <typename T, unsigned Bytes = kBlockBytes>
+using Pack = typename PackType<T, Bytes>::type;
+using Floats4 = Pack<float, 16>;
+using Doubles2 = Pack<double, 16>;
+using Floats8 = Pack<float, 32>;
+using Doubles4 = Pack<double, 32>;
+using Floats16 = Pack<float, 64>;
+using Doubles8 = Pack<double, 64>;
+
+// The element type of a pack, and of an element.
+template <typename V>
+struct ElementType {
+    using type = std::remove_cvref_t<decltype(V{}[0])>;
 };
 template <>
-struct PackOf<double> {
-    using type = __m128d;
+struct ElementType<float> {
+    using type = float;
 };
-template <typename T>
-using Pack = typename PackOf<T>::type;
+template <>
+struct ElementType<double> {
+    using type = double;
+};
+template <typename V>
+using ElementOf = typename ElementType<V>::type;
 
-ZELM_INLINE bool isMultipleOf16(Address address) {
-    return address % kPackBytes == 0;
+template <typename V>
+constexpr unsigned kLanesOf = sizeof(V) / sizeof(ElementOf<V>);
+template <typename V>
+constexpr unsigned kBlocksOf = sizeof(V) / kBlockBytes;
+// The lanes of one block.
+template <typename T>
+constexpr unsigned kLanes = kBlockBytes / sizeof(T);
+
+// ---- memory
+
+// As memory a pack is so many elements and no alias of anything else.
+template <typename V>
+struct AnywherePack {
+    typedef ElementOf<V> type __attribute__((vector_size(sizeof(V)), aligned(1)));
+};
+
+template <typename V>
+ZELM_INLINE V loadAs(Address from) {
+    return (V) * reinterpret_cast<const typename AnywherePack<V>::type *>(from);
 }
 
 template <typename T>
 ZELM_INLINE Pack<T> loadPack(Address from) {
-    if constexpr (sizeof(T) == 4)
-        return _mm_loadu_ps(reinterpret_cast<const float *>(from));
-    else
-        return _mm_loadu_pd(reinterpret_cast<const double *>(from));
+    return loadAs<Pack<T>>(from);
 }
 
-ZELM_INLINE void storePack(Address to, __m128 value) {
-    _mm_storeu_ps(reinterpret_cast<float *>(to), value);
+template <typename V>
+ZELM_INLINE void storePack(Address to, V value) {
+    *reinterpret_cast<typename AnywherePack<V>::type *>(to) = (typename AnywherePack<V>::type)value;
 }
 
-ZELM_INLINE void storePack(Address to, __m128d value) {
-    _mm_storeu_pd(reinterpret_cast<double *>(to), value);
+// ---- one value in all lanes, or in the first
+
+template <typename V>
+ZELM_INLINE V spread(ElementOf<V> value) {
+    if constexpr (std::is_floating_point_v<V>)
+        return value;
+    else if constexpr (std::is_same_v<V, Floats4>)
+        return _mm_set1_ps(value);
+    else if constexpr (std::is_same_v<V, Doubles2>)
+        return _mm_set1_pd(value);
+#if defined(__AVX2__)
+    else if constexpr (std::is_same_v<V, Floats8>)
+        return _mm256_set1_ps(value);
+    else if constexpr (std::is_same_v<V, Doubles4>)
+        return _mm256_set1_pd(value);
+#endif
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+    else if constexpr (std::is_same_v<V, Floats16>)
+        return _mm512_set1_ps(value);
+    else if constexpr (std::is_same_v<V, Doubles8>)
+        return _mm512_set1_pd(value);
+#endif
 }
 
-ZELM_INLINE __m128 broadcast(float value) {
-    return _mm_set1_ps(value);
-}
-
-ZELM_INLINE __m128d broadcast(double value) {
-    return _mm_set1_pd(value);
+template <typename T>
+ZELM_INLINE Pack<T> broadcast(T value) {
+    return spread<Pack<T>>(value);
 }
 
 // The first lane, and a pack that is zero but for it.
-ZELM_INLINE float firstLane(__m128 a) {
+template <typename V>
+ZELM_INLINE ElementOf<V> firstLane(V a) {
     return a[0];
 }
-ZELM_INLINE double firstLane(__m128d a) {
-    return a[0];
-}
-ZELM_INLINE __m128 inFirstLane(float value) {
+ZELM_INLINE Floats4 inFirstLane(float value) {
     return _mm_set_ss(value);
 }
-ZELM_INLINE __m128d inFirstLane(double value) {
+ZELM_INLINE Doubles2 inFirstLane(double value) {
     return _mm_set_sd(value);
 }
 
 // Two adjacent elements in the first lanes, the others zero.
-ZELM_INLINE __m128 loadTwo(Address from) {
+ZELM_INLINE Floats4 loadTwo(Address from) {
     return _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64 *>(from));
 }
 
 // Two from one place and two from another.
-ZELM_INLINE __m128 loadTwoAndTwo(Address first, Address second) {
+ZELM_INLINE Floats4 loadTwoAndTwo(Address first, Address second) {
     return _mm_loadh_pi(loadTwo(first), reinterpret_cast<const __m64 *>(second));
 }
 
-// Comparisons give a mask: all bits of a lane set or none.
-ZELM_INLINE __m128 greater(__m128 a, __m128 b) {
-    return _mm_cmpgt_ps(a, b);
-}
-ZELM_INLINE __m128d greater(__m128d a, __m128d b) {
-    return _mm_cmpgt_pd(a, b);
-}
-ZELM_INLINE __m128 notGreater(__m128 a, __m128 b) {
-    return _mm_cmpngt_ps(a, b);
-}
-ZELM_INLINE __m128d notGreater(__m128d a, __m128d b) {
-    return _mm_cmpngt_pd(a, b);
-}
-ZELM_INLINE __m128 notGreaterEqual(__m128 a, __m128 b) {
-    return _mm_cmpnge_ps(a, b);
-}
-ZELM_INLINE __m128d notGreaterEqual(__m128d a, __m128d b) {
-    return _mm_cmpnge_pd(a, b);
-}
-ZELM_INLINE __m128 equal(__m128 a, __m128 b) {
-    return _mm_cmpeq_ps(a, b);
-}
-ZELM_INLINE __m128d equal(__m128d a, __m128d b) {
-    return _mm_cmpeq_pd(a, b);
-}
-ZELM_INLINE __m128 notEqual(__m128 a, __m128 b) {
-    return _mm_cmpneq_ps(a, b);
-}
-ZELM_INLINE __m128d notEqual(__m128d a, __m128d b) {
-    return _mm_cmpneq_pd(a, b);
-}
+// ---- bits
 
-ZELM_INLINE __m128 bitAnd(__m128 a, __m128 b) {
-    return _mm_and_ps(a, b);
-}
-ZELM_INLINE __m128d bitAnd(__m128d a, __m128d b) {
-    return _mm_and_pd(a, b);
-}
-ZELM_INLINE __m128 bitOr(__m128 a, __m128 b) {
-    return _mm_or_ps(a, b);
-}
-ZELM_INLINE __m128d bitOr(__m128d a, __m128d b) {
-    return _mm_or_pd(a, b);
-}
-ZELM_INLINE __m128 bitXor(__m128 a, __m128 b) {
-    return _mm_xor_ps(a, b);
-}
-ZELM_INLINE __m128d bitXor(__m128d a, __m128d b) {
-    return _mm_xor_pd(a, b);
-}
-ZELM_INLINE __m128 bitAndNot(__m128 mask, __m128 value) {
-    return _mm_andnot_ps(mask, value);
-}
-ZELM_INLINE __m128d bitAndNot(__m128d mask, __m128d value) {
-    return _mm_andnot_pd(mask, value);
-}
-
-ZELM_INLINE bool anyLane(__m128 mask) {
-    return _mm_movemask_ps(mask) != 0;
-}
-ZELM_INLINE bool anyLane(__m128d mask) {
-    return _mm_movemask_pd(mask) != 0;
-}
-
-// a where the mask is set, b elsewhere.
 template <typename V>
-ZELM_INLINE V select(V mask, V a, V b) {
-    return bitOr(bitAnd(mask, a), bitAndNot(mask, b));
+struct BitsType {
+    typedef long long type __attribute__((vector_size(sizeof(V))));
+};
+template <typename V>
+using BitsOf = typename BitsType<V>::type;
+
+template <typename V>
+ZELM_INLINE V bitAnd(V a, V b) {
+    return (V)((BitsOf<V>)a & (BitsOf<V>)b);
 }
+template <typename V>
+ZELM_INLINE V bitOr(V a, V b) {
+    return (V)((BitsOf<V>)a | (BitsOf<V>)b);
+}
+template <typename V>
+ZELM_INLINE V bitXor(V a, V b) {
+    return (V)((BitsOf<V>)a ^ (BitsOf<V>)b);
+}
+
+// ---- arithmetic that has no operator
 
 ZELM_INLINE float squareRoot(float a) {
     return __builtin_sqrtf(a);
@@ -155,12 +169,28 @@ ZELM_INLINE float squareRoot(float a) {
 ZELM_INLINE double squareRoot(double a) {
     return __builtin_sqrt(a);
 }
-ZELM_INLINE __m128 squareRoot(__m128 a) {
+ZELM_INLINE Floats4 squareRoot(Floats4 a) {
     return _mm_sqrt_ps(a);
 }
-ZELM_INLINE __m128d squareRoot(__m128d a) {
+ZELM_INLINE Doubles2 squareRoot(Doubles2 a) {
     return _mm_sqrt_pd(a);
 }
+#if defined(__AVX2__)
+ZELM_INLINE Floats8 squareRoot(Floats8 a) {
+    return _mm256_sqrt_ps(a);
+}
+ZELM_INLINE Doubles4 squareRoot(Doubles4 a) {
+    return _mm256_sqrt_pd(a);
+}
+#endif
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+ZELM_INLINE Floats16 squareRoot(Floats16 a) {
+    return _mm512_sqrt_ps(a);
+}
+ZELM_INLINE Doubles8 squareRoot(Doubles8 a) {
+    return _mm512_sqrt_pd(a);
+}
+#endif
 
 ZELM_INLINE float magnitude(float a) {
     return __builtin_fabsf(a);
@@ -168,19 +198,9 @@ ZELM_INLINE float magnitude(float a) {
 ZELM_INLINE double magnitude(double a) {
     return __builtin_fabs(a);
 }
-ZELM_INLINE __m128 magnitude(__m128 a) {
-    return _mm_andnot_ps(_mm_set1_ps(-0.0f), a);
-}
-ZELM_INLINE __m128d magnitude(__m128d a) {
-    return _mm_andnot_pd(_mm_set1_pd(-0.0), a);
-}
-
-// Exchanges a and b in the lanes of the mask.
 template <typename V>
-ZELM_INLINE void exchange(V mask, V &a, V &b) {
-    const V difference = bitAnd(mask, bitXor(a, b));
-    a = bitXor(a, difference);
-    b = bitXor(b, difference);
+ZELM_INLINE V magnitude(V a) {
+    return (V)(~(BitsOf<V>)spread<V>(ElementOf<V>{-0.0f}) & (BitsOf<V>)a);
 }
 
 } // namespace zelm::frame

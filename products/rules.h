@@ -42,10 +42,6 @@ constexpr DimensionPair kPairs[2][2] = {
 // mma and mama ask for another pair to be equal.
 constexpr DimensionPair kEqualPairOfStoredArrays = {&MatrixSizes::height1, &MatrixSizes::width2};
 
-template <typename Operand>
-constexpr bool kIsArray =
-    !std::is_same_v<std::remove_cvref_t<decltype(std::declval<Operand>().object(0))>, Operand>;
-
 // What the descriptor says.
 template <typename A, typename B>
 struct Descriptor {

@@ -72,62 +72,128 @@ ZELM_INLINE ZelmStatus crossSingle(const A &a, const B &b, const D &d, FixedShap
     return ZELM_OK;
 }
 
-// Whether groups may store before later objects are read.
-template <typename S, typename D>
-ZELM_INLINE bool crossMisses(const S &s, const D &d, std::uint32_t count) {
-    return (coincide(s, d) && D::isSideBySide == false) || isUntouched(s, 1, 3, d, 1, 3, count);
+// An array or an invariant as the lines read it.
+template <typename S>
+ZELM_INLINE auto asLinesRead(const S &s) {
+    if constexpr (kIsArray<S>)
+        return s;
+    else
+        return WithNegative<typename S::Element>(s);
+}
+template <typename S>
+ZELM_INLINE auto objectOf(const S &s, std::uint32_t k) {
+    return s.object(k);
+}
+template <typename T>
+ZELM_INLINE const WithNegative<T> &objectOf(const WithNegative<T> &s, std::uint32_t) {
+    return s;
+}
+
+// The vectors of a group beside their negatives, where the formula has them.
+template <typename V>
+struct CrossFactors {
+    V element[3], negative[3];
+};
+template <typename V, typename S>
+ZELM_INLINE CrossFactors<V> factorsOf(const S &s, std::uint32_t k) {
+    CrossFactors<V> f;
+    loadRow<3>(s, k, 0, f.element);
+    return f;
+}
+template <typename V, typename T>
+ZELM_INLINE CrossFactors<V> factorsOf(const WithNegative<T> &s, std::uint32_t) {
+    CrossFactors<V> f;
+#pragma GCC unroll 3
+    for (unsigned j = 0; j < 3; ++j) {
+        f.element[j] = spread<V>(s.element[j]);
+        f.negative[j] = spread<V>(s.negative[j]);
+    }
+    return f;
+}
+
+template <typename S>
+constexpr bool kHasNegative = false;
+template <typename T>
+constexpr bool kHasNegative<WithNegative<T>> = true;
+
+// The lines on the packs of a group.
+template <bool negativeA, bool negativeB, typename V>
+ZELM_INLINE void crossLinesOf(const CrossFactors<V> &a, const CrossFactors<V> &b, V (&result)[3]) {
+#pragma GCC unroll 3
+    for (unsigned j = 0; j < 3; ++j) {
+        const unsigned p = (j + 1) % 3, q = (j + 2) % 3;
+        if constexpr (negativeB)
+            result[j] = a.element[p] * b.element[q] + b.negative[p] * a.element[q];
+        else if constexpr (negativeA)
+            result[j] = a.element[p] * b.element[q] + a.negative[q] * b.element[p];
+        else
+            result[j] = a.element[p] * b.element[q] - a.element[q] * b.element[p];
+    }
+}
+
+// The standard and L forms.
+template <typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        crossReadingFirst(a.object(k), b.object(k), d.object(k));
+        return ZELM_OK;
+    };
+    // Of a list's vectors the null tests take most of the time.
+    if constexpr (D::isList) {
+        return forEachObject(count, one, a, b, d);
+    } else {
+        const Vectors<3, A> firsts(a);
+        const Vectors<3, B> seconds(b);
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            typename decltype(pack)::Pack first[3], second[3], result[3];
+            firsts.load(k, first);
+            seconds.load(k, second);
+            crossOf(first, second, result);
+            storeRow<3>(d, k, 0, result);
+            return true;
+        };
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(d, 1, 3),
+                                              reads(a, 1, 3, InPlace::Yes), reads(b, 1, 3, InPlace::Yes));
+    }
+}
+
+// All other forms: a line reads what it needs when the lines before it are stored.
+template <typename A, typename B, typename D>
+ZELM_INLINE ZelmStatus crossByLines(const A &a, const B &b, const D &d, std::uint32_t count) {
+    const auto first = asLinesRead(a);
+    const auto second = asLinesRead(b);
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
+        return ZELM_OK;
+    };
+    if constexpr (D::isList || !kLoadsInGroups<D>) {
+        return forEachObject(count, one, a, b, d);
+    } else {
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            using V = typename decltype(pack)::Pack;
+            V result[3];
+            crossLinesOf<kHasNegative<decltype(first)>, kHasNegative<decltype(second)>>(
+                factorsOf<V>(first, k), factorsOf<V>(second, k), result);
+            storeRow<3>(d, k, 0, result);
+            return true;
+        };
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(d, 1, 3), reads(a, 1, 3),
+                                              reads(b, 1, 3));
+    }
 }
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape<1, 3>, std::uint32_t count) {
-    using T = typename D::Element;
     if (ZelmStatus status = checkArray(false, count, tested(a, 3), tested(b, 3), tested(d, 3));
         status != kProceed)
         return status;
-    const auto spreadNegative = [](const auto &s) {
-        if constexpr (kIsOneVector<std::remove_cvref_t<decltype(s)>>)
-            return WithNegative<T>(s);
-        else
-            return s;
-    };
-    constexpr bool isDense = decltype(d.object(0))::isDense;
-    if constexpr (isDense) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            crossReadingFirst(a.object(k), b.object(k), d.object(k));
-            return ZELM_OK;
-        };
-        if constexpr (!D::isList) {
-            if (count >= kResultGroupsCount && count <= kMostObjectsInRange &&
-                elementsAreApart(d, 1, 3, count) && crossMisses(a, d, count) && crossMisses(b, d, count)) {
-                const VectorsOfGroup<3, A> firsts(a);
-                const VectorsOfGroup<3, B> seconds(b);
-                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                    Pack<T> first[3], second[3], result[3];
-                    firsts.load(k, first);
-                    seconds.load(k, second);
-                    crossOf(first, second, result);
-                    storeRow<3>(groupAt(d, k), 0, result);
-                    return true;
-                };
-                return forEachGroup<kLanes<T>>(count, group, one, a, b, d);
-            }
-        }
-        return forEachObject(count, one, a, b, d);
-    } else {
-        const auto first = spreadNegative(a);
-        const auto second = spreadNegative(b);
-        const auto objectOf = [](const auto &s, std::uint32_t k) {
-            if constexpr (requires { s.negative; })
-                return s;
-            else
-                return s.object(k);
-        };
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
-            return ZELM_OK;
-        };
-        return forEachObject(count, one, a, b, d);
-    }
+    if constexpr (decltype(d.object(0))::isDense)
+        return crossDense(a, b, d, count);
+    else
+        return withPlainest(
+            [&](const auto &...plain)
+                __attribute__((always_inline)) { return crossByLines(plain..., count); },
+            a, b, d);
 }
 
 } // namespace zelm::vector

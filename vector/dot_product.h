@@ -30,63 +30,60 @@ ZELM_INLINE auto dotOfLength(const A &a, const B &b, std::uint32_t length) {
 // ---- the products of a group of pairs, one pack per element: multiplied object by object and then
 // transposed, instead of both operands
 
-template <typename T>
-ZELM_INLINE Pack<T> productsAt(const LaneAddresses<T> &a, const LaneAddresses<T> &b, Address offset) {
-    LaneAddresses<T> first, second;
-    shifted<T>(a, offset, first);
-    shifted<T>(b, offset, second);
-    return gather(first) * gather(second);
+template <typename V>
+ZELM_INLINE V productsAt(const Address *a, const Address *b, Address offset) {
+    LaneAddresses<V> first, second;
+    shifted<V>(a, offset, first);
+    shifted<V>(b, offset, second);
+    return gather<V>(first) * gather<V>(second);
 }
 
-template <unsigned N>
-ZELM_INLINE void productsAcross(const LaneAddresses<float> &a, const LaneAddresses<float> &b,
-                                __m128 (&out)[N]) {
+template <unsigned N, typename V>
+ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N]) {
+    const auto blocks = [a, b](unsigned object, Address offset) __attribute__((always_inline)) {
+        return loadBlocks<V>(a + object, offset) * loadBlocks<V>(b + object, offset);
+    };
+    constexpr unsigned lanes = kLanes<ElementOf<V>>;
+    if constexpr (lanes == 4) {
 #pragma GCC unroll 4
-    for (unsigned lane = 0; lane < 4; ++lane)
-        out[lane] = loadPack<float>(a[lane]) * loadPack<float>(b[lane]);
-    _MM_TRANSPOSE4_PS(out[0], out[1], out[2], out[3]);
-    if constexpr (N == 5) {
-        out[4] = productsAt<float>(a, b, 4 * sizeof(float));
-    } else if constexpr (N == 6) {
-        const __m128 upper = loadTwoAndTwo(a[0] + 16, a[1] + 16) * loadTwoAndTwo(b[0] + 16, b[1] + 16);
-        const __m128 lower = loadTwoAndTwo(a[2] + 16, a[3] + 16) * loadTwoAndTwo(b[2] + 16, b[3] + 16);
-        out[4] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(2, 0, 2, 0));
-        out[5] = _mm_shuffle_ps(upper, lower, _MM_SHUFFLE(3, 1, 3, 1));
-    }
-}
-
-template <unsigned N>
-ZELM_INLINE void productsAcross(const LaneAddresses<double> &a, const LaneAddresses<double> &b,
-                                __m128d (&out)[N]) {
+        for (unsigned object = 0; object < 4; ++object)
+            out[object] = blocks(object, 0);
+        transposeBlocks(out[0], out[1], out[2], out[3]);
+        if constexpr (N == 6) {
+            const V upper = loadPairs<V>(a, 16) * loadPairs<V>(b, 16);
+            const V lower = loadPairs<V>(a + 2, 16) * loadPairs<V>(b + 2, 16);
+            out[4] = shuffle<0, 2, 0, 2>(upper, lower);
+            out[5] = shuffle<1, 3, 1, 3>(upper, lower);
+        }
+    } else {
 #pragma GCC unroll 3
-    for (unsigned j = 0; j + 1 < N; j += 2) {
-        const Address offset = j * sizeof(double);
-        const __m128d first = loadPack<double>(a[0] + offset) * loadPack<double>(b[0] + offset);
-        const __m128d second = loadPack<double>(a[1] + offset) * loadPack<double>(b[1] + offset);
-        out[j] = _mm_unpacklo_pd(first, second);
-        out[j + 1] = _mm_unpackhi_pd(first, second);
+        for (unsigned j = 0; j + 1 < N; j += 2) {
+            const V first = blocks(0, j * sizeof(double)), second = blocks(1, j * sizeof(double));
+            out[j] = interleaveLow(first, second);
+            out[j + 1] = interleaveHigh(first, second);
+        }
     }
     if constexpr (N % 2 == 1)
-        out[N - 1] = productsAt<double>(a, b, (N - 1) * sizeof(double));
+        out[N - 1] = productsAt<V>(a, b, (N - 1) * sizeof(ElementOf<V>));
 }
 
 template <typename S>
-constexpr bool kIsArrayOfRows = decltype(std::declval<const S &>().object(0))::isDense && !kIsOneVector<S>;
+constexpr bool kIsArrayOfRows = kIsArray<S> && decltype(std::declval<const S &>().object(0))::isDense;
 
 // Three elements are transposed in fewer steps by the frame, where they follow each other without a gap.
-template <unsigned N, typename A, typename B, typename T>
-ZELM_INLINE void productsOfGroup(const VectorsOfGroup<N, A> &a, const VectorsOfGroup<N, B> &b,
-                                 std::uint32_t k, Pack<T> (&products)[N]) {
+template <unsigned N, typename V, typename A, typename B>
+ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,
+                                 V (&products)[N]) {
     if constexpr (N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
-        LaneAddresses<T> first, second;
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < kLanes<T>; ++lane) {
+        LaneAddresses<V> first, second;
+#pragma GCC unroll 16
+        for (unsigned lane = 0; lane < kLanesOf<V>; ++lane) {
             first[lane] = a.operand.object(k + lane).start;
             second[lane] = b.operand.object(k + lane).start;
         }
         productsAcross<N>(first, second, products);
     } else {
-        Pack<T> firsts[N], seconds[N];
+        V firsts[N], seconds[N];
         a.load(k, firsts);
         b.load(k, seconds);
 #pragma GCC unroll 6
@@ -118,38 +115,39 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 // ---- arrays
 
 template <Sum order, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
+ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
-    if constexpr (!Shape::isFixed) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        if constexpr (Shape::isFixed)
+            results.object(k).set(0, dotOf<order, Shape::columns()>(a.object(k), b.object(k)));
+        else
             results.object(k).set(0, dotOfLength(a.object(k), b.object(k), shape.columns()));
-            return ZELM_OK;
-        };
+        return ZELM_OK;
+    };
+    // Two null tests and a short sum cost less than collecting the objects of a list does.
+    if constexpr (!Shape::isFixed || !kLoadsInGroups<A> || A::isList) {
         return forEachObject(count, one, a, b);
     } else {
         constexpr unsigned N = Shape::columns();
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            results.object(k).set(0, dotOf<order, N>(a.object(k), b.object(k)));
-            return ZELM_OK;
+        const Vectors<N, A> firsts(a);
+        const Vectors<N, B> seconds(b);
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            typename decltype(pack)::Pack products[N];
+            productsOfGroup<N>(firsts, seconds, k, products);
+            storePack(results.object(k).start, sumOf<order>(products));
+            return true;
         };
-        if constexpr (kLoadsInGroups<A>) {
-            if (count >= kResultGroupsCount && resultsMissSource<1, N>(a, results, count) &&
-                resultsMissSource<1, N>(b, results, count)) {
-                const VectorsOfGroup<N, A> firsts(a);
-                const VectorsOfGroup<N, B> seconds(b);
-                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                    if (!resultsMissGroup<1, N>(a, results, k) || !resultsMissGroup<1, N>(b, results, k))
-                        return false;
-                    Pack<T> products[N];
-                    productsOfGroup<N, A, B, T>(firsts, seconds, k, products);
-                    storePack(results.object(k).start, sumOf<order>(products));
-                    return true;
-                };
-                return forEachGroup<kLanes<T>>(count, group, one, a, b);
-            }
-        }
-        return forEachObject(count, one, a, b);
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(a, 1, N), reads(b, 1, N));
     }
+}
+
+template <Sum order, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
+    return withPlainest(
+        [&](const auto &first, const auto &second)
+            __attribute__((always_inline)) { return dotInOrder<order>(first, second, dst, shape, count); },
+        a, b);
 }
 
 template <typename A, typename B, typename T, typename Shape>

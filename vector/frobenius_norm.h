@@ -38,8 +38,8 @@ ZELM_INLINE Pack<T> squaresAt(const Dense<const T> &s, unsigned i, unsigned j) {
 }
 
 // Two 32-bit squares in the first lanes.
-ZELM_INLINE __m128 twoSquaresAt(const Dense<const float> &s, unsigned i, unsigned j) {
-    const __m128 elements = loadTwo(s.rowStart(i) + j * sizeof(float));
+ZELM_INLINE Floats4 twoSquaresAt(const Dense<const float> &s, unsigned i, unsigned j) {
+    const Floats4 elements = loadTwo(s.rowStart(i) + j * sizeof(float));
     return elements * elements;
 }
 
@@ -82,17 +82,17 @@ ZELM_INLINE T columnSumAt(const Dense<const T> &s, unsigned j) {
 }
 
 // (lane 0 + lane 2) + (lane 1 + lane 3).
-ZELM_INLINE float evenThenOdd(__m128 four) {
-    const __m128 two = four + _mm_movehl_ps(four, four);
+ZELM_INLINE float evenThenOdd(Floats4 four) {
+    const Floats4 two = four + _mm_movehl_ps(four, four);
     return firstLane(two) + two[1];
 }
 
 ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<3, 3>) {
-    __m128 squares[3];
+    Floats4 squares[3];
 #pragma GCC unroll 3
     for (unsigned i = 0; i < 3; ++i)
         squares[i] = twoSquaresAt(s, i, 0);
-    const __m128 two = columnSum(squares);
+    const Floats4 two = columnSum(squares);
     return (firstLane(two) + two[1]) + columnSumAt<3>(s, 2);
 }
 
@@ -105,39 +105,39 @@ ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<5, 5>) {
 }
 
 // The last two columns, of which the even rows and the odd rows are summed apart.
-ZELM_INLINE __m128 lastTwoColumns(const Dense<const float> &s, unsigned parity) {
+ZELM_INLINE Floats4 lastTwoColumns(const Dense<const float> &s, unsigned parity) {
     return (twoSquaresAt(s, parity, 4) + twoSquaresAt(s, parity + 2, 4)) + twoSquaresAt(s, parity + 4, 4);
 }
 
 // Order 6 in 32-bit float has a tree for an object and a row stride that are multiples of 16, and one for all
 // others.
 ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<6, 6>) {
-    const __m128 even = lastTwoColumns(s, 0), odd = lastTwoColumns(s, 1);
+    const Floats4 even = lastTwoColumns(s, 0), odd = lastTwoColumns(s, 1);
     if (isMultipleOf16(s.start) && isMultipleOf16(s.rowStride)) {
-        const __m128 last = even + odd;
+        const Floats4 last = even + odd;
         return evenThenOdd(columnSumsFrom<6>(s, 0)) + (firstLane(last) + last[1]);
     }
-    const __m128 upper = (squaresAt(s, 0, 0) + squaresAt(s, 1, 0)) + squaresAt(s, 5, 0);
-    const __m128 lower = (squaresAt(s, 2, 0) + squaresAt(s, 3, 0)) + squaresAt(s, 4, 0);
+    const Floats4 upper = (squaresAt(s, 0, 0) + squaresAt(s, 1, 0)) + squaresAt(s, 5, 0);
+    const Floats4 lower = (squaresAt(s, 2, 0) + squaresAt(s, 3, 0)) + squaresAt(s, 4, 0);
     return evenThenOdd((upper + lower) + _mm_movelh_ps(even, odd));
 }
 
 ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<3, 3>) {
-    const __m128d two = columnSumsFrom<3>(s, 0);
+    const Doubles2 two = columnSumsFrom<3>(s, 0);
     return (columnSumAt<3>(s, 2) + firstLane(two)) + two[1];
 }
 
 ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<4, 4>) {
-    __m128d rows[4];
+    Doubles2 rows[4];
 #pragma GCC unroll 4
     for (unsigned i = 0; i < 4; ++i)
         rows[i] = squaresAt(s, i, 0) + squaresAt(s, i, 2);
-    const __m128d lanes = columnSum(rows);
+    const Doubles2 lanes = columnSum(rows);
     return firstLane(lanes) + lanes[1];
 }
 
 ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<5, 5>) {
-    const __m128d left = columnSumsFrom<5>(s, 0), right = columnSumsFrom<5>(s, 2);
+    const Doubles2 left = columnSumsFrom<5>(s, 0), right = columnSumsFrom<5>(s, 2);
     return ((firstLane(left) + left[1]) + (firstLane(right) + right[1])) + columnSumAt<5>(s, 4);
 }
 
@@ -146,7 +146,7 @@ ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<6, 6>) {
     const auto t = [&](unsigned m) __attribute__((always_inline)) {
         return squaresAt(s, m / 3, m % 3 * 2);
     };
-    const __m128d lanes =
+    const Doubles2 lanes =
         ((((t(0) + t(1)) + (t(2) + t(3))) + (t(16) + t(17))) + ((t(4) + t(5)) + (t(6) + t(7)))) +
         (((t(8) + t(9)) + (t(10) + t(11))) + ((t(12) + t(13)) + (t(14) + t(15))));
     return firstLane(lanes) + lanes[1];
@@ -169,16 +169,16 @@ ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<3, 3>) {
 }
 
 ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<4, 4>) {
-    const __m128 sums = columnSumsFrom<4>(s, 0);
+    const Floats4 sums = columnSumsFrom<4>(s, 0);
     return (sums[0] + sums[1]) + (sums[2] + sums[3]);
 }
 
-template <typename S>
-ZELM_INLINE __m128 treesOfFour(const Group<S> &group, FixedShape<3, 3>) {
-    __m128 squares[3][3];
+template <typename V, typename S>
+ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<3, 3>) {
+    V squares[3][3];
 #pragma GCC unroll 3
     for (unsigned i = 0; i < 3; ++i) {
-        loadRow<3>(group, i, squares[i]);
+        loadRow<3>(s, k, i, squares[i]);
 #pragma GCC unroll 3
         for (unsigned j = 0; j < 3; ++j)
             squares[i][j] = squares[i][j] * squares[i][j];
@@ -186,13 +186,15 @@ ZELM_INLINE __m128 treesOfFour(const Group<S> &group, FixedShape<3, 3>) {
     return treeOfFour(squares);
 }
 
-template <typename S>
-ZELM_INLINE __m128 treesOfFour(const Group<S> &group, FixedShape<4, 4>) {
-    __m128 sums[4];
+template <typename V, typename S>
+ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<4, 4>) {
+    return fromBlocks<V>([&s, k](unsigned b) __attribute__((always_inline)) {
+        Floats4 sums[4];
 #pragma GCC unroll 4
-    for (unsigned lane = 0; lane < 4; ++lane)
-        sums[lane] = columnSumsFrom<4>(group.objects[lane], 0);
-    return _mm_hadd_ps(_mm_hadd_ps(sums[0], sums[1]), _mm_hadd_ps(sums[2], sums[3]));
+        for (unsigned object = 0; object < 4; ++object)
+            sums[object] = columnSumsFrom<4>(s.object(k + 4 * b + object), 0);
+        return _mm_hadd_ps(_mm_hadd_ps(sums[0], sums[1]), _mm_hadd_ps(sums[2], sums[3]));
+    });
 }
 
 // ---- the exported rows
@@ -237,15 +239,50 @@ ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &res
         const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             return store(k, k < fours ? treeOfFour(s.object(k), shape) : treeOf(s.object(k), shape));
         };
-        if (!resultsMissSource<N, N>(s, results, count))
-            return forEachObject(count, one, s);
-        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-            if (!resultsMissGroup<N, N>(s, results, k))
-                return false;
-            storePack(results.object(k).start, rootByRefinedReciprocal(treesOfFour(groupAt(s, k), shape)));
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            using V = typename decltype(pack)::Pack;
+            storePack(results.object(k).start, rootByRefinedReciprocal(treesOfFour<V>(s, k, shape)));
             return true;
         };
-        return forEachGroup<4>(count, group, one, s);
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(s, N, N));
+    }
+}
+
+// The squares of a group, column by column.
+template <unsigned N, typename V, typename S>
+ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
+    V elements[N][N], sum = {};
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        loadRow<N>(s, k, i, elements[i]);
+#pragma GCC unroll 6
+    for (unsigned j = 0; j < N; ++j)
+#pragma GCC unroll 6
+        for (unsigned i = 0; i < N; ++i)
+            sum = sum + elements[i][j] * elements[i][j];
+    return sum;
+}
+
+// All other arrays.
+template <typename S, typename T, typename Shape>
+ZELM_INLINE ZelmStatus frobeniusByColumns(const S &s, const DenseArray<T> &results, Shape shape,
+                                          std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
+        return ZELM_OK;
+    };
+    if constexpr (Shape::isFixed && kLoadsInGroups<S>) {
+        constexpr unsigned N = Shape::columns();
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            using V = typename decltype(pack)::Pack;
+            storePack(results.object(k).start, squareRoot(squaresOfGroup<N, V>(s, k)));
+            return true;
+        };
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(s, N, N));
+    } else {
+        return forEachObject(count, one, s);
     }
 }
 
@@ -256,38 +293,12 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
         status != kProceed)
         return status;
     const DenseArray<T> results = resultsAt(dst);
-    constexpr bool isDense = decltype(s.object(0))::isDense;
-    if constexpr (Shape::isFixed && isDense && sizeof(T) == 4) {
+    if constexpr (Shape::isFixed && decltype(s.object(0))::isDense && sizeof(T) == 4)
         return frobeniusByTrees(s, results, shape, count);
-    } else {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
-            return ZELM_OK;
-        };
-        if constexpr (Shape::isFixed && kLoadsInGroups<S>) {
-            constexpr unsigned N = Shape::columns();
-            if (count >= kResultGroupsCount && resultsMissSource<N, N>(s, results, count)) {
-                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                    if (!resultsMissGroup<N, N>(s, results, k))
-                        return false;
-                    const Group<S> objects = groupAt(s, k);
-                    Pack<T> elements[N][N], sum = broadcast(T{0});
-#pragma GCC unroll 6
-                    for (unsigned i = 0; i < N; ++i)
-                        loadRow<N>(objects, i, elements[i]);
-#pragma GCC unroll 6
-                    for (unsigned j = 0; j < N; ++j)
-#pragma GCC unroll 6
-                        for (unsigned i = 0; i < N; ++i)
-                            sum = sum + elements[i][j] * elements[i][j];
-                    storePack(results.object(k).start, squareRoot(sum));
-                    return true;
-                };
-                return forEachGroup<kLanes<T>>(count, group, one, s);
-            }
-        }
-        return forEachObject(count, one, s);
-    }
+    else
+        return withPlainest([&](const auto &plain) __attribute__((
+                                always_inline)) { return frobeniusByColumns(plain, results, shape, count); },
+                            s);
 }
 
 } // namespace zelm::vector

@@ -21,24 +21,20 @@ constexpr Sum kSquaresOrder = !isDense         ? Sum::Chain
 // root.
 template <bool isDense, typename V>
 ZELM_INLINE V lengthOf(V squares) {
-    if constexpr (isDense && sizeof(squares[0]) == 4)
+    if constexpr (isDense && sizeof(ElementOf<V>) == 4)
         return rootByRefinedReciprocal(squares);
     else
         return squareRoot(squares);
 }
 
-template <bool isArray, unsigned N, typename S>
+template <bool isDense, bool isArray, unsigned N, typename S>
 ZELM_INLINE auto fixedLength(const S &s) {
     using T = typename S::Element;
     T squares[N];
 #pragma GCC unroll 6
     for (unsigned j = 0; j < N; ++j)
         squares[j] = s.get(j) * s.get(j);
-    const T sum = sumOf<kSquaresOrder<T, S::isDense, isArray, N>>(squares);
-    if constexpr (S::isDense && sizeof(T) == 4)
-        return rootByRefinedReciprocal(sum);
-    else
-        return squareRoot(sum);
+    return lengthOf<isDense>(sumOf<kSquaresOrder<T, isDense, isArray, N>>(squares));
 }
 
 template <typename S>
@@ -59,12 +55,44 @@ ZELM_INLINE ZelmStatus l2NormSingle(const S &s, T *dst, Shape shape) {
             return ZELM_ERR_NULL_PTR;
     }
     if constexpr (Shape::isFixed)
-        *dst = fixedLength<false, Shape::columns()>(s);
+        *dst = fixedLength<S::isDense, false, Shape::columns()>(s);
     else if constexpr (S::isDense)
         *dst = squareRoot(longSum<T>(Squares<T>{s.start}, s.start, shape.columns()));
     else
         *dst = lengthOfRunTime(s, shape.columns());
     return ZELM_OK;
+}
+
+// isDense: whether the called form is one of the standard and L layouts, which have a root of their own.
+template <bool isDense, typename S, typename T, typename Shape>
+ZELM_INLINE ZelmStatus lengthsOf(const S &s, T *dst, Shape shape, std::uint32_t count) {
+    const DenseArray<T> results = resultsAt(dst);
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        if constexpr (Shape::isFixed)
+            results.object(k).set(0, fixedLength<isDense, true, Shape::columns()>(s.object(k)));
+        else
+            results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
+        return ZELM_OK;
+    };
+    if constexpr (!Shape::isFixed || !kLoadsInGroups<S>) {
+        return forEachObject(count, one, s);
+    } else {
+        constexpr unsigned N = Shape::columns();
+        const Vectors<N, S> vectors(s);
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            using V = typename decltype(pack)::Pack;
+            V elements[N], squares[N];
+            vectors.load(k, elements);
+#pragma GCC unroll 6
+            for (unsigned j = 0; j < N; ++j)
+                squares[j] = elements[j] * elements[j];
+            const V sum = sumOf<kSquaresOrder<T, isDense, true, N>>(squares);
+            storePack(results.object(k).start, lengthOf<isDense>(sum));
+            return true;
+        };
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(s, 1, N));
+    }
 }
 
 template <typename S, typename T, typename Shape>
@@ -73,40 +101,11 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
             checkArray(shape.isZero(), count, tested(s, shape.elements()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
-    const DenseArray<T> results = resultsAt(dst);
-    if constexpr (!Shape::isFixed) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
-            return ZELM_OK;
-        };
-        return forEachObject(count, one, s);
-    } else {
-        constexpr unsigned N = Shape::columns();
-        constexpr bool isDense = decltype(s.object(0))::isDense;
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            results.object(k).set(0, fixedLength<true, N>(s.object(k)));
-            return ZELM_OK;
-        };
-        if constexpr (kLoadsInGroups<S>) {
-            if (count >= kResultGroupsCount && resultsMissSource<1, N>(s, results, count)) {
-                const VectorsOfGroup<N, S> vectors(s);
-                const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                    if (!resultsMissGroup<1, N>(s, results, k))
-                        return false;
-                    Pack<T> elements[N], squares[N];
-                    vectors.load(k, elements);
-#pragma GCC unroll 6
-                    for (unsigned j = 0; j < N; ++j)
-                        squares[j] = elements[j] * elements[j];
-                    const Pack<T> sum = sumOf<kSquaresOrder<T, isDense, true, N>>(squares);
-                    storePack(results.object(k).start, lengthOf<isDense>(sum));
-                    return true;
-                };
-                return forEachGroup<kLanes<T>>(count, group, one, s);
-            }
-        }
-        return forEachObject(count, one, s);
-    }
+    constexpr bool isDense = decltype(s.object(0))::isDense;
+    return withPlainest(
+        [&](const auto &plain)
+            __attribute__((always_inline)) { return lengthsOf<isDense>(plain, dst, shape, count); },
+        s);
 }
 
 } // namespace zelm::vector

@@ -36,14 +36,14 @@ struct Squares {
 
 // The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 +
 // s3).
-ZELM_INLINE float combined(__m128 s0to3, __m128 s4to7) {
-    const __m128 four = s0to3 + s4to7;
-    const __m128 pairs = four + _mm_shuffle_ps(four, four, _MM_SHUFFLE(2, 3, 0, 1));
+ZELM_INLINE float combined(Floats4 s0to3, Floats4 s4to7) {
+    const Floats4 four = s0to3 + s4to7;
+    const Floats4 pairs = four + _mm_shuffle_ps(four, four, _MM_SHUFFLE(2, 3, 0, 1));
     return firstLane(pairs + _mm_movehl_ps(pairs, pairs));
 }
 
-ZELM_INLINE double combined(__m128d s0to1, __m128d s2to3) {
-    const __m128d two = s0to1 + s2to3;
+ZELM_INLINE double combined(Doubles2 s0to1, Doubles2 s2to3) {
+    const Doubles2 two = s0to1 + s2to3;
     return firstLane(two + _mm_unpackhi_pd(two, two));
 }
 
@@ -56,7 +56,7 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
     T sum = 0;
     std::uint32_t t = 0;
     if (length >= least && aligned % sizeof(T) == 0) {
-        const auto head = static_cast<std::uint32_t>((0 - aligned) % kPackBytes / sizeof(T));
+        const auto head = static_cast<std::uint32_t>((0 - aligned) % 16 / sizeof(T));
         for (; t < head; ++t)
             sum = sum + terms.term(t);
         Pack<T> low = inFirstLane(sum), high = broadcast(T{0});

@@ -1,9 +1,10 @@
 // Array forms that yield one number per object, packed in dst.
 #pragma once
 
+#include "frame/batch.h"
 #include "frame/groups.h"
 #include "frame/objects.h"
-#include "frame/overlap.h"
+#include "frame/plainest.h"
 #include "frame/shapes.h"
 #include "frame/sums.h"
 
@@ -17,73 +18,36 @@ ZELM_INLINE DenseArray<T> resultsAt(T *dst) {
     return DenseArray<T>(dst, std::int32_t{sizeof(T)}, 0);
 }
 
-// From how many objects on the overlap test of a whole array is worth its time.
-constexpr std::uint32_t kResultGroupsCount = 8;
-
-// Whether groups may store their results before the objects behind them are read. Lists ask it group by
-// group.
-template <unsigned R, unsigned C, typename S, typename T>
-ZELM_INLINE bool resultsMissSource(const S &s, const DenseArray<T> &results, std::uint32_t count) {
-    if constexpr (S::isList)
-        return true;
-    else
-        return isUntouched(s, R, C, results, 1, 1, count);
-}
-
-template <unsigned R, unsigned C, typename S, typename T>
-ZELM_INLINE bool resultsMissGroup(const S &s, const DenseArray<T> &results, std::uint32_t k) {
-    constexpr unsigned lanes = kLanes<T>;
-    if constexpr (S::isList) {
-        if (anyEntryNull(s, k))
-            return false;
-        const Extent extent = extentOf(s, R, C);
-        const Lowest<lanes> source = lowestOf<lanes>(s, extent, k);
-        bool apart = true;
-#pragma GCC unroll 4
-        for (unsigned lane = 0; lane < lanes; ++lane)
-            apart &= areDisjoint(results.object(k).start, kPackBytes, source.at[lane], extent.bytes);
-        return apart;
-    } else {
-        return true;
-    }
-}
-
-// Layouts in which loading a group costs less than it saves.
+// Layouts in which loading a group costs less than it saves: gathering single elements costs as many steps as
+// the arithmetic of a vector has.
 template <typename D>
 constexpr bool kLoadsInGroups = D::isSideBySide || decltype(std::declval<const D &>().object(0))::isDense;
 
-// An operand that is one vector for all objects.
-template <typename S>
-constexpr bool kIsOneVector = requires(const S &s) {
-    s.get(0u);
-};
-
-// The vectors of a group, one pack per element. An invariant is spread over the lanes once: it is asked for
-// only where no result is stored in it.
+// The vectors of an array, N packs for a group: one per element.
 template <unsigned N, typename S>
-struct VectorsOfGroup {
-    using T = typename S::Element;
+struct Vectors {
     const S &operand;
-    ZELM_INLINE explicit VectorsOfGroup(const S &s) : operand(s) {}
-    ZELM_INLINE void load(std::uint32_t k, Pack<T> (&out)[N]) const {
-        loadRow<N>(groupAt(operand, k), 0, out);
+    ZELM_INLINE explicit Vectors(const S &s) : operand(s) {}
+    template <typename V>
+    ZELM_INLINE void load(std::uint32_t k, V (&out)[N]) const {
+        loadRow<N>(operand, k, 0, out);
     }
 };
 
+// An invariant vector, read once: it is asked for only where no result is stored in it.
 template <unsigned N, typename S>
-requires kIsOneVector<S>
-struct VectorsOfGroup<N, S> {
-    using T = typename S::Element;
-    Pack<T> spread[N];
-    ZELM_INLINE explicit VectorsOfGroup(const S &s) {
+requires(!kIsArray<S>) struct Vectors<N, S> {
+    typename S::Element element[N];
+    ZELM_INLINE explicit Vectors(const S &s) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            spread[j] = broadcast(s.get(j));
+            element[j] = s.get(j);
     }
-    ZELM_INLINE void load(std::uint32_t, Pack<T> (&out)[N]) const {
+    template <typename V>
+    ZELM_INLINE void load(std::uint32_t, V (&out)[N]) const {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            out[j] = spread[j];
+            out[j] = spread<V>(element[j]);
     }
 };
 

@@ -2,32 +2,35 @@
 // The approximation has no test of its argument: a zero and +infinity give NaN.
 #pragma once
 
-#include "frame/pack.h"
+#include "frame/shuffles.h"
 
 namespace zelm::vector {
 
 using namespace zelm::frame;
 
-ZELM_INLINE __m128 approximateReciprocalRoot(__m128 value) {
+ZELM_INLINE Floats4 approximateReciprocalRoot(Floats4 value) {
     return _mm_rsqrt_ps(value);
 }
 ZELM_INLINE float approximateReciprocalRoot(float value) {
     return firstLane(_mm_rsqrt_ss(inFirstLane(value)));
 }
-
-// Spreads a constant like the value beside it.
-ZELM_INLINE float like(float, float constant) {
-    return constant;
+#if defined(__AVX2__)
+ZELM_INLINE Floats8 approximateReciprocalRoot(Floats8 value) {
+    return _mm256_rsqrt_ps(value);
 }
-ZELM_INLINE __m128 like(__m128, float constant) {
-    return broadcast(constant);
+#endif
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+// 512 bits have an approximation of their own only, with other bits.
+ZELM_INLINE Floats16 approximateReciprocalRoot(Floats16 value) {
+    return joined(_mm256_rsqrt_ps(lowHalf(value)), _mm256_rsqrt_ps(highHalf(value)));
 }
+#endif
 
 // s * (r * (0.5 * (3 - s * (r * r)))) with r near 1 / sqrt(s), in this bracketing.
 template <typename V>
 ZELM_INLINE V rootByRefinedReciprocal(V s) {
     const V r = approximateReciprocalRoot(s);
-    const V half = like(s, 0.5f) * (like(s, 3.0f) - s * (r * r));
+    const V half = spread<V>(0.5f) * (spread<V>(3.0f) - s * (r * r));
     return s * (r * half);
 }
 

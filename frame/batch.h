@@ -1,0 +1,304 @@
+// Array forms: the one place that decides whether objects are taken one by one or in groups, and the one
+// driver that runs them.
+//
+// A group reads all its objects before it writes any, where the loop that it stands for reads object k+1
+// after writing object k. So a group runs only where that can't be seen. In doubt the objects are done one by
+// one.
+//
+// A family says what it reads and writes, and hands over two steps: one(k) computes object k as the
+// definition has it, group<V>(k) as many objects from k on as V has lanes. A group that says no has written
+// nothing; its objects are then done one by one, so that what stands afterwards is what the plain loop
+// leaves.
+#pragma once
+
+#include "frame/checks.h"
+#include "frame/masks.h"
+#include "frame/overlap.h"
+#include "frame/widths.h"
+
+namespace zelm::frame {
+
+// ---- what a row touches
+
+// Whether a source may lie exactly where the result lies, object by object.
+enum class InPlace { No, Yes };
+
+template <typename S>
+struct Source {
+    using Operand = S;
+    const S &operand;
+    unsigned rows, columns;
+    InPlace inPlace;
+};
+template <typename S>
+ZELM_INLINE Source<S> reads(const S &operand, unsigned rows, unsigned columns,
+                            InPlace inPlace = InPlace::No) {
+    return {operand, rows, columns, inPlace};
+}
+
+template <typename D>
+struct Result {
+    using Operand = D;
+    const D &operand;
+    unsigned rows, columns;
+};
+template <typename D>
+ZELM_INLINE Result<D> writes(const D &operand, unsigned rows, unsigned columns) {
+    return {operand, rows, columns};
+}
+
+// Plain memory beside the operands: a part of `bytes` for each object, or one part for all.
+struct NoBuffer {
+    static constexpr bool isNone = true;
+};
+struct Buffer {
+    static constexpr bool isNone = false;
+    Address start;
+    std::int64_t bytes;
+    bool isShared, isWritten;
+    ZELM_INLINE Range range(std::uint32_t first, std::uint32_t last) const {
+        if (isShared)
+            return rangeFrom(start, bytes);
+        Range range = rangeFrom(start, bytes * (last - first));
+        range.low += bytes * first;
+        range.high += bytes * first;
+        return range;
+    }
+};
+ZELM_INLINE Buffer readsPerObject(const void *start, unsigned bytes) {
+    return {addressOf(start), bytes, false, false};
+}
+ZELM_INLINE Buffer readsForAll(const void *start, unsigned bytes) {
+    return {addressOf(start), bytes, true, false};
+}
+ZELM_INLINE Buffer writesPerObject(const void *start, unsigned bytes) {
+    return {addressOf(start), bytes, false, true};
+}
+ZELM_INLINE Buffer writesForAll(const void *start, unsigned bytes) {
+    return {addressOf(start), bytes, true, true};
+}
+
+// ---- arrays that are no lists: decided once
+
+template <typename S, typename D>
+ZELM_INLINE bool mayRead(const Source<S> &s, const Result<D> &d, std::uint32_t count) {
+    if (s.inPlace == InPlace::Yes && s.rows == d.rows && coincide(s.operand, d.operand))
+        return true;
+    return isUntouched(s.operand, s.rows, s.columns, d.operand, d.rows, d.columns, count);
+}
+
+template <typename Memory, typename Touched>
+ZELM_INLINE bool isApartFrom(const Memory &buffer, const Touched &touched, std::uint32_t count) {
+    const Range range = rangeOf(touched.operand, touched.rows, touched.columns, count);
+    return isKnown(range) && areDisjoint(range, buffer.range(0, count));
+}
+
+template <typename Memory, typename D, typename... S>
+ZELM_INLINE bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Result<D> &d,
+                             const Source<S> &...s) {
+    if (count > kMostObjectsInRange || !elementsAreApart(d.operand, d.rows, d.columns, count) ||
+        !(mayRead(s, d, count) && ...))
+        return false;
+    if constexpr (!Memory::isNone)
+        return isApartFrom(buffer, d, count) && (!buffer.isWritten || (isApartFrom(buffer, s, count) && ...));
+    return true;
+}
+
+// ---- lists: decided ahead of the groups, a stretch of the tables at a time
+
+constexpr std::uint32_t kStretch = 64;
+
+// The bytes of the objects from first to before last. A null entry among them, or one that comes to null by
+// its shift, makes the range unknown.
+template <typename Touched>
+ZELM_INLINE Range rangeOfStretch(const Touched &touched, std::uint32_t first, std::uint32_t last) {
+    using Operand = typename Touched::Operand;
+    const Operand &operand = touched.operand;
+    if constexpr (Operand::isList) {
+        Address lowest = addressOf(operand.table[first]), highest = lowest;
+        bool null = lowest == 0 || lowest + operand.shift == 0;
+        for (std::uint32_t k = first + 1; k < last; ++k) {
+            const Address entry = addressOf(operand.table[k]);
+            null |= entry + operand.shift == 0;
+            lowest = entry < lowest ? entry : lowest;
+            highest = entry > highest ? entry : highest;
+        }
+        constexpr Range unknown = {-1, 0};
+        if (null || lowest == 0)
+            return unknown;
+        const Extent extent = extentOf(operand, touched.rows, touched.columns);
+        const std::int64_t offset = signedDistance(operand.shift) + signedDistance(extent.lowest);
+        return {rangeFrom(lowest, 0).low + offset,
+                rangeFrom(highest, 0).low + offset + static_cast<std::int64_t>(extent.bytes)};
+    } else if constexpr (requires { operand.objStride; }) {
+        // Results packed behind each other.
+        return rangeFrom(operand.object(first).start,
+                         std::int64_t{last - first} * static_cast<std::int64_t>(operand.objStride));
+    } else {
+        return rangeOfObject(operand, touched.rows, touched.columns);
+    }
+}
+
+// Whether nothing of the stretch lies in anything that it writes.
+template <typename Memory, typename D, typename... S>
+ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const Memory &buffer,
+                                const Result<D> &d, const Source<S> &...s) {
+    const Range target = rangeOfStretch(d, first, last);
+    if (!isKnown(target))
+        return false;
+    const auto misses = [&](const Range &source) { return isKnown(source) && areDisjoint(source, target); };
+    if (!(misses(rangeOfStretch(s, first, last)) && ...))
+        return false;
+    if constexpr (!Memory::isNone) {
+        const Range range = buffer.range(first, last);
+        return areDisjoint(range, target) &&
+               (!buffer.isWritten || (areDisjoint(range, rangeOfStretch(s, first, last)) && ...));
+    }
+    return true;
+}
+
+// Whether a group's results lie apart from each other.
+template <unsigned lanes, typename D>
+ZELM_INLINE bool resultsAreApart(const Result<D> &d, std::uint32_t k) {
+    if constexpr (D::isList) {
+        const Extent written = extentOf(d.operand, d.rows, d.columns);
+        return areApartFromEachOther(lowestOf<lanes>(d.operand, written, k), written.bytes);
+    } else {
+        return true;
+    }
+}
+
+template <typename Operand>
+ZELM_INLINE bool anyObjectIsNull(const Operand &operand, std::uint32_t k, unsigned lanes) {
+    bool null = false;
+    if constexpr (Operand::isList)
+        for (unsigned lane = 0; lane < lanes; ++lane)
+            null |= operand.table[k + lane] == nullptr || operand.object(k + lane).start == 0;
+    return null;
+}
+
+// The same questions for one group whose stretch gives no answer.
+template <unsigned lanes, typename S, typename D>
+ZELM_INLINE bool groupMayRead(const Source<S> &s, const Result<D> &d, std::uint32_t k) {
+    if (anyObjectIsNull(s.operand, k, lanes))
+        return false;
+    const Extent read = extentOf(s.operand, s.rows, s.columns);
+    const Extent written = extentOf(d.operand, d.rows, d.columns);
+    const Lowest<lanes> source = lowestOf<lanes>(s.operand, read, k);
+    const Lowest<lanes> target = lowestOf<lanes>(d.operand, written, k);
+    bool same = s.inPlace == InPlace::Yes && s.rows == d.rows && s.operand.rowStride == d.operand.rowStride &&
+                s.operand.elemStride == d.operand.elemStride;
+    for (unsigned lane = 0; lane < lanes; ++lane)
+        same &= source.at[lane] == target.at[lane];
+    return same || areApartFrom(target, written.bytes, source, read.bytes);
+}
+
+template <unsigned lanes, typename Touched>
+ZELM_INLINE bool groupMissesBuffer(const Buffer &buffer, const Touched &touched, std::uint32_t k) {
+    const Extent extent = extentOf(touched.operand, touched.rows, touched.columns);
+    const Lowest<lanes> objects = lowestOf<lanes>(touched.operand, extent, k);
+    const Address bytes = static_cast<Address>(buffer.bytes) * (buffer.isShared ? 1 : lanes);
+    const Address start = buffer.start + (buffer.isShared ? 0 : k * static_cast<Address>(buffer.bytes));
+    bool apart = true;
+    for (unsigned lane = 0; lane < lanes; ++lane)
+        apart &= areDisjoint(objects.at[lane], extent.bytes, start, bytes);
+    return apart;
+}
+
+template <unsigned lanes, typename Memory, typename D, typename... S>
+__attribute__((noinline)) bool groupIsApart(std::uint32_t k, const Memory &buffer, const Result<D> &d,
+                                            const Source<S> &...s) {
+    if (anyObjectIsNull(d.operand, k, lanes) || !(groupMayRead<lanes>(s, d, k) && ...))
+        return false;
+    if constexpr (!Memory::isNone)
+        return groupMissesBuffer<lanes>(buffer, d, k) &&
+               (!buffer.isWritten || (groupMissesBuffer<lanes>(buffer, s, k) && ...));
+    return true;
+}
+
+// ---- the driver
+
+// Names a pack for a step that is called with it.
+template <typename V>
+struct As {
+    using Pack = V;
+};
+
+// Groups from k on, of the widest packs first, as far as they go.
+template <typename V, typename Group>
+ZELM_INLINE std::uint32_t runGroups(std::uint32_t k, std::uint32_t end, Group group) {
+    while (end - k >= kLanesOf<V> && group(As<V>{}, k))
+        k += kLanesOf<V>;
+    if constexpr (sizeof(V) > kBlockBytes)
+        return runGroups<Pack<ElementOf<V>, sizeof(V) / 2>>(k, end, group);
+    else
+        return k;
+}
+
+// The objects from k to before end; `operands` are those whose entries are tested.
+template <typename V, typename Group, typename One, typename... Operands>
+ZELM_INLINE ZelmStatus runObjects(std::uint32_t k, std::uint32_t end, bool grouped, Group group, One one,
+                                  const Operands &...operands) {
+    constexpr std::uint32_t least = kLanesOf<Pack<ElementOf<V>>>;
+    while (k < end) {
+        if (grouped)
+            k = runGroups<V>(k, end, group);
+        const std::uint32_t stop = grouped && end - k > least ? k + least : end;
+        for (; k < stop; ++k) {
+            if ((operands.entryIsNull(k) || ...))
+                return ZELM_ERR_NULL_PTR;
+            if (ZelmStatus status = one(k); status != ZELM_OK)
+                return status;
+        }
+    }
+    return ZELM_OK;
+}
+
+// Lists. An invariant source that a kernel holds is held for all groups: once something was written in it,
+// there are no more groups.
+template <typename V, typename Memory, typename GroupStep, typename One, typename D, typename... S>
+ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
+                                    const Result<D> &d, const Source<S> &...s) {
+    const bool distinct = objectElementsAreApart(d.operand, d.rows, d.columns);
+    const auto missesInvariants = [&](std::uint32_t first, std::uint32_t last) {
+        const Range target = rangeOfStretch(d, first, last);
+        const auto misses = [&](const auto &source) {
+            if constexpr (std::remove_cvref_t<decltype(source.operand)>::isList)
+                return true;
+            else
+                return isKnown(target) && areDisjoint(rangeOfStretch(source, first, last), target);
+        };
+        return (misses(s) && ...);
+    };
+    bool grouped = distinct;
+    for (std::uint32_t first = 0; first < count;) {
+        const std::uint32_t last = count - first > kStretch ? first + kStretch : count;
+        grouped = grouped && missesInvariants(first, last);
+        const bool apart = grouped && stretchIsApart(first, last, buffer, d, s...);
+        const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
+            return resultsAreApart<lanes>(d, k) && (apart || groupIsApart<lanes>(k, buffer, d, s...)) &&
+                   group(pack, k);
+        };
+        if (ZelmStatus status = runObjects<V>(first, last, grouped, guarded, one, s.operand..., d.operand);
+            status != ZELM_OK)
+            return status;
+        first = last;
+    }
+    return ZELM_OK;
+}
+
+// All objects of an array form.
+template <Grouping grouping, typename Memory, typename GroupStep, typename One, typename D, typename... S>
+ZELM_INLINE ZelmStatus forEachInGroups(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
+                                       const Result<D> &d, const Source<S> &...s) {
+    using V = Pack<typename D::Element, grouping.bytes>;
+    if constexpr ((D::isList || ... || S::isList)) {
+        return runStretches<V>(count, buffer, group, one, d, s...);
+    } else {
+        const bool grouped = count >= grouping.least && mayGroupAll(count, buffer, d, s...);
+        return runObjects<V>(0, count, grouped, group, one);
+    }
+}
+
+} // namespace zelm::frame

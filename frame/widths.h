@@ -1,0 +1,21 @@
+// How wide the packs are that each class of kernels takes in this build, and from how many objects on.
+#pragma once
+
+#include "frame/pack.h"
+
+namespace zelm::frame {
+
+constexpr unsigned widestUpTo(unsigned bytes) {
+    return kWidestBytes < bytes ? kWidestBytes : bytes;
+}
+
+// How a row is taken in groups.
+struct Grouping {
+    unsigned bytes;      // of the widest pack of its kernels
+    std::uint32_t least; // objects: from there on the overlap test is worth its time
+};
+
+// A few operations per element: dot and cross products, norms.
+constexpr Grouping kShortKernels = {kWidestBytes, 8};
+
+} // namespace zelm::frame
