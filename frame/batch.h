@@ -254,8 +254,8 @@ ZELM_INLINE ZelmStatus runObjects(std::uint32_t k, std::uint32_t end, bool group
     return ZELM_OK;
 }
 
-// Lists. An invariant source that a kernel holds is held for all groups: once something was written in it,
-// there are no more groups.
+// Lists. An invariant source that a kernel holds, plain memory included, is held for all groups: once
+// something was written in it, there are no more groups.
 template <typename V, typename Memory, typename GroupStep, typename One, typename D, typename... S>
 ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
                                     const Result<D> &d, const Source<S> &...s) {
@@ -268,6 +268,10 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
             else
                 return isKnown(target) && areDisjoint(rangeOfStretch(source, first, last), target);
         };
+        if constexpr (!Memory::isNone)
+            if (buffer.isShared && !buffer.isWritten &&
+                !(isKnown(target) && areDisjoint(buffer.range(first, last), target)))
+                return false;
         return (misses(s) && ...);
     };
     bool grouped = distinct;
@@ -296,7 +300,8 @@ ZELM_INLINE ZelmStatus forEachInGroups(std::uint32_t count, const Memory &buffer
     if constexpr ((D::isList || ... || S::isList)) {
         return runStretches<V>(count, buffer, group, one, d, s...);
     } else {
-        const bool grouped = count >= grouping.least && mayGroupAll(count, buffer, d, s...);
+        constexpr std::uint32_t least = D::isTable ? grouping.leastInTables : grouping.least;
+        const bool grouped = count >= least && mayGroupAll(count, buffer, d, s...);
         return runObjects<V>(0, count, grouped, group, one);
     }
 }

@@ -221,8 +221,8 @@ constexpr bool kIsDenseArray = false;
 template <typename T>
 constexpr bool kIsDenseArray<DenseArray<T>> = true;
 
-// The row of N elements with number row(lane) of each of the objects from k on.
-template <unsigned N, typename V, typename Array, typename RowOfLane>
+// The first N elements of row number row(lane) of each of the objects from k on.
+template <unsigned N, unsigned columns = N, typename V, typename Array, typename RowOfLane>
 ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, V *out) {
     LaneAddresses<V> at;
     if constexpr (decltype(array.object(0))::isDense) {
@@ -235,13 +235,13 @@ ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane ro
         for (unsigned j = 0; j < N; ++j) {
 #pragma GCC unroll 16
             for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
-                at[lane] = array.object(k + lane).address(row(lane), j, N);
+                at[lane] = array.object(k + lane).address(row(lane), j, columns);
             out[j] = gather<V>(at);
         }
     }
 }
 
-template <unsigned N, typename V, typename Array, typename RowOfLane>
+template <unsigned N, unsigned columns = N, typename V, typename Array, typename RowOfLane>
 ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, const V *in) {
     LaneAddresses<V> at;
     if constexpr (decltype(array.object(0))::isDense) {
@@ -254,39 +254,39 @@ ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane r
         for (unsigned j = 0; j < N; ++j) {
 #pragma GCC unroll 16
             for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
-                at[lane] = array.object(k + lane).address(row(lane), j, N);
+                at[lane] = array.object(k + lane).address(row(lane), j, columns);
             scatter(at, in[j]);
         }
     }
 }
 
-// Row i, of N elements, of each of the objects from k on.
-template <unsigned N, typename V, typename Array>
+// The first N elements of row i, which has `columns` of them, of each of the objects from k on.
+template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
     if constexpr (Array::isSideBySide) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            out[j] = loadAs<V>(array.object(k).address(i, j, N));
+            out[j] = loadAs<V>(array.object(k).address(i, j, columns));
     } else {
         if constexpr (N == 3 && kIsDenseArray<Array>)
             if (array.objStride == 3 * sizeof(ElementOf<V>))
                 return loadThrees(array.object(k).rowStart(i), out);
-        loadRowOfEach<N>(
+        loadRowOfEach<N, columns>(
             array, k, [i](unsigned) { return i; }, out);
     }
 }
 
-template <unsigned N, typename V, typename Array>
+template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void storeRow(const Array &array, std::uint32_t k, unsigned i, const V *in) {
     if constexpr (Array::isSideBySide) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            storePack(array.object(k).address(i, j, N), in[j]);
+            storePack(array.object(k).address(i, j, columns), in[j]);
     } else {
         if constexpr (N == 3 && kIsDenseArray<Array>)
             if (array.objStride == 3 * sizeof(ElementOf<V>))
                 return storeThrees(array.object(k).rowStart(i), in);
-        storeRowOfEach<N>(
+        storeRowOfEach<N, columns>(
             array, k, [i](unsigned) { return i; }, in);
     }
 }

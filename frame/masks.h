@@ -140,7 +140,7 @@ ZELM_INLINE Mask<V> notEqual(V a, V b) {
 
 template <typename V>
 ZELM_INLINE Mask<V> noLane() {
-    return {};
+    return {decltype(Mask<V>::lanes){}};
 }
 
 template <typename V>

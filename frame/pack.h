@@ -8,7 +8,12 @@
 #include "frame/memory.h"
 
 #if defined(__AVX__)
+// g++ warns of the values that its own header leaves undefined on purpose.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #include <immintrin.h>
+#pragma GCC diagnostic pop
 #else
 #include <pmmintrin.h>
 #endif
@@ -121,6 +126,15 @@ ZELM_INLINE Pack<T> broadcast(T value) {
 template <typename V>
 ZELM_INLINE ElementOf<V> firstLane(V a) {
     return a[0];
+}
+
+// A value for each lane as it is, one that is the same in all lanes of a block in all lanes.
+template <typename V, typename F>
+ZELM_INLINE V inLanes(const F &value) {
+    if constexpr (std::is_same_v<F, V>)
+        return value;
+    else
+        return spread<V>(firstLane(value));
 }
 ZELM_INLINE Floats4 inFirstLane(float value) {
     return _mm_set_ss(value);

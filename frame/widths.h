@@ -11,11 +11,15 @@ constexpr unsigned widestUpTo(unsigned bytes) {
 
 // How a row is taken in groups.
 struct Grouping {
-    unsigned bytes;      // of the widest pack of its kernels
-    std::uint32_t least; // objects: from there on the overlap test is worth its time
+    unsigned bytes;                      // of the widest pack of its kernels
+    std::uint32_t least;                 // objects: from there on the overlap test is worth its time
+    std::uint32_t leastInTables = least; // the same where it looks at a table entry per element
 };
 
 // A few operations per element: dot and cross products, norms.
 constexpr Grouping kShortKernels = {kWidestBytes, 8};
+
+// Decompositions, systems, inverses and determinants.
+constexpr Grouping kLongKernels = {kWidestBytes, 2, 16};
 
 } // namespace zelm::frame

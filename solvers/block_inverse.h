@@ -1,5 +1,5 @@
 // Inverses of orders 5 and 6 by a block of pivots in the first rows and its Schur complement, all arithmetic
-// in the element type, of as many matrices as a pack has lanes.
+// in the element type, of one matrix or of one matrix per lane of V.
 #pragma once
 
 #include "solvers/closed_inverse.h"
@@ -26,25 +26,13 @@ ZELM_INLINE void exchangeRows(V (&a)[N][N], unsigned c, unsigned d) {
     }
 }
 
-// The inverse of [P Q; R T], P being of order B, in place. Every sum runs left to right in ascending index.
-// The result is a mask of the lanes where P or the complement counts as singular.
-template <unsigned B, bool dense, typename V, unsigned N>
-ZELM_INLINE V invertByBlocks(V (&a)[N][N]) {
-    constexpr unsigned M = N - B;
-    // The inverse of P.
-    V p[B][B], pInverse[B][B], singular;
-#pragma GCC unroll 3
-    for (unsigned i = 0; i < B; ++i)
-#pragma GCC unroll 3
-        for (unsigned j = 0; j < B; ++j)
-            p[i][j] = a[i][j];
-    if constexpr (B == 2)
-        singular = invertOrder2(p, pInverse);
-    else
-        singular = invertClosed<dense, Singular::InBand>(p, pInverse);
+// ---- the steps of the inverse of [P Q; R T], P being of order B. Every sum runs left to right in ascending
+// index.
 
-    // X = P^-1 * Q and Y = R * P^-1.
-    V x[B][M], y[M][B];
+// X = P^-1 * Q and Y = R * P^-1.
+template <unsigned B, unsigned M, typename V, unsigned N>
+ZELM_INLINE void multiplyByInverse(const V (&a)[N][N], const V (&pInverse)[B][B], V (&x)[B][M],
+                                   V (&y)[M][B]) {
 #pragma GCC unroll 3
     for (unsigned i = 0; i < B; ++i) {
 #pragma GCC unroll 4
@@ -58,9 +46,11 @@ ZELM_INLINE V invertByBlocks(V (&a)[N][N]) {
             }
         }
     }
+}
 
-    // Z = T - Y * Q, the Schur complement, and its inverse W.
-    V z[M][M], w[M][M];
+// Z = T - Y * Q, the Schur complement.
+template <unsigned B, unsigned M, typename V, unsigned N>
+ZELM_INLINE void schurComplement(const V (&a)[N][N], const V (&y)[M][B], V (&z)[M][M]) {
 #pragma GCC unroll 4
     for (unsigned i = 0; i < M; ++i) {
 #pragma GCC unroll 4
@@ -72,10 +62,12 @@ ZELM_INLINE V invertByBlocks(V (&a)[N][N]) {
             z[i][j] = a[B + i][B + j] - sum;
         }
     }
-    constexpr Singular rule = dense ? Singular::ReciprocalZero : Singular::InBand;
-    singular = bitOr(singular, invertClosed<dense, rule>(z, w));
+}
 
-    // The blocks of the inverse: P^-1 + X*W*Y, -X*W, -W*Y and W.
+// The blocks of the inverse: P^-1 + X*W*Y, -X*W, -W*Y and W, the inverse of the complement.
+template <unsigned B, unsigned M, typename V, unsigned N>
+ZELM_INLINE void composeInverse(const V (&pInverse)[B][B], const V (&x)[B][M], const V (&y)[M][B],
+                                const V (&w)[M][M], V (&a)[N][N]) {
 #pragma GCC unroll 3
     for (unsigned i = 0; i < B; ++i) {
         V xw[M];
@@ -105,71 +97,104 @@ ZELM_INLINE V invertByBlocks(V (&a)[N][N]) {
 #pragma GCC unroll 4
         for (unsigned j = 0; j < M; ++j)
             a[B + i][B + j] = w[i][j];
+}
+
+// In place. The result is the lanes where P or the complement counts as singular.
+template <unsigned B, bool dense, typename V, unsigned N>
+ZELM_INLINE Mask<V> invertByBlocks(V (&a)[N][N]) {
+    constexpr unsigned M = N - B;
+    V p[B][B], pInverse[B][B];
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < B; ++i)
+#pragma GCC unroll 3
+        for (unsigned j = 0; j < B; ++j)
+            p[i][j] = a[i][j];
+    Mask<V> singular = noLane<V>();
+    if constexpr (B == 2)
+        singular = invertOrder2(p, pInverse);
+    else
+        singular = invertClosed<dense, Singular::InBand>(p, pInverse);
+
+    V x[B][M], y[M][B], z[M][M], w[M][M];
+    multiplyByInverse<B, M>(a, pInverse, x, y);
+    schurComplement<B, M>(a, y, z);
+    constexpr Singular rule = dense ? Singular::ReciprocalZero : Singular::InBand;
+    singular = singular | invertClosed<dense, rule>(z, w);
+    composeInverse<B, M>(pInverse, x, y, w, a);
     return singular;
 }
 
 // ---- the forms with strides or tables inside an object: a search in every row of the pivot block
 
-// The first of positions `from` to 4 with the largest value(q); position 5 never competes.
-template <typename T, typename Value>
-ZELM_INLINE Pack<T> largestOf(unsigned from, Value value) {
-    Pack<T> best = value(from), position = broadcast(static_cast<T>(from));
+// The first of positions `from` to 4 with the largest value(q), a number in the element type; position 5
+// never competes.
+template <typename V, typename Value>
+ZELM_INLINE V largestOf(unsigned from, Value value) {
+    using T = ElementOf<V>;
+    V best = value(from), position = spread<V>(static_cast<T>(from));
 #pragma GCC unroll 4
     for (unsigned q = from + 1; q <= 4; ++q) {
-        const Pack<T> v = value(q);
-        const Pack<T> wins = greater(v, best);
+        const V v = value(q);
+        const Mask<V> wins = greater(v, best);
         best = select(wins, v, best);
-        position = select(wins, broadcast(static_cast<T>(q)), position);
+        position = select(wins, spread<V>(static_cast<T>(q)), position);
     }
     return position;
 }
 
-template <typename T, unsigned N>
-ZELM_INLINE Pack<T> invertWithSearch(Pack<T> (&a)[N][N]) {
-    using V = Pack<T>;
+// Exchanges column or row `stage` with that at the position.
+template <typename V, unsigned N>
+ZELM_INLINE void exchangeColumnsAt(V position, V (&a)[N][N], unsigned stage) {
+#pragma GCC unroll 4
+    for (unsigned q = stage + 1; q <= 4; ++q) {
+        const Mask<V> here = equal(position, spread<V>(static_cast<ElementOf<V>>(q)));
+#pragma GCC unroll 6
+        for (unsigned i = 0; i < N; ++i)
+            exchangeWhere(here, a[i][stage], a[i][q]);
+    }
+}
+template <typename V, unsigned N>
+ZELM_INLINE void exchangeRowsAt(V position, V (&a)[N][N], unsigned stage) {
+#pragma GCC unroll 4
+    for (unsigned q = stage + 1; q <= 4; ++q) {
+        const Mask<V> here = equal(position, spread<V>(static_cast<ElementOf<V>>(q)));
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            exchangeWhere(here, a[stage][j], a[q][j]);
+    }
+}
+
+template <typename V, unsigned N>
+ZELM_INLINE Mask<V> invertWithSearch(V (&a)[N][N]) {
     constexpr unsigned B = N == 5 ? 2 : 3;
     V position[B];
-    const auto exchangeWith = [&](unsigned stage) __attribute__((always_inline)) {
-#pragma GCC unroll 4
-        for (unsigned q = stage + 1; q <= 4; ++q) {
-            const V here = equal(position[stage], broadcast(static_cast<T>(q)));
-#pragma GCC unroll 6
-            for (unsigned i = 0; i < N; ++i)
-                exchange(here, a[i][stage], a[i][q]);
-        }
-    };
     // 1. The column with the largest element of row 0 comes first.
-    position[0] = largestOf<T>(0, [&](unsigned q) { return magnitude(a[0][q]); });
-    exchangeWith(0);
+    position[0] = largestOf<V>(
+        0, [&](unsigned q) __attribute__((always_inline)) { return magnitude(a[0][q]); });
+    exchangeColumnsAt(position[0], a, 0);
     // 2. Beside it, the one with the largest determinant of order 2.
-    position[1] =
-        largestOf<T>(1, [&](unsigned q) { return magnitude(a[1][q] * a[0][0] - a[0][q] * a[1][0]); });
-    exchangeWith(1);
+    position[1] = largestOf<V>(
+        1, [&](unsigned q)
+               __attribute__((always_inline)) { return magnitude(a[1][q] * a[0][0] - a[0][q] * a[1][0]); });
+    exchangeColumnsAt(position[1], a, 1);
     // 3. In order 6, beside both the one with the largest determinant of order 3.
     if constexpr (B == 3) {
-        position[2] = largestOf<T>(2, [&](unsigned q) {
-            const V p[3][3] = {
-                {a[0][0], a[0][1], a[0][q]}, {a[1][0], a[1][1], a[1][q]}, {a[2][0], a[2][1], a[2][q]}};
-            V c[3][3];
-            cofactors(p, c);
-            return magnitude(determinantFrom<false>(p, c));
-        });
-        exchangeWith(2);
+        position[2] = largestOf<V>(
+            2, [&](unsigned q) __attribute__((always_inline)) {
+                const V p[3][3] = {
+                    {a[0][0], a[0][1], a[0][q]}, {a[1][0], a[1][1], a[1][q]}, {a[2][0], a[2][1], a[2][q]}};
+                V c[3][3];
+                cofactors(p, c);
+                return magnitude(determinantFrom<false>(p, c));
+            });
+        exchangeColumnsAt(position[2], a, 2);
     }
     // 4. The inverse by blocks.
-    const V singular = invertByBlocks<B, false>(a);
+    const Mask<V> singular = invertByBlocks<B, false>(a);
     // 5. Its rows take the places that the columns had.
 #pragma GCC unroll 3
-    for (unsigned back = 0; back < B; ++back) {
-        const unsigned stage = B - 1 - back;
-#pragma GCC unroll 4
-        for (unsigned q = stage + 1; q <= 4; ++q) {
-            const V here = equal(position[stage], broadcast(static_cast<T>(q)));
-#pragma GCC unroll 6
-            for (unsigned j = 0; j < N; ++j)
-                exchange(here, a[stage][j], a[q][j]);
-        }
-    }
+    for (unsigned back = 1; back <= B; ++back)
+        exchangeRowsAt(position[B - back], a, B - back);
     return singular;
 }
 
@@ -182,9 +207,9 @@ struct ColumnPair {
 // Columns 0 and 1 if their determinant in rows 0 and 1 lies outside the band; else the first such pair from
 // the last column down. False if there is none.
 template <unsigned N>
-ZELM_INLINE bool findColumnPair(const __m128d (&a)[N][N], ColumnPair &pair) {
+ZELM_INLINE bool findColumnPair(const double (&a)[N][N], ColumnPair &pair) {
     const auto isGood = [&](unsigned j, unsigned q) {
-        return !anyLane(inBand(determinantOfOrder2(a[0][j], a[0][q], a[1][j], a[1][q])));
+        return !inBand(determinantOfOrder2(a[0][j], a[0][q], a[1][j], a[1][q])).lanes;
     };
     pair = {0, 1};
     if (isGood(0, 1))
@@ -200,9 +225,9 @@ ZELM_INLINE bool findColumnPair(const __m128d (&a)[N][N], ColumnPair &pair) {
     return false;
 }
 
-// One matrix, the same in all lanes. False if it counts as singular.
+// One matrix. False if it counts as singular.
 template <unsigned N>
-ZELM_INLINE bool invertWithColumnPair(__m128d (&a)[N][N]) {
+ZELM_INLINE bool invertWithColumnPair(double (&a)[N][N]) {
     // 1. The pair of pivot columns.
     ColumnPair pair;
     if (!findColumnPair(a, pair))
@@ -215,7 +240,7 @@ ZELM_INLINE bool invertWithColumnPair(__m128d (&a)[N][N]) {
         exchangeColumns(a, 1, second);
     }
     // 3. The inverse by blocks.
-    if (anyLane(invertByBlocks<2, true>(a)))
+    if (invertByBlocks<2, true>(a).lanes)
         return false;
     // 4. Its rows take the places that the columns had.
     if (exchanged) {

@@ -20,7 +20,7 @@ ZELM_INLINE T choleskyReciprocal(T pivot) {
 
 // One matrix, as the definition has it, whatever overlaps.
 template <typename S, typename D>
-__attribute__((noinline)) ZelmStatus choleskyInPlace(const S &s, const D &d, std::uint32_t n) {
+__attribute__((noinline)) ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         for (std::uint32_t j = 0; j < i; ++j) {
@@ -73,7 +73,7 @@ ZELM_INLINE ZelmStatus choleskyOfOrder(const S &s, const D &d) {
     const auto source = departures::wholeSteps(s);
     const auto target = departures::wholeSteps(d);
     return matrixIsDistinct<N>(target) ? choleskyInRegisters<N>(source, target)
-                                       : choleskyInPlace(source, target, N);
+                                       : choleskyThroughDst(source, target, N);
 }
 
 template <typename S, typename D, typename Size>
@@ -91,22 +91,45 @@ ZELM_INLINE ZelmStatus choleskyObject(const S &s, const D &d, Size size) {
         case 6:
             return choleskyOfOrder<6>(s, d);
         default:
-            return choleskyInPlace(s, d, size.value());
+            return choleskyThroughDst(s, d, size.value());
         }
     }
 }
 
-// As many matrices as a pack has lanes. False, with nothing written, where one of them is not positive
-// definite.
-template <unsigned N, typename S, typename D>
-__attribute__((noinline)) bool choleskyGroup(const Group<S> &s, const Group<D> &d) {
-    using T = typename D::Element;
-    Pack<T> a[N][N];
-    loadLower<N>(s, a);
-    if (!choleskyFactor<T, N, kCholeskyRoot<D>>(a))
+// As many matrices as V has lanes. False, with nothing written, where one of them is not positive definite.
+template <typename V, unsigned N, typename S, typename D>
+__attribute__((noinline)) bool choleskyGroup(const S &s, const D &d, std::uint32_t k) {
+    V a[N][N];
+    loadLower(s, k, a);
+    if (!choleskyFactor<kCholeskyRoot<D>>(a))
         return false;
-    storeLower<N>(d, a);
+    storeLower(d, k, a);
     return true;
+}
+
+// Object k of an array; one at null ends the call.
+template <typename S, typename D, typename Size>
+ZELM_INLINE ZelmStatus choleskyObjectAt(const S &s, const D &d, Size size, std::uint32_t k) {
+    const auto source = s.object(k);
+    const auto target = d.object(k);
+    if (source.isNull() || target.isNull())
+        return ZELM_ERR_NULL_PTR;
+    return choleskyObject(source, target, size);
+}
+
+// The matrices of an array, of a fixed size.
+template <unsigned N, typename S, typename D>
+__attribute__((noinline)) ZelmStatus choleskyObjects(const S &s, const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        return choleskyObjectAt(s, d, FixedSize<N>(), k);
+    };
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return choleskyGroup<typename decltype(pack)::Pack, N>(s, d, k);
+    };
+    if (hasNoNullObject(s, N, N, count) && hasNoNullObject(d, N, N, count))
+        return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(d, N, N),
+                                             reads(s, N, N, InPlace::Yes));
+    return forEachObject(count, one);
 }
 
 // ---- the exported rows
@@ -120,45 +143,23 @@ ZELM_INLINE ZelmStatus choleskySingle(const S &s, const D &d, Size size) {
 
 // `count` is signed in the layouts without a table per element; below zero nothing is done.
 template <typename S, typename D, typename Size, typename Count>
-ZELM_INLINE ZelmStatus choleskyArray(const S &givenS, const D &givenD, Size size, Count count) {
-    if (ZelmStatus status = checkSingle(size.isZero() || count == 0, givenS, givenD); status != kProceed)
+ZELM_INLINE ZelmStatus choleskyArray(const S &s, const D &d, Size size, Count count) {
+    if (ZelmStatus status = checkSingle(size.isZero() || count == 0, s, d); status != kProceed)
         return status;
     if constexpr (std::is_signed_v<Count>)
         if (count < 0)
             return ZELM_OK;
     const std::uint32_t objects = static_cast<std::uint32_t>(count);
-    const auto one = [&](const S &s, const D &d) __attribute__((always_inline)) {
-        return [&s, &d, size](std::uint32_t k) {
-            const auto source = s.object(k);
-            const auto target = d.object(k);
-            if (source.isNull() || target.isNull())
-                return ZELM_ERR_NULL_PTR;
-            return choleskyObject(source, target, size);
-        };
-    };
     if constexpr (Size::fixed == 0) {
-        return forEachObject(objects, one(givenS, givenD));
+        const auto one = [&](std::uint32_t k)
+            __attribute__((always_inline)) { return choleskyObjectAt(s, d, size, k); };
+        return forEachObject(objects, one);
     } else {
-        constexpr unsigned N = Size::fixed;
-        constexpr unsigned lanes = kLanes<typename D::Element>;
-        const S s = departures::wholeSteps(givenS);
-        const D d = departures::wholeSteps(givenD);
-        if constexpr (D::isList) {
-            const ListGroups<D> groups(d, N, N);
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                return !anyObjectNull(s, k) && !anyObjectNull(d, k) && groups.mayWrite(k) &&
-                       groups.mayRead(s, N, k) && choleskyGroup<N>(groupAt(s, k), groupAt(d, k));
-            };
-            return forEachGroup<lanes>(objects, group, one(s, d));
-        } else {
-            if (!mayWriteGroups<N>(d, N, objects) || !mayReadAhead(s, N, N, d, N, objects) ||
-                !hasNoNullObject(s, N, N, objects) || !hasNoNullObject(d, N, N, objects))
-                return forEachObject(objects, one(s, d));
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                return choleskyGroup<N>(groupAt(s, k), groupAt(d, k));
-            };
-            return forEachGroup<lanes>(objects, group, one(s, d));
-        }
+        return withPlainest(
+            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+                return choleskyObjects<Size::fixed>(untested(source), untested(target), objects);
+            },
+            departures::wholeSteps(s), departures::wholeSteps(d));
     }
 }
 

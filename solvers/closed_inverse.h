@@ -1,7 +1,8 @@
-// Inverses of orders 2 to 4 in closed form, of as many matrices as a pack has lanes.
+// Inverses of orders 2 to 4 in closed form, of one matrix or of one matrix per lane of V.
 #pragma once
 
-#include "frame/pack.h"
+#include "frame/masks.h"
+#include "frame/shuffles.h"
 
 #include <bit>
 
@@ -10,7 +11,7 @@ namespace zelm::solvers {
 using namespace zelm::frame;
 
 template <typename V>
-constexpr bool kIs32 = sizeof(V{}[0]) == 4;
+constexpr bool kIs32 = sizeof(ElementOf<V>) == 4;
 
 // ---- what counts as a zero determinant
 
@@ -23,35 +24,50 @@ constexpr float kBandOfFloats = 1e-7f;
 static_assert(kBandOfFloats > kBand32 &&
               std::bit_cast<float>(std::bit_cast<std::uint32_t>(kBandOfFloats) - 1) < kBand32);
 
-ZELM_INLINE __m128 inBand(__m128 x) {
-    return greater(broadcast(kBandOfFloats), magnitude(x));
-}
-ZELM_INLINE __m128d inBand(__m128d x) {
-    return greater(broadcast(kBand64), magnitude(x));
+template <typename V>
+ZELM_INLINE Mask<V> inBand(V x) {
+    if constexpr (kIs32<V>)
+        return greater(spread<V>(kBandOfFloats), magnitude(x));
+    else
+        return greater(spread<V>(kBand64), magnitude(x));
 }
 
 enum class Singular { InBand, Zero, ReciprocalZero };
 
 // ---- reciprocals
 
-ZELM_INLINE __m128 reciprocal(__m128 x) {
-    return broadcast(1.0f) / x;
-}
-ZELM_INLINE __m128d reciprocal(__m128d x) {
-    return broadcast(1.0) / x;
+template <typename V>
+ZELM_INLINE V reciprocal(V x) {
+    return spread<V>(1) / x;
 }
 
-ZELM_INLINE __m128 approximateReciprocal(__m128 x) {
+ZELM_INLINE float approximateReciprocal(float x) {
+    return firstLane(Floats4(_mm_rcp_ss(inFirstLane(x))));
+}
+ZELM_INLINE Floats4 approximateReciprocal(Floats4 x) {
     return _mm_rcp_ps(x);
 }
+#if defined(__AVX2__)
+ZELM_INLINE Floats8 approximateReciprocal(Floats8 x) {
+    return _mm256_rcp_ps(x);
+}
+#endif
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+// 512 bits have an approximation of their own only, with other bits.
+ZELM_INLINE Floats16 approximateReciprocal(Floats16 x) {
+    return joined(Floats8(_mm256_rcp_ps(lowHalf(x))), Floats8(_mm256_rcp_ps(highHalf(x))));
+}
+#endif
 
 // The processor's approximation with one Newton step, bracketed as orders 3 and 4 have it.
-ZELM_INLINE __m128 reciprocalOfOrder3(__m128 x) {
-    const __m128 r = approximateReciprocal(x);
+template <typename V>
+ZELM_INLINE V reciprocalOfOrder3(V x) {
+    const V r = approximateReciprocal(x);
     return (r + r) - (x * r) * r;
 }
-ZELM_INLINE __m128 reciprocalOfOrder4(__m128 x) {
-    const __m128 r = approximateReciprocal(x);
+template <typename V>
+ZELM_INLINE V reciprocalOfOrder4(V x) {
+    const V r = approximateReciprocal(x);
     return (r + r) - x * (r * r);
 }
 
@@ -118,11 +134,11 @@ ZELM_INLINE V determinantFrom(const V (&a)[N][N], const V (&c)[N][N]) {
         return ((a[0][0] * c[0][0] + a[0][1] * c[0][1]) + a[0][2] * c[0][2]) + a[0][3] * c[0][3];
 }
 
-// ---- inverses; the result is a mask of the lanes whose matrix counts as singular
+// ---- inverses; the result is the lanes whose matrix counts as singular
 
 // `dense` is the rule of the standard and L forms, otherwise that of the other layouts.
 template <bool dense, Singular singular, typename V, unsigned N>
-ZELM_INLINE V invertClosed(const V (&a)[N][N], V (&inverse)[N][N]) {
+ZELM_INLINE Mask<V> invertClosed(const V (&a)[N][N], V (&inverse)[N][N]) {
     V c[N][N];
     cofactors(a, c);
     const V det = determinantFrom<dense>(a, c);
@@ -149,7 +165,7 @@ ZELM_INLINE V determinantOfOrder2(V a00, V a01, V a10, V a11) {
 
 // Order 2 is always judged by the band.
 template <typename V>
-ZELM_INLINE V invertOrder2(const V (&a)[2][2], V (&inverse)[2][2]) {
+ZELM_INLINE Mask<V> invertOrder2(const V (&a)[2][2], V (&inverse)[2][2]) {
     const V det = determinantOfOrder2(a[0][0], a[0][1], a[1][0], a[1][1]);
     const V r = reciprocal(det);
     inverse[0][0] = a[1][1] * r;

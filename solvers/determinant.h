@@ -56,33 +56,34 @@ __attribute__((noinline)) ZelmStatus determinantsByElimination(const S &s, void 
 // ---- the closed expansion in the element type
 
 template <unsigned N, typename T, typename S>
-ZELM_INLINE T determinantInElementType(const S &s) {
-    Pack<T> a[N][N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            a[i][j] = Pack<T>{s.get(i, j, N)};
-    return determinants<T, N>(a)[0];
+ZELM_INLINE void determinantInElementType(const S &s, const Dense<T> &result) {
+    T a[N][N], determinant;
+    readMatrix(s, a);
+    determinantOf(a, determinant);
+    result.set(0, determinant);
 }
 
-template <unsigned N, typename T, typename S>
-ZELM_INLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
+template <typename V, unsigned N, typename S>
+__attribute__((noinline)) void determinantsOfGroup(const S &s, Address results, std::uint32_t k) {
+    V a[N][N], determinants;
+    loadMatrix(s, k, a);
+    determinantOf(a, determinants);
+    storePack(results + k * sizeof(ElementOf<V>), determinants);
+}
+
+template <unsigned N, typename S, typename T>
+__attribute__((noinline)) ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
     const DenseArray<T> results(dst, std::int32_t{sizeof(T)}, 0);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        results.object(k).set(0, determinantInElementType<N, T>(s.object(k)));
+        determinantInElementType<N>(s.object(k), results.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-        const Group<S> objects = groupAt(s, k);
-        Pack<T> a[N][N];
-#pragma GCC unroll 6
-        for (unsigned i = 0; i < N; ++i)
-            loadRow<N>(objects, i, a[i]);
-        storePack(results.object(k).start, determinants<T, N>(a));
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        determinantsOfGroup<typename decltype(pack)::Pack, N>(s, results.start, k);
         return true;
     };
-    return forEachMatrix<N, 1>(count, group, one, s, results);
+    return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                         reads(s, N, N));
 }
 
 // ---- the exported rows
@@ -103,7 +104,7 @@ ZELM_INLINE ZelmStatus determinantSingle(const S &s, void *scratch, T *dst, Size
         if constexpr (S::isDense)
             kernel(reinterpret_cast<const T *>(s.start), static_cast<std::int32_t>(s.rowStride), dst);
         else
-            store(addressOf(dst), determinantInElementType<N, T>(s));
+            determinantInElementType<N>(s, Dense<T>(dst, 0));
         return ZELM_OK;
     }
 }
@@ -131,7 +132,11 @@ ZELM_INLINE ZelmStatus determinantArray(const S &s, void *scratch, T *dst, Size 
                    static_cast<std::int32_t>(s.rowStride), dst, count);
             return ZELM_OK;
         } else {
-            return determinantsInElementType<Size::fixed>(s, dst, count);
+            return withPlainest(
+                [&](const auto &plain) __attribute__((always_inline)) {
+                    return determinantsInElementType<Size::fixed>(plain, dst, count);
+                },
+                s);
         }
     }
 }

@@ -1,4 +1,4 @@
-// Determinants in the element type of as many matrices as a pack has lanes.
+// Determinants in the element type, of one matrix or of one matrix per lane of V.
 #pragma once
 
 #include "frame/pack.h"
@@ -7,7 +7,7 @@ namespace zelm::solvers {
 
 using namespace zelm::frame;
 
-template <typename T, unsigned N>
-Pack<T> determinants(const Pack<T> (&a)[N][N]);
+template <typename V, unsigned N>
+void determinantOf(const V (&a)[N][N], V &determinant);
 
 } // namespace zelm::solvers

@@ -1,16 +1,15 @@
-// What the solvers ask before they take objects in groups or in registers.
+// The matrices of a group, and what is asked of a result before it is kept in registers.
 #pragma once
 
+#include "frame/batch.h"
 #include "frame/groups.h"
 #include "frame/objects.h"
-#include "frame/overlap.h"
+#include "frame/plainest.h"
+#include "frame/shapes.h"
 
 namespace zelm::solvers {
 
 using namespace zelm::frame;
-
-// From how many objects on a test that looks at every table entry is worth its time.
-constexpr std::uint32_t kGroupsInTablesCount = 16;
 
 // Whether the elements of one result vector are distinct; those of an array's objects all are if those of the
 // first are.
@@ -36,35 +35,11 @@ ZELM_INLINE bool matrixIsDistinct(const D &d) {
     }
 }
 
-// Whether the objects of a matrix or vector source may be read in groups while `d` is written: asked once for
-// a whole array that is no list.
-template <typename S, typename D>
-ZELM_INLINE bool mayReadAhead(const S &s, unsigned sRows, unsigned columns, const D &d, unsigned rows,
-                              std::uint32_t count) {
-    return (sRows == rows && coincide(s, d)) || isUntouched(s, sRows, columns, d, rows, columns, count);
-}
-
-template <unsigned N, typename D>
-ZELM_INLINE bool mayWriteGroups(const D &d, unsigned rows, std::uint32_t count) {
-    if (count < (D::isTable ? kGroupsInTablesCount : kLanes<typename D::Element>) ||
-        count > kMostObjectsInRange)
-        return false;
-    return elementsAreApart(d, rows, N, count);
-}
-
-// Whether an operand's bytes miss those of a plain buffer.
-template <typename Operand>
-ZELM_INLINE bool missesBuffer(const Operand &operand, unsigned rows, unsigned columns, std::uint32_t count,
-                              const void *buffer, std::int64_t bytes) {
-    const Range range = rangeOf(operand, rows, columns, count);
-    return isKnown(range) && areDisjoint(range, rangeFrom(addressOf(buffer), bytes));
-}
-
-// No object starts at null.
+// No object starts at null. Of lists the frame asks it group by group.
 template <typename Operand>
 ZELM_INLINE bool hasNoNullObject(const Operand &operand, unsigned rows, unsigned columns,
                                  std::uint32_t count) {
-    if constexpr (Operand::isTable) {
+    if constexpr (Operand::isTable || Operand::isList) {
         return true;
     } else {
         const Range range = rangeOf(operand, rows, columns, count);
@@ -72,135 +47,80 @@ ZELM_INLINE bool hasNoNullObject(const Operand &operand, unsigned rows, unsigned
     }
 }
 
-// The same questions for one group of a list: its own objects of `d` apart from each other, and each source
-// apart from all of them or, if it has the shape of d, the same objects.
-template <typename D>
-struct ListGroups {
-    static constexpr unsigned lanes = kLanes<typename D::Element>;
-    const D &d;
-    unsigned rows, columns;
-    Extent written;
-    bool distinct;
-
-    ZELM_INLINE ListGroups(const D &result, unsigned resultRows, unsigned resultColumns)
-        : d(result), rows(resultRows), columns(resultColumns), written(extentOf(d, rows, columns)),
-          distinct(objectElementsAreApart(d, rows, columns)) {}
-
-    ZELM_INLINE bool mayWrite(std::uint32_t k) const {
-        return distinct && !anyEntryNull(d, k) &&
-               areApartFromEachOther(lowestOf<lanes>(d, written, k), written.bytes);
-    }
-
-    template <typename S>
-    ZELM_INLINE bool mayRead(const S &s, unsigned sRows, std::uint32_t k) const {
-        if constexpr (S::isList)
-            if (anyEntryNull(s, k))
-                return false;
-        const Extent read = extentOf(s, sRows, columns);
-        const Lowest<lanes> source = lowestOf<lanes>(s, read, k), target = lowestOf<lanes>(d, written, k);
-        bool same = sRows == rows && s.rowStride == d.rowStride && s.elemStride == d.elemStride;
-        for (unsigned lane = 0; lane < lanes; ++lane)
-            same &= source.at[lane] == target.at[lane];
-        return same || areApartFrom(target, written.bytes, source, read.bytes);
-    }
-
-    // Whether the objects of d miss a plain buffer.
-    ZELM_INLINE bool miss(const void *buffer, Address bytes, std::uint32_t k) const {
-        const Lowest<lanes> target = lowestOf<lanes>(d, written, k);
-        bool apart = true;
-        for (unsigned lane = 0; lane < lanes; ++lane)
-            apart &= areDisjoint(target.at[lane], written.bytes, addressOf(buffer), bytes);
-        return apart;
-    }
-};
-
-// Runs group(k) for whole groups of sources of order N whose results of order M lie apart, one(k) otherwise.
-// A group that says no has written nothing.
-template <unsigned N, unsigned M, typename S, typename D, typename GroupStep, typename One>
-ZELM_INLINE ZelmStatus forEachMatrix(std::uint32_t count, GroupStep group, One one, const S &s, const D &d) {
-    constexpr unsigned lanes = kLanes<typename D::Element>;
-    if constexpr (S::isList) {
-        const Extent read = extentOf(s, N, N), written = extentOf(d, M, M);
-        const bool distinct = objectElementsAreApart(d, M, M);
-        const auto apartGroup = [&](std::uint32_t k) {
-            if (!distinct || anyEntryNull(s, k) || anyEntryNull(d, k))
-                return false;
-            const Lowest<lanes> target = lowestOf<lanes>(d, written, k);
-            return areApartFromEachOther(target, written.bytes) &&
-                   areApartFrom(target, written.bytes, lowestOf<lanes>(s, read, k), read.bytes) && group(k);
-        };
-        return forEachGroup<lanes>(count, apartGroup, one, s, d);
-    } else {
-        if (count < (S::isTable ? kGroupsInTablesCount : lanes) || count > kMostObjectsInRange ||
-            !elementsAreApart(d, M, M, count) || !isUntouched(s, N, N, d, M, M, count))
-            return forEachObject(count, one, s, d);
-        return forEachGroup<lanes>(count, group, one, s, d);
-    }
+// A list whose entries mean nothing by themselves: null is where entry and shift come to it.
+template <typename Operand>
+ZELM_INLINE auto untested(const Operand &operand) {
+    if constexpr (Operand::isList)
+        return Untested<Operand>(operand);
+    else
+        return operand;
 }
+
+// ---- whole matrices. A loop over the rows where elements are gathered one by one: that is long code.
 
 template <typename Array>
-ZELM_INLINE bool anyObjectNull(const Array &array, std::uint32_t k) {
-    bool null = false;
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<typename Array::Element>; ++lane)
-        null |= array.object(k + lane).isNull();
-    return null;
+constexpr bool kRowsAreAdjacent = decltype(std::declval<const Array &>().object(0))::isDense;
+
+template <unsigned N, typename V, typename Array>
+ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N]) {
+    if constexpr (kRowsAreAdjacent<Array>) {
+#pragma GCC unroll 6
+        for (unsigned i = 0; i < N; ++i)
+            loadRow<N>(array, k, i, out[i]);
+    } else {
+#pragma GCC unroll 1
+        for (unsigned i = 0; i < N; ++i)
+            loadRow<N>(array, k, i, out[i]);
+    }
 }
 
-// An operand that serves all objects of an array.
-template <typename A>
-constexpr bool kIsShared = requires(const A &a) {
-    a.get(0u, 0u, 0u);
-};
-
-// The first I + 1 elements of row I of each object, for I from 0 to N - 1: what lies above the diagonal is
-// not touched.
-template <unsigned N, unsigned I = 0, typename Array>
-ZELM_INLINE void loadLower(const Group<Array> &group, Pack<typename Array::Element> (*out)[N]) {
-    using T = typename Array::Element;
-    if constexpr (Array::isTable) {
+template <unsigned N, typename V, typename Array>
+ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
+    if constexpr (kRowsAreAdjacent<Array>) {
 #pragma GCC unroll 6
-        for (unsigned j = 0; j <= I; ++j) {
-            if constexpr (Array::isSideBySide) {
-                out[I][j] = loadPack<T>(group.objects[0].address(I, j, N));
-            } else {
-                LaneAddresses<T> at;
-#pragma GCC unroll 4
-                for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-                    at[lane] = group.objects[lane].address(I, j, N);
-                out[I][j] = gather(at);
-            }
-        }
+        for (unsigned i = 0; i < N; ++i)
+            storeRow<N>(array, k, i, in[i]);
     } else {
-        loadRowOfEach<I + 1>(
-            group, [](unsigned) { return I; }, out[I]);
+#pragma GCC unroll 1
+        for (unsigned i = 0; i < N; ++i)
+            storeRow<N>(array, k, i, in[i]);
     }
-    if constexpr (I + 1 < N)
-        loadLower<N, I + 1>(group, out);
 }
 
-template <unsigned N, unsigned I = 0, typename Array>
-ZELM_INLINE void storeLower(const Group<Array> &group, const Pack<typename Array::Element> (*in)[N]) {
-    using T = typename Array::Element;
-    if constexpr (Array::isTable) {
-#pragma GCC unroll 6
-        for (unsigned j = 0; j <= I; ++j) {
-            if constexpr (Array::isSideBySide) {
-                storePack(group.objects[0].address(I, j, N), in[I][j]);
-            } else {
-                LaneAddresses<T> at;
-#pragma GCC unroll 4
-                for (unsigned lane = 0; lane < kLanes<T>; ++lane)
-                    at[lane] = group.objects[lane].address(I, j, N);
-                scatter(at, in[I][j]);
-            }
-        }
-    } else {
-        storeRowOfEach<I + 1>(
-            group, [](unsigned) { return I; }, in[I]);
-    }
+// ---- lower triangles: what lies above the diagonal is not touched
+
+template <unsigned N, unsigned I = 0, typename V, typename Array>
+ZELM_INLINE void loadLower(const Array &array, std::uint32_t k, V (&out)[N][N]) {
+    loadRow<I + 1, N>(array, k, I, out[I]);
     if constexpr (I + 1 < N)
-        storeLower<N, I + 1>(group, in);
+        loadLower<N, I + 1>(array, k, out);
+}
+
+template <unsigned N, unsigned I = 0, typename V, typename Array>
+ZELM_INLINE void storeLower(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
+    storeRow<I + 1, N>(array, k, I, in[I]);
+    if constexpr (I + 1 < N)
+        storeLower<N, I + 1>(array, k, in);
+}
+
+// ---- one matrix in a local copy
+
+template <unsigned N, typename T, typename S>
+ZELM_INLINE void readMatrix(const S &s, T (&out)[N][N]) {
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            out[i][j] = s.get(i, j, N);
+}
+
+template <unsigned N, typename T, typename D>
+ZELM_INLINE void writeMatrix(const D &d, const T (&in)[N][N]) {
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            d.set(i, j, N, in[i][j]);
 }
 
 } // namespace zelm::solvers

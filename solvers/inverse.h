@@ -55,22 +55,22 @@ __attribute__((noinline)) ZelmStatus invertByElimination(const S &s, void *scrat
 // ---- fixed size
 
 // What a singular matrix leaves in d: where single pivots are taken, the working rows.
-template <typename T, unsigned N, typename D>
-ZELM_INLINE ZelmStatus storeSingular(Outcome outcome, const Pack<T> (&a)[N][N], const D &d) {
-    if constexpr (D::isDense && sizeof(T) == 4 && N > 4) {
+template <bool dense, typename T, unsigned N, typename D>
+ZELM_INLINE ZelmStatus storeSingular(Outcome outcome, const T (&a)[N][N], const D &d) {
+    if constexpr (inverseRule(dense, sizeof(T) == 4, N).way == Way::Pivots) {
         // Row 0 was copied for a search only; without one its first element alone is stored.
         const unsigned inRow0 = outcome == Outcome::SingularAfterSearch ? N : 1;
         for (unsigned j = 0; j < inRow0; ++j)
-            d.set(0, j, N, a[0][j][0]);
+            d.set(0, j, N, a[0][j]);
         if constexpr (N == 6)
             for (unsigned j = 0; j < N; ++j)
-                d.set(1, j, N, a[1][j][0]);
+                d.set(1, j, N, a[1][j]);
     }
     return ZELM_ERR_DIV_BY_ZERO;
 }
 
 ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<float> &d) {
-    __m128 rows[4];
+    Floats4 rows[4];
 #pragma GCC unroll 4
     for (unsigned i = 0; i < 4; ++i)
         rows[i] = loadPack<float>(s.rowStart(i));
@@ -83,61 +83,62 @@ ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<
 }
 
 ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const double> &s, const Dense<double> &d) {
-    __m128d rows[4][2];
+    Doubles2 rows[4][2];
 #pragma GCC unroll 4
     for (unsigned i = 0; i < 4; ++i) {
         rows[i][0] = loadPack<double>(s.rowStart(i));
-        rows[i][1] = loadPack<double>(s.rowStart(i) + kPackBytes);
+        rows[i][1] = loadPack<double>(s.rowStart(i) + kBlockBytes);
     }
     if (!invertRows(rows))
         return ZELM_ERR_DIV_BY_ZERO;
 #pragma GCC unroll 4
     for (unsigned i = 0; i < 4; ++i) {
         storePack(d.rowStart(i), rows[i][0]);
-        storePack(d.rowStart(i) + kPackBytes, rows[i][1]);
+        storePack(d.rowStart(i) + kBlockBytes, rows[i][1]);
     }
     return ZELM_OK;
 }
 
-template <typename T, unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus invertByPacks(const S &s, const D &d) {
-    Pack<T> a[N][N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            a[i][j] = broadcast(s.get(i, j, N));
-    const Outcome outcome = invertAlone<D::isDense, T>(a);
+template <bool dense, unsigned N, typename S, typename D>
+__attribute__((noinline)) ZelmStatus invertInCopy(const S &s, const D &d) {
+    typename D::Element a[N][N];
+    readMatrix(s, a);
+    const Outcome outcome = invertAlone<dense>(a);
     if (outcome != Outcome::Inverted)
-        return storeSingular<T, N>(outcome, a, d);
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            d.set(i, j, N, a[i][j][0]);
+        return storeSingular<dense>(outcome, a, d);
+    writeMatrix(d, a);
     return ZELM_OK;
 }
 
-template <typename T, unsigned N, typename S, typename D>
+// `dense` is the rule of the standard and L forms: a form keeps its rule where it is given rows without gaps.
+template <bool dense, unsigned N, typename S, typename D>
 ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
-    if constexpr (D::isDense && N == 4)
+    if constexpr (dense && N == 4)
         return invertDenseRows(s, d);
     else
-        return invertByPacks<T, N>(s, d);
+        return invertInCopy<dense, N>(s, d);
 }
 
-template <typename T, unsigned N, typename S, typename D>
-ZELM_INLINE bool invertGroupOf(const Group<S> &s, const Group<D> &d) {
-    Pack<T> a[N][N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        loadRow<N>(s, i, a[i]);
-    if (!invertGroup<Group<D>::Object::isDense, T>(a))
+template <typename V, bool dense, unsigned N, typename S, typename D>
+__attribute__((noinline)) bool invertGroupOf(const S &s, const D &d, std::uint32_t k) {
+    V a[N][N];
+    loadMatrix(s, k, a);
+    if (!invertGroup<dense>(a))
         return false;
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        storeRow<N>(d, i, a[i]);
+    storeMatrix(d, k, a);
     return true;
+}
+
+// The matrices of an array.
+template <bool dense, unsigned N, typename S, typename D>
+__attribute__((noinline)) ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        return invertObject<dense, N>(s.object(k), d.object(k));
+    };
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return invertGroupOf<typename decltype(pack)::Pack, dense, N>(s, d, k);
+    };
+    return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(d, N, N), reads(s, N, N));
 }
 
 // ---- the exported rows
@@ -156,7 +157,7 @@ ZELM_INLINE ZelmStatus invertSingle(const S &s, void *scratch, const D &d, Size 
         if (ZelmStatus status = checkSingleWhole(false, tested(s, n * n), tested(d, n * n));
             status != kProceed)
             return status;
-        return invertObject<T, Size::fixed>(s, d);
+        return invertObject<D::isDense, Size::fixed>(s, d);
     }
 }
 
@@ -174,17 +175,15 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
         };
         return forEachObject(count, one, s, d);
     } else {
-        constexpr unsigned N = Size::fixed;
         if (ZelmStatus status = checkArray(false, count, tested(s, n * n), tested(d, n * n));
             status != kProceed)
             return status;
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            return invertObject<T, N>(s.object(k), d.object(k));
-        };
-        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-            return invertGroupOf<T, N, S, D>(groupAt(s, k), groupAt(d, k));
-        };
-        return forEachMatrix<N, N>(count, group, one, s, d);
+        constexpr bool dense = decltype(d.object(0))::isDense;
+        return withPlainest(
+            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+                return invertObjects<dense, Size::fixed>(source, target, count);
+            },
+            s, d);
     }
 }
 

@@ -1,60 +1,47 @@
 #include "solvers/inverse_kernels.h"
 
+#include "solvers/instances.h"
+
 namespace zelm::solvers {
 
-namespace {
-
-// Orders 3 and 4 in all forms, 5 and 6 in those with strides or tables: no lane takes another way than the
-// others. A mask of the lanes whose matrix is singular.
-template <bool dense, typename T, unsigned N>
-ZELM_INLINE Pack<T> invertAlike(Pack<T> (&a)[N][N]) {
-    if constexpr (N > 4) {
-        return invertWithSearch<T>(a);
-    } else {
-        constexpr Singular rule = !dense                     ? Singular::InBand
-                                  : N == 3 && sizeof(T) == 8 ? Singular::ReciprocalZero
-                                                             : Singular::Zero;
-        return invertClosed<dense, rule>(a, a);
-    }
-}
-
-} // namespace
-
-template <bool dense, typename T, unsigned N>
-bool invertGroup(Pack<T> (&a)[N][N]) {
-    if constexpr (!dense || N <= 4) {
-        return !anyLane(invertAlike<dense, T>(a));
-    } else if constexpr (sizeof(T) == 4) {
-        return invertByPivotsInPlace(a);
-    } else {
-        const Pack<T> closed = inBand(determinantOfOrder2(a[0][0], a[0][1], a[1][0], a[1][1]));
+template <bool dense, typename V, unsigned N>
+bool invertGroup(V (&a)[N][N]) {
+    constexpr InverseRule rule = inverseRule(dense, kIs32<V>, N);
+    if constexpr (rule.way == Way::Closed) {
+        return !anyLane(invertClosed<dense, rule.singular>(a, a));
+    } else if constexpr (rule.way == Way::Pivots) {
+        return invertByPivotsUnsearched(a);
+    } else if constexpr (rule.way == Way::ColumnPair) {
+        const Mask<V> closed = inBand(determinantOfOrder2(a[0][0], a[0][1], a[1][0], a[1][1]));
         return !anyLane(closed) && !anyLane(invertByBlocks<2, true>(a));
+    } else {
+        return !anyLane(invertWithSearch(a));
     }
 }
 
 template <bool dense, typename T, unsigned N>
-Outcome invertAlone(Pack<T> (&a)[N][N]) {
-    if constexpr (!dense || N <= 4)
-        return invertGroup<dense, T>(a) ? Outcome::Inverted : Outcome::Singular;
-    else if constexpr (sizeof(T) == 4)
+Outcome invertAlone(T (&a)[N][N]) {
+    constexpr Way way = inverseRule(dense, kIs32<T>, N).way;
+    if constexpr (way == Way::Pivots)
         return invertByPivots(a);
-    else
+    else if constexpr (way == Way::ColumnPair)
         return invertWithColumnPair(a) ? Outcome::Inverted : Outcome::Singular;
+    else
+        return invertGroup<dense>(a) ? Outcome::Inverted : Outcome::Singular;
 }
 
-#define ZELM_INSTANTIATE(T, N)                                                                               \
-    template bool invertGroup<true, T>(Pack<T>(&)[N][N]);                                                    \
-    template bool invertGroup<false, T>(Pack<T>(&)[N][N]);                                                   \
-    template Outcome invertAlone<true, T>(Pack<T>(&)[N][N]);                                                 \
-    template Outcome invertAlone<false, T>(Pack<T>(&)[N][N]);
-ZELM_INSTANTIATE(float, 3)
-ZELM_INSTANTIATE(float, 4)
-ZELM_INSTANTIATE(float, 5)
-ZELM_INSTANTIATE(float, 6)
-ZELM_INSTANTIATE(double, 3)
-ZELM_INSTANTIATE(double, 4)
-ZELM_INSTANTIATE(double, 5)
-ZELM_INSTANTIATE(double, 6)
-#undef ZELM_INSTANTIATE
+#define ZELM_INSTANTIATE_GROUP(V, N)                                                                         \
+    template bool invertGroup<true, V, N>(V(&)[N][N]);                                                       \
+    template bool invertGroup<false, V, N>(V(&)[N][N]);
+// In the standard and L forms a matrix of order 4 alone is inverted by its rows (inverse_rows.h).
+#define ZELM_INSTANTIATE_ALONE(T, N) template Outcome invertAlone<false, T, N>(T(&)[N][N]);
+#define ZELM_INSTANTIATE_DENSE(T)                                                                            \
+    template Outcome invertAlone<true, T, 3>(T(&)[3][3]);                                                    \
+    template Outcome invertAlone<true, T, 5>(T(&)[5][5]);                                                    \
+    template Outcome invertAlone<true, T, 6>(T(&)[6][6]);
+ZELM_PACKS(ZELM_INSTANTIATE_GROUP)
+ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
+ZELM_INSTANTIATE_DENSE(float)
+ZELM_INSTANTIATE_DENSE(double)
 
 } // namespace zelm::solvers

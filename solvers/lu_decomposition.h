@@ -27,25 +27,28 @@ ZELM_INLINE Multiplier<T> luMultiplier(T element, T pivot) {
 }
 
 // One matrix, factored in d as the definition has it, whatever overlaps.
-template <typename S, typename D, typename Size>
-__attribute__((noinline)) ZelmStatus luDecompInPlace(const S &s, Address pivots, const D &d, Size size) {
+template <typename D>
+struct LuThroughDst {
     using T = typename D::Element;
-    const std::uint32_t n = size.value();
-    const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
-    const auto setRow = [&](std::uint32_t i, std::uint32_t r) { store(pivots + Address{i} * 4, r); };
-    constexpr T threshold = static_cast<T>(kLuThreshold);
+    const D &d;
+    Address pivots;
+    std::uint32_t n;
 
-    for (std::uint32_t i = 0; i < n; ++i)
-        for (std::uint32_t j = 0; j < n; ++j)
-            copyElement<T>(d.address(i, j, n), s.address(i, j, n));
-    for (std::uint32_t i = 0; i < n; ++i)
-        setRow(i, i);
+    ZELM_INLINE std::uint32_t row(std::uint32_t i) const {
+        return load<std::uint32_t>(pivots + Address{i} * 4);
+    }
+    ZELM_INLINE void setRow(std::uint32_t i, std::uint32_t r) const { store(pivots + Address{i} * 4, r); }
+    ZELM_INLINE T element(std::uint32_t i, std::uint32_t j) const { return d.get(row(i), j, n); }
+    ZELM_INLINE static bool isPivot(T element) {
+        return magnitude(element) >= static_cast<T>(kLuThreshold);
+    }
 
-    for (std::uint32_t k = 0; k + 1 < n; ++k) {
-        T best = magnitude(d.get(row(k), k, n));
+    // The row of largest magnitude in column k takes place k.
+    ZELM_INLINE std::uint32_t choosePivotRow(std::uint32_t k) const {
+        T best = magnitude(element(k, k));
         std::uint32_t bestPos = k;
         for (std::uint32_t j = k + 1; j < n; ++j) {
-            const T value = magnitude(d.get(row(j), k, n));
+            const T value = magnitude(element(j, k));
             if (value > best) {
                 best = value;
                 bestPos = j;
@@ -54,10 +57,10 @@ __attribute__((noinline)) ZelmStatus luDecompInPlace(const S &s, Address pivots,
         const std::uint32_t pivotRow = row(bestPos);
         setRow(bestPos, row(k));
         setRow(k, pivotRow);
+        return pivotRow;
+    }
 
-        const T pivot = d.get(pivotRow, k, n);
-        if (!(magnitude(pivot) >= threshold))
-            return ZELM_ERR_DIV_BY_ZERO;
+    ZELM_INLINE void eliminate(std::uint32_t k, std::uint32_t pivotRow, T pivot) const {
         for (std::uint32_t j = k + 1; j < n; ++j) {
             const std::uint32_t r = row(j);
             const Multiplier<T> multiplier = luMultiplier(d.get(r, k, n), pivot);
@@ -66,9 +69,26 @@ __attribute__((noinline)) ZelmStatus luDecompInPlace(const S &s, Address pivots,
                 d.set(r, c, n, d.get(pivotRow, c, n) * multiplier.negated + d.get(r, c, n));
         }
     }
-    if (!(magnitude(d.get(row(n - 1), n - 1, n)) >= threshold))
-        return ZELM_ERR_DIV_BY_ZERO;
-    return ZELM_OK;
+};
+
+template <typename S, typename D, typename Size>
+__attribute__((noinline)) ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, Size size) {
+    using T = typename D::Element;
+    const std::uint32_t n = size.value();
+    const LuThroughDst<D> lu = {d, pivots, n};
+    for (std::uint32_t i = 0; i < n; ++i)
+        for (std::uint32_t j = 0; j < n; ++j)
+            copyElement<T>(d.address(i, j, n), s.address(i, j, n));
+    for (std::uint32_t i = 0; i < n; ++i)
+        lu.setRow(i, i);
+    for (std::uint32_t k = 0; k + 1 < n; ++k) {
+        const std::uint32_t pivotRow = lu.choosePivotRow(k);
+        const T pivot = d.get(pivotRow, k, n);
+        if (!lu.isPivot(pivot))
+            return ZELM_ERR_DIV_BY_ZERO;
+        lu.eliminate(k, pivotRow, pivot);
+    }
+    return lu.isPivot(lu.element(n - 1, n - 1)) ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
 // One matrix whose rows lie in whole packs of a local copy: a row is updated a pack at a time, with the lanes
@@ -78,7 +98,7 @@ template <typename T, unsigned N>
 struct LuRows {
     static constexpr unsigned packs = (N + kLanes<T> - 1) / kLanes<T>;
     static constexpr unsigned width = packs * kLanes<T>;
-    alignas(kPackBytes) T element[N][width];
+    alignas(kBlockBytes) T element[N][width];
     std::uint32_t order[N];
 };
 
@@ -96,52 +116,70 @@ inline constexpr LaneMasks<T> kLaneMasks = [] {
     return masks;
 }();
 
+// b, but a in the lanes from `first` on.
+template <typename V>
+ZELM_INLINE V onlyFrom(unsigned first, V a, V b) {
+    using T = ElementOf<V>;
+    const V mask = loadPack<T>(addressOf(kLaneMasks<T>.bits + kLanes<T> - first));
+    return bitOr(bitAnd(mask, a), (V)(~(BitsOf<V>)mask & (BitsOf<V>)b));
+}
+
+// The row of largest magnitude in column k takes place k.
+template <typename T, unsigned N>
+ZELM_INLINE std::uint32_t choosePivotRow(LuRows<T, N> &rows, std::uint32_t k) {
+    auto &order = rows.order;
+    T best = magnitude(rows.element[order[k]][k]);
+    std::uint32_t bestPos = k;
+#pragma GCC unroll 6
+    for (std::uint32_t j = k + 1; j < N; ++j) {
+        const T value = magnitude(rows.element[order[j]][k]);
+        const std::uint32_t wins = value > best;
+        best = value > best ? value : best;
+        bestPos ^= (bestPos ^ j) & (0 - wins);
+    }
+    const std::uint32_t pivotRow = order[bestPos];
+    order[bestPos] = order[k];
+    order[k] = pivotRow;
+    return pivotRow;
+}
+
+template <typename T, unsigned N>
+ZELM_INLINE void eliminateRows(LuRows<T, N> &rows, std::uint32_t k, std::uint32_t pivotRow, T pivot) {
+    constexpr unsigned lanes = kLanes<T>;
+    const unsigned first = (k + 1) / lanes; // the first pack that holds a column behind k
+    const unsigned ahead = (k + 1) % lanes; // its lanes that do not
+#pragma GCC unroll 6
+    for (std::uint32_t j = k + 1; j < N; ++j) {
+        T *row = rows.element[rows.order[j]];
+        const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
+        const Pack<T> negated = broadcast(multiplier.negated);
+#pragma GCC unroll 3
+        for (unsigned p = first; p < LuRows<T, N>::packs; ++p) {
+            const Address at = addressOf(row + p * lanes);
+            const Pack<T> old = loadPack<T>(at);
+            const Pack<T> updated =
+                loadPack<T>(addressOf(rows.element[pivotRow] + p * lanes)) * negated + old;
+            storePack(at, p == first ? onlyFrom(ahead, updated, old) : updated);
+        }
+        row[k] = multiplier.value;
+    }
+}
+
 template <typename T, unsigned N>
 __attribute__((noinline)) ZelmStatus luFactorRows(LuRows<T, N> &rows) {
-    using Rows = LuRows<T, N>;
     constexpr T threshold = static_cast<T>(kLuThreshold);
-    auto &order = rows.order;
 #pragma GCC unroll 6
     for (std::uint32_t i = 0; i < N; ++i)
-        order[i] = i;
+        rows.order[i] = i;
 #pragma GCC unroll 6
     for (std::uint32_t k = 0; k + 1 < N; ++k) {
-        T best = magnitude(rows.element[order[k]][k]);
-        std::uint32_t bestPos = k;
-#pragma GCC unroll 6
-        for (std::uint32_t j = k + 1; j < N; ++j) {
-            const T value = magnitude(rows.element[order[j]][k]);
-            const std::uint32_t wins = value > best;
-            best = value > best ? value : best;
-            bestPos ^= (bestPos ^ j) & (0 - wins);
-        }
-        const std::uint32_t pivotRow = order[bestPos];
-        order[bestPos] = order[k];
-        order[k] = pivotRow;
-
+        const std::uint32_t pivotRow = choosePivotRow(rows, k);
         const T pivot = rows.element[pivotRow][k];
         if (!(magnitude(pivot) >= threshold))
             return ZELM_ERR_DIV_BY_ZERO;
-        constexpr unsigned lanes = kLanes<T>;
-        const unsigned first = (k + 1) / lanes; // the first pack that holds a column behind k
-        const Pack<T> behind = loadPack<T>(addressOf(kLaneMasks<T>.bits + lanes - (k + 1) % lanes));
-#pragma GCC unroll 6
-        for (std::uint32_t j = k + 1; j < N; ++j) {
-            T *row = rows.element[order[j]];
-            const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
-            const Pack<T> negated = broadcast(multiplier.negated);
-#pragma GCC unroll 3
-            for (unsigned p = first; p < Rows::packs; ++p) {
-                const Address at = addressOf(row + p * lanes);
-                const Pack<T> old = loadPack<T>(at);
-                const Pack<T> updated =
-                    loadPack<T>(addressOf(rows.element[pivotRow] + p * lanes)) * negated + old;
-                storePack(at, p == first ? select(behind, updated, old) : updated);
-            }
-            row[k] = multiplier.value;
-        }
+        eliminateRows(rows, k, pivotRow, pivot);
     }
-    return magnitude(rows.element[order[N - 1]][N - 1]) >= threshold ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
+    return magnitude(rows.element[rows.order[N - 1]][N - 1]) >= threshold ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
 // One row of N elements to or from a local row of whole packs.
@@ -150,7 +188,7 @@ ZELM_INLINE void copyRow(Address to, Address from) {
     constexpr unsigned whole = N / kLanes<T>;
 #pragma GCC unroll 3
     for (unsigned p = 0; p < whole; ++p)
-        storePack(to + p * kPackBytes, loadPack<T>(from + p * kPackBytes));
+        storePack(to + p * kBlockBytes, loadPack<T>(from + p * kBlockBytes));
 #pragma GCC unroll 3
     for (unsigned j = whole * kLanes<T>; j < N; ++j)
         copyElement<T>(to + j * sizeof(T), from + j * sizeof(T));
@@ -187,72 +225,75 @@ ZELM_INLINE ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Si
             areDisjoint(pivots, N * 4, d.start, d.rowStride * (N - 1) + N * sizeof(T)))
             return luDecompDense<T, N>(s, pivots, d);
     }
-    return luDecompInPlace(s, pivots, d, size);
+    return luDecompThroughDst(s, pivots, d, size);
 }
 
-// The order of the rows of a group, from numbers in T to the pivotIndex of each object.
-template <unsigned N>
-ZELM_INLINE void storeOrder(const __m128 (&order)[N], Address pivots) {
-    __m128 numbers[N];
+// The order of the rows of a group, from numbers in the element type to the pivotIndex of each object.
+template <unsigned N, typename V>
+ZELM_INLINE void storeOrder(const V (&order)[N], Address pivots) {
+    if constexpr (sizeof(ElementOf<V>) == 4) {
+        typedef std::int32_t Numbers __attribute__((vector_size(sizeof(V))));
+        V numbers[N];
 #pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        numbers[i] = _mm_castsi128_ps(_mm_cvttps_epi32(order[i]));
-    const LaneAddresses<float> at = {pivots, pivots + N * 4, pivots + N * 8, pivots + N * 12};
-    storeAdjacent<float, N>(at, numbers);
-}
-
-template <unsigned N>
-ZELM_INLINE void storeOrder(const __m128d (&order)[N], Address pivots) {
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i) {
-        const __m128i numbers = _mm_cvttpd_epi32(order[i]);
-        store(pivots + i * 4, _mm_cvtsi128_si32(numbers));
-        store(pivots + (N + i) * 4, _mm_cvtsi128_si32(_mm_shuffle_epi32(numbers, 1)));
-    }
-}
-
-// As many matrices as a pack has lanes. False, with nothing written, where one of them needs luDecompObject.
-template <unsigned N, typename S, typename D>
-__attribute__((noinline)) bool luDecompGroup(const Group<S> &s, Address pivots, const Group<D> &d) {
-    using T = typename D::Element;
-    Pack<T> a[N][N], order[N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        loadRow<N>(s, i, a[i]);
-    if (!luFactor<T, N>(a, order))
-        return false;
-    storeOrder<N>(order, pivots);
-    const auto physical = [pivots](unsigned lane, unsigned i) {
-        return load<std::uint32_t>(pivots + (lane * N + i) * 4);
-    };
-    if constexpr (D::isTable) {
-        // Rows of different lanes go to different table entries: element by element.
-        for (unsigned i = 0; i < N; ++i) {
-            for (unsigned lane = 0; lane < kLanes<T>; ++lane) {
-                const std::uint32_t r = physical(lane, i);
-#pragma GCC unroll 6
-                for (unsigned j = 0; j < N; ++j)
-                    copyElement<T>(d.objects[lane].address(r, j, N), addressOf(&a[i][j]) + lane * sizeof(T));
-            }
-        }
+        for (unsigned i = 0; i < N; ++i)
+            numbers[i] = (V)__builtin_convertvector(order[i], Numbers);
+        LaneAddresses<V> at;
+#pragma GCC unroll 16
+        for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+            at[lane] = pivots + lane * N * 4;
+        storeAdjacent<N>(at, numbers);
     } else {
 #pragma GCC unroll 6
         for (unsigned i = 0; i < N; ++i)
-            storeRowOfEach<N>(
-                d, [&](unsigned lane) { return physical(lane, i); }, a[i]);
+            toBlocks(
+                order[i], [pivots, i](unsigned b, Doubles2 two) __attribute__((always_inline)) {
+                    const __m128i numbers = _mm_cvttpd_epi32(two);
+                    store(pivots + (2 * b * N + i) * 4, _mm_cvtsi128_si32(numbers));
+                    store(pivots + ((2 * b + 1) * N + i) * 4,
+                          _mm_cvtsi128_si32(_mm_shuffle_epi32(numbers, 1)));
+                });
+    }
+}
+
+// As many matrices as V has lanes. False, with nothing written, where one of them needs luDecompObject.
+template <typename V, unsigned N, typename S, typename D>
+__attribute__((noinline)) bool luDecompGroup(const S &s, const std::uint32_t *pivotIndex, const D &d,
+                                             std::uint32_t k) {
+    V a[N][N], order[N];
+    loadMatrix(s, k, a);
+    if (!luFactor(a, order))
+        return false;
+    const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
+    storeOrder(order, pivots);
+    const auto storeRowAt = [&](unsigned i) __attribute__((always_inline)) {
+        storeRowOfEach<N>(
+            d, k, [&](unsigned lane) { return load<std::uint32_t>(pivots + (lane * N + i) * 4); }, a[i]);
+    };
+    if constexpr (kRowsAreAdjacent<D>) {
+#pragma GCC unroll 6
+        for (unsigned i = 0; i < N; ++i)
+            storeRowAt(i);
+    } else {
+#pragma GCC unroll 1
+        for (unsigned i = 0; i < N; ++i)
+            storeRowAt(i);
     }
     return true;
 }
 
-// Whether groups of objects may be factored, asked once for a whole array.
+// The matrices of an array, of a fixed size.
 template <unsigned N, typename S, typename D>
-ZELM_INLINE bool luDecompInGroups(const S &s, const std::uint32_t *pivotIndex, const D &d,
-                                  std::uint32_t count) {
-    if (!mayWriteGroups<N>(d, N, count))
-        return false;
-    const Range pivots = rangeFrom(addressOf(pivotIndex), std::int64_t{count} * N * 4);
-    return (coincide(s, d) || isUntouched(s, N, N, d, N, N, count)) &&
-           areDisjoint(pivots, rangeOf(d, N, N, count)) && areDisjoint(pivots, rangeOf(s, N, N, count));
+__attribute__((noinline)) ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, const D &d,
+                                                     std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        return luDecompObject(s.object(k), pivotAddress(pivotIndex, Address{k} * N), d.object(k),
+                              FixedSize<N>());
+    };
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return luDecompGroup<typename decltype(pack)::Pack, N>(s, pivotIndex, d, k);
+    };
+    return forEachInGroups<kLongKernels>(count, writesPerObject(pivotIndex, N * 4), group, one,
+                                         writes(d, N, N), reads(s, N, N, InPlace::Yes));
 }
 
 // ---- the exported rows
@@ -275,46 +316,17 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
                                        tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        return luDecompObject(s.object(k), pivotAddress(pivotIndex, k * n), d.object(k), size);
-    };
     if constexpr (Size::fixed == 0) {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return luDecompObject(s.object(k), pivotAddress(pivotIndex, k * n), d.object(k), size);
+        };
         return forEachObject(count, one, s, d);
     } else {
-        constexpr unsigned N = Size::fixed;
-        constexpr unsigned lanes = kLanes<typename D::Element>;
-        if constexpr (D::isList) {
-            const Extent read = extentOf(s, N, N), written = extentOf(d, N, N);
-            const bool distinct = objectElementsAreApart(d, N, N);
-            const bool sameStrides = s.rowStride == d.rowStride && s.elemStride == d.elemStride;
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                if (!distinct || anyEntryNull(s, k) || anyEntryNull(d, k))
-                    return false;
-                const Lowest<lanes> source = lowestOf<lanes>(s, read, k),
-                                    target = lowestOf<lanes>(d, written, k);
-                const Address pivots = pivotAddress(pivotIndex, k * n);
-                constexpr Address pivotBytes = lanes * N * 4;
-                bool inPlace = sameStrides;
-                for (unsigned lane = 0; lane < lanes; ++lane)
-                    inPlace &= source.at[lane] == target.at[lane];
-                if (!areApartFromEachOther(target, written.bytes) ||
-                    !(inPlace || areApartFrom(target, written.bytes, source, read.bytes)))
-                    return false;
-                for (unsigned lane = 0; lane < lanes; ++lane)
-                    if (!areDisjoint(pivots, pivotBytes, target.at[lane], written.bytes) ||
-                        !areDisjoint(pivots, pivotBytes, source.at[lane], read.bytes))
-                        return false;
-                return luDecompGroup<N>(groupAt(s, k), pivots, groupAt(d, k));
-            };
-            return forEachGroup<lanes>(count, group, one, s, d);
-        } else {
-            if (!luDecompInGroups<N>(s, pivotIndex, d, count))
-                return forEachObject(count, one, s, d);
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                return luDecompGroup<N>(groupAt(s, k), pivotAddress(pivotIndex, k * n), groupAt(d, k));
-            };
-            return forEachGroup<lanes>(count, group, one, s, d);
-        }
+        return withPlainest(
+            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+                return luDecompObjects<Size::fixed>(source, pivotIndex, target, count);
+            },
+            s, d);
     }
 }
 

@@ -1,96 +1,104 @@
 #include "solvers/lu_kernels.h"
 
+#include "frame/masks.h"
+#include "solvers/instances.h"
+
 namespace zelm::solvers {
 
-template <typename T, unsigned N>
-bool luFactor(Pack<T> (&a)[N][N], Pack<T> (&order)[N]) {
-    using V = Pack<T>;
-    const V zero = broadcast(T{0});
-    const V threshold = broadcast(static_cast<T>(kLuThreshold));
-    V fails = zero;
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        order[i] = broadcast(static_cast<T>(i));
+namespace {
 
+// Exchanges row k with the first row from there on of largest magnitude in column k; a NaN never wins and is
+// never replaced.
+template <typename V, unsigned N>
+ZELM_INLINE void bringPivotUp(V (&a)[N][N], V (&order)[N], unsigned k) {
+    using T = ElementOf<V>;
+    V best = magnitude(a[k][k]), bestPos = spread<V>(static_cast<T>(k));
 #pragma GCC unroll 6
-    for (unsigned k = 0; k < N - 1; ++k) {
-        // The first row of largest magnitude; a NaN never wins and is never replaced.
-        V best = magnitude(a[k][k]), bestPos = broadcast(static_cast<T>(k));
-#pragma GCC unroll 6
-        for (unsigned j = k + 1; j < N; ++j) {
-            const V value = magnitude(a[j][k]);
-            const V wins = greater(value, best);
-            best = select(wins, value, best);
-            bestPos = select(wins, broadcast(static_cast<T>(j)), bestPos);
-        }
-#pragma GCC unroll 6
-        for (unsigned j = k + 1; j < N; ++j) {
-            const V here = equal(bestPos, broadcast(static_cast<T>(j)));
-            exchange(here, order[k], order[j]);
-#pragma GCC unroll 6
-            for (unsigned c = 0; c < N; ++c)
-                exchange(here, a[k][c], a[j][c]);
-        }
-        const V pivot = a[k][k];
-        fails = bitOr(fails, notGreaterEqual(magnitude(pivot), threshold));
-#pragma GCC unroll 6
-        for (unsigned j = k + 1; j < N; ++j) {
-            // One division in T has the bits of a division in 64-bit float that is rounded to T: the quotient
-            // of two 24-bit significands is never near enough to a rounding boundary for the first rounding
-            // to matter.
-            const V multiplier = a[j][k] / pivot;
-            if constexpr (sizeof(T) == 4)
-                fails = bitOr(fails, bitAnd(equal(multiplier, zero), notEqual(a[j][k], zero)));
-            a[j][k] = multiplier;
-            const V negated = zero - multiplier;
-#pragma GCC unroll 6
-            for (unsigned c = k + 1; c < N; ++c)
-                a[j][c] = a[k][c] * negated + a[j][c];
-        }
+    for (unsigned j = k + 1; j < N; ++j) {
+        const V value = magnitude(a[j][k]);
+        const Mask<V> wins = greater(value, best);
+        best = select(wins, value, best);
+        bestPos = select(wins, spread<V>(static_cast<T>(j)), bestPos);
     }
-    fails = bitOr(fails, notGreaterEqual(magnitude(a[N - 1][N - 1]), threshold));
-    return !anyLane(fails);
+#pragma GCC unroll 6
+    for (unsigned j = k + 1; j < N; ++j) {
+        const Mask<V> here = equal(bestPos, spread<V>(static_cast<T>(j)));
+        exchangeWhere(here, order[k], order[j]);
+#pragma GCC unroll 6
+        for (unsigned c = 0; c < N; ++c)
+            exchangeWhere(here, a[k][c], a[j][c]);
+    }
 }
 
-template <typename T, unsigned N>
-void luSolve(const Pack<T> (&a)[N][N], Pack<T> (&x)[N]) {
-    using V = Pack<T>;
+// The lanes whose multiplier is too small.
+template <typename V, unsigned N>
+ZELM_INLINE Mask<V> eliminateColumn(V (&a)[N][N], unsigned k) {
+    const V zero = {}, pivot = a[k][k];
+    Mask<V> fails = noLane<V>();
+#pragma GCC unroll 6
+    for (unsigned j = k + 1; j < N; ++j) {
+        // One division in the element type has the bits of a division in 64-bit float that is rounded to it:
+        // the quotient of two 24-bit significands is never near enough to a rounding boundary for the first
+        // rounding to matter.
+        const V multiplier = a[j][k] / pivot;
+        if constexpr (sizeof(ElementOf<V>) == 4)
+            fails = fails | (equal(multiplier, zero) & notEqual(a[j][k], zero));
+        a[j][k] = multiplier;
+        const V negated = zero - multiplier;
+#pragma GCC unroll 6
+        for (unsigned c = k + 1; c < N; ++c)
+            a[j][c] = a[k][c] * negated + a[j][c];
+    }
+    return fails;
+}
+
+} // namespace
+
+template <typename V, unsigned N>
+bool luFactor(V (&a)[N][N], V (&order)[N]) {
+    using T = ElementOf<V>;
+    const V threshold = spread<V>(static_cast<T>(kLuThreshold));
+    Mask<V> fails = noLane<V>();
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        order[i] = spread<V>(static_cast<T>(i));
+#pragma GCC unroll 6
+    for (unsigned k = 0; k < N - 1; ++k) {
+        bringPivotUp(a, order, k);
+        fails = fails | notGreaterEqual(magnitude(a[k][k]), threshold);
+        fails = fails | eliminateColumn(a, k);
+    }
+    return !anyLane(fails | notGreaterEqual(magnitude(a[N - 1][N - 1]), threshold));
+}
+
+template <typename V, typename F, unsigned N>
+void luSolve(const F (&a)[N][N], V (&x)[N]) {
 #pragma GCC unroll 6
     for (unsigned i = 1; i < N; ++i) {
-        V sum = broadcast(T{0});
+        V sum = {};
 #pragma GCC unroll 6
         for (unsigned j = 0; j < i; ++j)
-            sum = sum + a[i][j] * x[j];
+            sum = sum + inLanes<V>(a[i][j]) * x[j];
         x[i] = x[i] - sum;
     }
-    x[N - 1] = x[N - 1] / a[N - 1][N - 1];
+    x[N - 1] = x[N - 1] / inLanes<V>(a[N - 1][N - 1]);
 #pragma GCC unroll 6
     for (unsigned m = 0; m < N - 1; ++m) {
         const unsigned i = N - 2 - m;
-        V sum = broadcast(T{0});
+        V sum = {};
 #pragma GCC unroll 6
         for (unsigned j = i + 1; j < N; ++j)
-            sum = sum + a[i][j] * x[j];
-        x[i] = (x[i] - sum) / a[i][i];
+            sum = sum + inLanes<V>(a[i][j]) * x[j];
+        x[i] = (x[i] - sum) / inLanes<V>(a[i][i]);
     }
 }
 
-template bool luFactor<float, 3>(Pack<float> (&)[3][3], Pack<float> (&)[3]);
-template bool luFactor<float, 4>(Pack<float> (&)[4][4], Pack<float> (&)[4]);
-template bool luFactor<float, 5>(Pack<float> (&)[5][5], Pack<float> (&)[5]);
-template bool luFactor<float, 6>(Pack<float> (&)[6][6], Pack<float> (&)[6]);
-template bool luFactor<double, 3>(Pack<double> (&)[3][3], Pack<double> (&)[3]);
-template bool luFactor<double, 4>(Pack<double> (&)[4][4], Pack<double> (&)[4]);
-template bool luFactor<double, 5>(Pack<double> (&)[5][5], Pack<double> (&)[5]);
-template bool luFactor<double, 6>(Pack<double> (&)[6][6], Pack<double> (&)[6]);
-
-template void luSolve<float, 3>(const Pack<float> (&)[3][3], Pack<float> (&)[3]);
-template void luSolve<float, 4>(const Pack<float> (&)[4][4], Pack<float> (&)[4]);
-template void luSolve<float, 5>(const Pack<float> (&)[5][5], Pack<float> (&)[5]);
-template void luSolve<float, 6>(const Pack<float> (&)[6][6], Pack<float> (&)[6]);
-template void luSolve<double, 3>(const Pack<double> (&)[3][3], Pack<double> (&)[3]);
-template void luSolve<double, 4>(const Pack<double> (&)[4][4], Pack<double> (&)[4]);
-template void luSolve<double, 5>(const Pack<double> (&)[5][5], Pack<double> (&)[5]);
-template void luSolve<double, 6>(const Pack<double> (&)[6][6], Pack<double> (&)[6]);
+#define ZELM_INSTANTIATE(V, N)                                                                               \
+    template bool luFactor<V, N>(V(&)[N][N], V(&)[N]);                                                       \
+    template void luSolve<V, V, N>(const V(&)[N][N], V(&)[N]);
+#define ZELM_INSTANTIATE_SHARED(V, N)                                                                        \
+    template void luSolve<V, Pack<ElementOf<V>>, N>(const Pack<ElementOf<V>>(&)[N][N], V(&)[N]);
+ZELM_PACKS(ZELM_INSTANTIATE)
+ZELM_WIDE_PACKS(ZELM_INSTANTIATE_SHARED)
 
 } // namespace zelm::solvers

@@ -1,4 +1,4 @@
-// LU decomposition and its solver on a group of matrices that lies in registers, one matrix per lane.
+// LU decomposition and its solver on a group of matrices that lies in registers, one matrix per lane of V.
 #pragma once
 
 #include "frame/pack.h"
@@ -10,14 +10,16 @@ using namespace zelm::frame;
 // A pivot below this counts as zero, in both element types.
 constexpr double kLuThreshold = 0x1p-23;
 
-// Factors a in place by the elimination of luDecompObject, with rows really exchanged: row i of the result is
-// row order[i], a number in T, of the matrix. False where a lane needs the elimination one by one, because
-// its pivot fails or because its multiplier is too small for T: the contents are then of no use.
-template <typename T, unsigned N>
-bool luFactor(Pack<T> (&a)[N][N], Pack<T> (&order)[N]);
+// Factors a in place by the elimination of luDecompThroughDst, but with rows really exchanged: row i of the
+// result is row order[i], a number in the element type, of the matrix. False where a lane needs the
+// elimination one by one, because its pivot fails or because its multiplier is too small for the element
+// type: the contents are then of no use.
+template <typename V, unsigned N>
+bool luFactor(V (&a)[N][N], V (&order)[N]);
 
-// Solves with the factors a, rows in pivot order; x comes as b in pivot order and goes as the solution.
-template <typename T, unsigned N>
-void luSolve(const Pack<T> (&a)[N][N], Pack<T> (&x)[N]);
+// Solves with the factors a, rows in pivot order; x comes as b in pivot order and goes as the solution. F is
+// V, or a block whose lanes are all alike where one matrix serves all lanes.
+template <typename V, typename F, unsigned N>
+void luSolve(const F (&a)[N][N], V (&x)[N]);
 
 } // namespace zelm::solvers

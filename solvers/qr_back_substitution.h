@@ -2,12 +2,13 @@
 #pragma once
 
 #include "solvers/qr_decomposition.h"
+#include "solvers/systems.h"
 
 namespace zelm::solvers {
 
 // One system, as the definition has it: scratch holds what the reflectors make of b.
 template <typename A, typename B, typename D, typename Shape>
-__attribute__((noinline)) void qrSolveInPlace(const A &a, Address scratch, const B &b, const D &d,
+__attribute__((noinline)) void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d,
                                               Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
@@ -41,13 +42,10 @@ template <unsigned N, typename A, typename B, typename D>
 __attribute__((noinline)) void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
     using T = typename D::Element;
     T factors[N][N], scale[N], w[N], x[N];
+    readMatrix(a, factors);
 #pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i) {
+    for (unsigned i = 0; i < N; ++i)
         w[i] = b.get(i);
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            factors[i][j] = a.get(i, j, N);
-    }
     qrScales(factors, scale);
     qrSolve(factors, scale, w, x);
     storeScratch(scratch, w);
@@ -61,109 +59,64 @@ ZELM_INLINE void qrSolveObject(const A &a, Address scratch, const B &b, const D 
     if constexpr (Shape::isFixed)
         if (resultIsDistinct<Shape::rows()>(d))
             return qrSolveInCopy<Shape::rows()>(a, scratch, b, d);
-    qrSolveInPlace(a, scratch, b, d, RunTimeShape{shape.rows(), shape.columns()});
+    qrSolveThroughScratch(a, scratch, b, d, RunTimeShape{shape.rows(), shape.columns()});
 }
 
-// As many systems as a pack has lanes, with the factors and their scales in packs.
-template <unsigned N, typename T, typename B, typename D>
-__attribute__((noinline)) void qrSolveGroupShared(const Pack<T> (&factors)[N][N], const Pack<T> (&scale)[N],
-                                                  Address scratch, const Group<B> &b, const Group<D> &d) {
-    Pack<T> w[N], x[N];
-    loadRow<N>(b, 0, w);
-    qrSolve(factors, scale, w, x);
-    storeScratchOfGroup<T, N>(scratch, w);
-    storeRow<N>(d, 0, x);
-}
+// Systems by their QR factors: see systems.h.
+template <unsigned N>
+struct QrSystems {
+    static constexpr unsigned order = N;
+    Address scratch;
+    template <typename F>
+    struct Factors {
+        F a[N][N], scale[N];
+    };
 
-// The same with a matrix for each system.
-template <unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) void qrSolveGroup(const Group<A> &a, Address scratch, const Group<B> &b,
-                                            const Group<D> &d) {
-    using T = typename D::Element;
-    Pack<T> factors[N][N], scale[N], w[N], x[N];
+    template <typename A, typename B, typename V>
+    ZELM_INLINE bool loadGroup(const A &a, const B &b, std::uint32_t k, Factors<V> &factors,
+                               V (&x)[N]) const {
+        loadMatrix(a, k, factors.a);
+        qrScales(factors.a, factors.scale);
+        loadRight(b, k, x);
+        return true;
+    }
+
+    template <typename A, typename F>
+    ZELM_INLINE bool hold(const A &a, Factors<F> &factors) const {
+        for (unsigned i = 0; i < N; ++i)
+            for (unsigned j = 0; j < N; ++j)
+                factors.a[i][j] = spread<F>(a.get(i, j, N));
+        qrScales(factors.a, factors.scale);
+        return true;
+    }
+
+    template <typename B, typename V>
+    ZELM_INLINE void loadRight(const B &b, std::uint32_t k, V (&x)[N]) const {
+        loadRow<N>(b, k, 0, x);
+    }
+
+    template <typename F, typename V>
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
+        V w[N];
 #pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        loadRow<N>(a, i, factors[i]);
-    loadRow<N>(b, 0, w);
-    qrScales(factors, scale);
-    qrSolve(factors, scale, w, x);
-    storeScratchOfGroup<T, N>(scratch, w);
-    storeRow<N>(d, 0, x);
-}
-
-// Whether groups may be solved, asked once for an array that is no list.
-template <unsigned N, typename A, typename B, typename D>
-ZELM_INLINE bool qrSolveInGroups(const A &a, const void *scratch, const B &b, const D &d,
-                                 std::uint32_t count) {
-    constexpr std::int64_t bytes = N * sizeof(typename D::Element);
-    return mayWriteGroups<N>(d, 1, count) && isUntouched(a, N, N, d, 1, N, count) &&
-           mayReadAhead(b, 1, N, d, 1, count) && missesBuffer(a, N, N, count, scratch, bytes) &&
-           missesBuffer(b, 1, N, count, scratch, bytes) && missesBuffer(d, 1, N, count, scratch, bytes);
-}
-
-template <unsigned N, typename A, typename B, typename D>
-ZELM_INLINE bool qrSolveFits(const ListGroups<D> &groups, const A &a, const void *scratch, const B &b,
-                             std::uint32_t k) {
-    return groups.mayWrite(k) && groups.mayRead(a, N, k) && groups.mayRead(b, 1, k) &&
-           groups.miss(scratch, N * sizeof(typename D::Element), k);
-}
-
-// A matrix for each system.
-template <unsigned N, typename A, typename B, typename D, typename One>
-ZELM_INLINE ZelmStatus qrSolveOwn(const A &a, const void *scratch, const B &b, const D &d, One one,
-                                  std::uint32_t count) {
-    constexpr unsigned lanes = kLanes<typename D::Element>;
-    if constexpr (!D::isList)
-        if (!qrSolveInGroups<N>(a, scratch, b, d, count))
-            return forEachObject(count, one, a, b, d);
-    const auto solve = [&](std::uint32_t k) {
-        qrSolveGroup<N>(groupAt(a, k), addressOf(scratch), groupAt(b, k), groupAt(d, k));
-        return true;
-    };
-    if constexpr (D::isList) {
-        const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-            return qrSolveFits<N>(groups, a, scratch, b, k) && solve(k);
-        };
-        return forEachGroup<lanes>(count, group, one, a, b, d);
-    } else {
-        return forEachGroup<lanes>(count, solve, one, a, b, d);
+        for (unsigned i = 0; i < N; ++i)
+            w[i] = x[i];
+        qrSolve(factors.a, factors.scale, w, x);
+        storeScratchOfGroup(scratch, w);
     }
-}
+};
 
-// One matrix for all systems: its elements are spread over all lanes once.
-template <unsigned N, typename A, typename B, typename D, typename One>
-ZELM_INLINE ZelmStatus qrSolveShared(const A &a, const void *scratch, const B &b, const D &d, One one,
-                                     std::uint32_t count) {
-    using T = typename D::Element;
-    constexpr unsigned lanes = kLanes<T>;
-    bool grouped = count >= lanes;
-    if constexpr (!D::isList)
-        grouped = grouped && qrSolveInGroups<N>(a, scratch, b, d, count);
-    if (!grouped)
-        return forEachObject(count, one, a, b, d);
-
-    Pack<T> factors[N][N], scale[N];
-    for (unsigned i = 0; i < N; ++i)
-        for (unsigned j = 0; j < N; ++j)
-            factors[i][j] = broadcast(a.get(i, j, N));
-    qrScales(factors, scale);
-    const auto solve = [&](std::uint32_t k) {
-        qrSolveGroupShared<N, T>(factors, scale, addressOf(scratch), groupAt(b, k), groupAt(d, k));
-        return true;
+// The systems of an array, of a fixed size.
+template <unsigned N, typename A, typename B, typename D>
+__attribute__((noinline)) ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, const D &d,
+                                                    std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
+        return ZELM_OK;
     };
-    if constexpr (D::isList) {
-        const ListGroups<D> groups(d, 1, N);
-        const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-            // Once an object is done by itself for its overlap, the matrix may be another one than was
-            // spread.
-            grouped = grouped && qrSolveFits<N>(groups, a, scratch, b, k);
-            return grouped && solve(k);
-        };
-        return forEachGroup<lanes>(count, group, one, a, b, d);
-    } else {
-        return forEachGroup<lanes>(count, solve, one, a, b, d);
-    }
+    return solveSystems(QrSystems<N>{addressOf(scratch)},
+                        writesForAll(scratch, N * sizeof(typename D::Element)), one, a, b, InPlace::Yes, d,
+                        count);
 }
 
 // ---- the exported rows
@@ -187,16 +140,19 @@ ZELM_INLINE ZelmStatus qrSolveArray(const A &a, T *scratch, const B &b, const D 
                        tested(b, shape.columns()), tested(d, shape.columns()));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), shape);
-        return ZELM_OK;
-    };
-    if constexpr (!Shape::isFixed)
+    if constexpr (Shape::isFixed) {
+        return withPlainest(
+            [&](const auto &matrix, const auto &right, const auto &target) __attribute__((always_inline)) {
+                return qrSolveObjects<Shape::rows()>(matrix, scratch, right, target, count);
+            },
+            a, b, d);
+    } else {
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), shape);
+            return ZELM_OK;
+        };
         return forEachObject(count, one, a, b, d);
-    else if constexpr (kIsShared<A>)
-        return qrSolveShared<Shape::rows()>(a, scratch, b, d, one, count);
-    else
-        return qrSolveOwn<Shape::rows()>(a, scratch, b, d, one, count);
+    }
 }
 
 } // namespace zelm::solvers

@@ -1,10 +1,8 @@
 // QR decomposition by Householder reflections; Q is kept as the vectors of its reflectors.
 #pragma once
 
-#include "frame/shapes.h"
 #include "solvers/groups.h"
 #include "solvers/qr_kernels.h"
-#include "solvers/roots.h"
 
 namespace zelm::solvers {
 
@@ -14,16 +12,42 @@ ZELM_INLINE std::uint32_t reflectors(Shape shape) {
     return shape.rows() == shape.columns() ? shape.columns() - 1 : shape.columns();
 }
 
+// The reflector of column k, whose sum of squares is q, made in v and applied to d.
+template <typename T, typename D>
+ZELM_INLINE void reflectThroughDst(const D &d, const Dense<T> &v, std::uint32_t k, T q, std::uint32_t rows,
+                                   std::uint32_t columns) {
+    const T a = d.get(k, k, columns);
+    const T root = squareRoot(q);
+    const T norm = a > 0 ? root : 0 - root;
+    v.set(k, 1);
+    const T c = 1 / (a + norm);
+    T u = 1;
+    for (std::uint32_t i = k + 1; i < rows; ++i) {
+        const T element = d.get(i, k, columns) * c;
+        v.set(i, element);
+        u = u + element * element;
+    }
+    const T b = -2 / u;
+    for (std::uint32_t j = k; j < columns; ++j) {
+        T t = d.get(k, j, columns);
+        for (std::uint32_t i = k + 1; i < rows; ++i)
+            t = t + d.get(i, j, columns) * v.get(i);
+        t = t * b;
+        for (std::uint32_t i = k; i < rows; ++i)
+            d.set(i, j, columns, d.get(i, j, columns) + v.get(i) * t);
+    }
+    for (std::uint32_t i = k + 1; i < rows; ++i)
+        d.set(i, k, columns, v.get(i));
+}
+
 // One matrix, factored in d as the definition has it, whatever overlaps.
 template <typename S, typename D, typename Shape>
-__attribute__((noinline)) ZelmStatus qrInPlace(const S &s, Address scratch, const D &d, Shape shape) {
+__attribute__((noinline)) ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
-    const Dense<T> v(scratch, 0);
     for (std::uint32_t i = 0; i < rows; ++i)
         for (std::uint32_t j = 0; j < columns; ++j)
             copyElement<T>(d.address(i, j, columns), s.address(i, j, columns));
-
     for (std::uint32_t k = 0; k < r; ++k) {
         T q = 0;
         for (std::uint32_t i = k; i < rows; ++i) {
@@ -32,28 +56,7 @@ __attribute__((noinline)) ZelmStatus qrInPlace(const S &s, Address scratch, cons
         }
         if (!(q >= static_cast<T>(kQrThreshold)))
             return ZELM_ERR_DIV_BY_ZERO;
-        const T a = d.get(k, k, columns);
-        const T root = squareRoot(q);
-        const T norm = a > 0 ? root : 0 - root;
-        v.set(k, 1);
-        const T c = 1 / (a + norm);
-        T u = 1;
-        for (std::uint32_t i = k + 1; i < rows; ++i) {
-            const T element = d.get(i, k, columns) * c;
-            v.set(i, element);
-            u = u + element * element;
-        }
-        const T b = -2 / u;
-        for (std::uint32_t j = k; j < columns; ++j) {
-            T t = d.get(k, j, columns);
-            for (std::uint32_t i = k + 1; i < rows; ++i)
-                t = t + d.get(i, j, columns) * v.get(i);
-            t = t * b;
-            for (std::uint32_t i = k; i < rows; ++i)
-                d.set(i, j, columns, d.get(i, j, columns) + v.get(i) * t);
-        }
-        for (std::uint32_t i = k + 1; i < rows; ++i)
-            d.set(i, k, columns, v.get(i));
+        reflectThroughDst(d, Dense<T>(scratch, 0), k, q, rows, columns);
     }
     return ZELM_OK;
 }
@@ -67,11 +70,12 @@ ZELM_INLINE void storeScratch(Address scratch, const T (&v)[N]) {
 }
 
 // The same as the last object of a group leaves it.
-template <typename T, unsigned N>
-ZELM_INLINE void storeScratchOfGroup(Address scratch, const Pack<T> (&v)[N]) {
+template <unsigned N, typename V>
+ZELM_INLINE void storeScratchOfGroup(Address scratch, const V (&v)[N]) {
+    using T = ElementOf<V>;
 #pragma GCC unroll 6
     for (unsigned i = 0; i < N; ++i)
-        copyElement<T>(scratch + i * sizeof(T), addressOf(&v[i]) + kPackBytes - sizeof(T));
+        copyElement<T>(scratch + i * sizeof(T), addressOf(&v[i]) + sizeof(V) - sizeof(T));
 }
 
 // One matrix of a fixed size in a local copy, where the elements of d are distinct.
@@ -79,17 +83,9 @@ template <unsigned N, typename S, typename D>
 __attribute__((noinline)) ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
     using T = typename D::Element;
     T a[N][N], v[N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            a[i][j] = s.get(i, j, N);
-    const unsigned made = qrFactor<T, N>(a, v);
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            d.set(i, j, N, a[i][j]);
+    readMatrix(s, a);
+    const unsigned made = qrFactor(a, v);
+    writeMatrix(d, a);
     if (made != 0)
         storeScratch(scratch, v);
     return made == N - 1 ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
@@ -100,24 +96,33 @@ ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape s
     if constexpr (Shape::isFixed)
         if (matrixIsDistinct<Shape::rows()>(d))
             return qrInCopy<Shape::rows()>(s, scratch, d);
-    return qrInPlace(s, scratch, d, RunTimeShape{shape.rows(), shape.columns()});
+    return qrThroughDst(s, scratch, d, RunTimeShape{shape.rows(), shape.columns()});
 }
 
-// As many matrices as a pack has lanes. False, with nothing written, where a column of one of them fails.
-template <unsigned N, typename S, typename D>
-__attribute__((noinline)) bool qrGroup(const Group<S> &s, Address scratch, const Group<D> &d) {
-    using T = typename D::Element;
-    Pack<T> a[N][N], v[N];
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        loadRow<N>(s, i, a[i]);
-    if (!qrFactorGroup<T, N>(a, v))
+// As many matrices as V has lanes. False, with nothing written, where a column of one of them fails.
+template <typename V, unsigned N, typename S, typename D>
+__attribute__((noinline)) bool qrGroup(const S &s, Address scratch, const D &d, std::uint32_t k) {
+    V a[N][N], v[N];
+    loadMatrix(s, k, a);
+    if (!qrFactorGroup(a, v))
         return false;
-#pragma GCC unroll 6
-    for (unsigned i = 0; i < N; ++i)
-        storeRow<N>(d, i, a[i]);
-    storeScratchOfGroup<T, N>(scratch, v);
+    storeMatrix(d, k, a);
+    storeScratchOfGroup(scratch, v);
     return true;
+}
+
+// The matrices of an array, of a fixed size.
+template <unsigned N, typename S, typename D>
+__attribute__((noinline)) ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::uint32_t count) {
+    const Address buffer = addressOf(scratch);
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        return qrObject(s.object(k), buffer, d.object(k), FixedShape<N, N>());
+    };
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return qrGroup<typename decltype(pack)::Pack, N>(s, buffer, d, k);
+    };
+    return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)), group,
+                                         one, writes(d, N, N), reads(s, N, N, InPlace::Yes));
 }
 
 // ---- the exported rows
@@ -137,32 +142,17 @@ ZELM_INLINE ZelmStatus qrArray(const S &s, T *scratch, const D &d, Shape shape, 
                                        tested(d, shape.elements()), tested(Pointer(scratch), 0));
         status != kProceed)
         return status;
-    const Address buffer = addressOf(scratch);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        return qrObject(s.object(k), buffer, d.object(k), shape);
-    };
-    if constexpr (!Shape::isFixed) {
-        return forEachObject(count, one, s, d);
+    if constexpr (Shape::isFixed) {
+        return withPlainest(
+            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+                return qrObjects<Shape::rows()>(source, scratch, target, count);
+            },
+            s, d);
     } else {
-        constexpr unsigned N = Shape::rows(), lanes = kLanes<T>;
-        if constexpr (D::isList) {
-            const ListGroups<D> groups(d, N, N);
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                return groups.mayWrite(k) && groups.mayRead(s, N, k) &&
-                       groups.miss(scratch, N * sizeof(T), k) &&
-                       qrGroup<N>(groupAt(s, k), buffer, groupAt(d, k));
-            };
-            return forEachGroup<lanes>(count, group, one, s, d);
-        } else {
-            if (!mayWriteGroups<N>(d, N, count) || !mayReadAhead(s, N, N, d, N, count) ||
-                !missesBuffer(s, N, N, count, scratch, N * sizeof(T)) ||
-                !missesBuffer(d, N, N, count, scratch, N * sizeof(T)))
-                return forEachObject(count, one, s, d);
-            const auto group = [&](std::uint32_t k) __attribute__((always_inline)) {
-                return qrGroup<N>(groupAt(s, k), buffer, groupAt(d, k));
-            };
-            return forEachGroup<lanes>(count, group, one, s, d);
-        }
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return qrObject(s.object(k), addressOf(scratch), d.object(k), shape);
+        };
+        return forEachObject(count, one, s, d);
     }
 }
 

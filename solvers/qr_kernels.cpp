@@ -1,43 +1,16 @@
 #include "solvers/qr_kernels.h"
 
-#include "solvers/roots.h"
+#include "frame/masks.h"
+#include "solvers/instances.h"
 
 namespace zelm::solvers {
 
-// A constant as an element or in all lanes.
-ZELM_INLINE void spread(float &to, float value) {
-    to = value;
-}
-ZELM_INLINE void spread(double &to, float value) {
-    to = value;
-}
-ZELM_INLINE void spread(__m128 &to, float value) {
-    to = broadcast(value);
-}
-ZELM_INLINE void spread(__m128d &to, float value) {
-    to = broadcast(static_cast<double>(value));
-}
-
-template <typename V>
-ZELM_INLINE V constant(float value) {
-    V v;
-    spread(v, value);
-    return v;
-}
+namespace {
 
 // -s where not (a > 0). s is not zero, so the sign bit is all there is to it; a NaN stays one.
-ZELM_INLINE float negatedUnlessPositive(float s, float a) {
-    return a > 0 ? s : 0 - s;
-}
-ZELM_INLINE double negatedUnlessPositive(double s, double a) {
-    return a > 0 ? s : 0 - s;
-}
-ZELM_INLINE __m128 negatedUnlessPositive(__m128 s, __m128 a) {
-    const __m128 zero = _mm_setzero_ps();
-    return select(greater(a, zero), s, zero - s);
-}
-ZELM_INLINE __m128d negatedUnlessPositive(__m128d s, __m128d a) {
-    const __m128d zero = _mm_setzero_pd();
+template <typename V>
+ZELM_INLINE V negatedUnlessPositive(V s, V a) {
+    const V zero = {};
     return select(greater(a, zero), s, zero - s);
 }
 
@@ -54,7 +27,7 @@ ZELM_INLINE V sumOfSquares(const V (&a)[N][N], unsigned k) {
 // The reflector of column k, whose sum of squares is q, made and applied.
 template <typename V, unsigned N>
 ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
-    const V one = constant<V>(1);
+    const V one = spread<V>(1);
     // The root of a 32-bit q in 64-bit float, rounded, is the root in 32-bit float.
     const V s = negatedUnlessPositive(squareRoot(q), a[k][k]);
     const V c = one / (a[k][k] + s);
@@ -65,7 +38,7 @@ ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
         v[i] = a[i][k] * c;
         u = u + v[i] * v[i];
     }
-    const V b = constant<V>(-2) / u;
+    const V b = spread<V>(-2) / u;
 #pragma GCC unroll 6
     for (unsigned j = k; j < N; ++j) {
         V t = a[k][j];
@@ -85,6 +58,8 @@ ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
         a[i][k] = v[i];
 }
 
+} // namespace
+
 template <typename T, unsigned N>
 unsigned qrFactor(T (&a)[N][N], T (&v)[N]) {
 #pragma GCC unroll 6
@@ -97,14 +72,14 @@ unsigned qrFactor(T (&a)[N][N], T (&v)[N]) {
     return N - 1;
 }
 
-template <typename T, unsigned N>
-bool qrFactorGroup(Pack<T> (&a)[N][N], Pack<T> (&v)[N]) {
-    const Pack<T> threshold = broadcast(static_cast<T>(kQrThreshold));
-    Pack<T> fails = broadcast(T{0});
+template <typename V, unsigned N>
+bool qrFactorGroup(V (&a)[N][N], V (&v)[N]) {
+    const V threshold = spread<V>(static_cast<ElementOf<V>>(kQrThreshold));
+    Mask<V> fails = noLane<V>();
 #pragma GCC unroll 6
     for (unsigned k = 0; k < N - 1; ++k) {
-        const Pack<T> q = sumOfSquares(a, k);
-        fails = bitOr(fails, notGreaterEqual(q, threshold));
+        const V q = sumOfSquares(a, k);
+        fails = fails | notGreaterEqual(q, threshold);
         reflect(a, v, k, q);
     }
     return !anyLane(fails);
@@ -114,55 +89,55 @@ template <typename V, unsigned N>
 void qrScales(const V (&a)[N][N], V (&scale)[N]) {
 #pragma GCC unroll 6
     for (unsigned k = 0; k < N - 1; ++k) {
-        V u = constant<V>(1);
+        V u = spread<V>(1);
 #pragma GCC unroll 6
         for (unsigned i = k + 1; i < N; ++i)
             u = u + a[i][k] * a[i][k];
-        scale[k] = constant<V>(-2) / u;
+        scale[k] = spread<V>(-2) / u;
     }
 }
 
-template <typename V, unsigned N>
-void qrSolve(const V (&a)[N][N], const V (&scale)[N], V (&w)[N], V (&x)[N]) {
+template <typename V, typename F, unsigned N>
+void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (&x)[N]) {
+    const auto factor = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
+        return inLanes<V>(a[i][j]);
+    };
 #pragma GCC unroll 6
     for (unsigned k = 0; k < N - 1; ++k) {
         V t = w[k];
 #pragma GCC unroll 6
         for (unsigned i = k + 1; i < N; ++i)
-            t = t + w[i] * a[i][k];
-        t = t * scale[k];
+            t = t + w[i] * factor(i, k);
+        t = t * inLanes<V>(scale[k]);
         w[k] = w[k] + t;
 #pragma GCC unroll 6
         for (unsigned i = k + 1; i < N; ++i)
-            w[i] = w[i] + a[i][k] * t;
+            w[i] = w[i] + factor(i, k) * t;
     }
-    x[N - 1] = w[N - 1] / a[N - 1][N - 1];
+    x[N - 1] = w[N - 1] / factor(N - 1, N - 1);
 #pragma GCC unroll 6
     for (unsigned back = 2; back <= N; ++back) {
         const unsigned i = N - back;
-        V sum = constant<V>(0);
+        V sum = {};
 #pragma GCC unroll 6
         for (unsigned j = i + 1; j < N; ++j)
-            sum = sum + a[i][j] * x[j];
-        x[i] = (w[i] - sum) / a[i][i];
+            sum = sum + factor(i, j) * x[j];
+        x[i] = (w[i] - sum) / factor(i, i);
     }
 }
 
-#define ZELM_QR(T, N)                                                                                        \
-    template unsigned qrFactor(T(&)[N][N], T(&)[N]);                                                         \
-    template bool qrFactorGroup<T, N>(Pack<T>(&)[N][N], Pack<T>(&)[N]);                                      \
-    template void qrScales(const T(&)[N][N], T(&)[N]);                                                       \
-    template void qrScales(const Pack<T>(&)[N][N], Pack<T>(&)[N]);                                           \
-    template void qrSolve(const T(&)[N][N], const T(&)[N], T(&)[N], T(&)[N]);                                \
-    template void qrSolve(const Pack<T>(&)[N][N], const Pack<T>(&)[N], Pack<T>(&)[N], Pack<T>(&)[N])
-
-ZELM_QR(float, 3);
-ZELM_QR(float, 4);
-ZELM_QR(float, 5);
-ZELM_QR(float, 6);
-ZELM_QR(double, 3);
-ZELM_QR(double, 4);
-ZELM_QR(double, 5);
-ZELM_QR(double, 6);
+#define ZELM_INSTANTIATE_SOLVER(V, N)                                                                        \
+    template void qrScales<V, N>(const V(&)[N][N], V(&)[N]);                                                 \
+    template void qrSolve<V, V, N>(const V(&)[N][N], const V(&)[N], V(&)[N], V(&)[N]);
+#define ZELM_INSTANTIATE_SHARED(V, N)                                                                        \
+    template void qrSolve<V, Pack<ElementOf<V>>, N>(                                                         \
+        const Pack<ElementOf<V>>(&)[N][N], const Pack<ElementOf<V>>(&)[N], V(&)[N], V(&)[N]);
+#define ZELM_INSTANTIATE_ALONE(T, N) template unsigned qrFactor<T, N>(T(&)[N][N], T(&)[N]);
+#define ZELM_INSTANTIATE_GROUP(V, N) template bool qrFactorGroup<V, N>(V(&)[N][N], V(&)[N]);
+ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
+ZELM_ELEMENTS(ZELM_INSTANTIATE_SOLVER)
+ZELM_PACKS(ZELM_INSTANTIATE_GROUP)
+ZELM_PACKS(ZELM_INSTANTIATE_SOLVER)
+ZELM_WIDE_PACKS(ZELM_INSTANTIATE_SHARED)
 
 } // namespace zelm::solvers

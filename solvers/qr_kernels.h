@@ -17,15 +17,16 @@ template <typename T, unsigned N>
 unsigned qrFactor(T (&a)[N][N], T (&v)[N]);
 
 // The same for a group. False where a column of any lane fails: the contents are then of no use.
-template <typename T, unsigned N>
-bool qrFactorGroup(Pack<T> (&a)[N][N], Pack<T> (&v)[N]);
+template <typename V, unsigned N>
+bool qrFactorGroup(V (&a)[N][N], V (&v)[N]);
 
 // -2 / v.v of each reflector of the factors a.
 template <typename V, unsigned N>
 void qrScales(const V (&a)[N][N], V (&scale)[N]);
 
-// Solves with the factors a and their scales: w comes as b and goes as what the reflectors make of it.
-template <typename V, unsigned N>
-void qrSolve(const V (&a)[N][N], const V (&scale)[N], V (&w)[N], V (&x)[N]);
+// Solves with the factors a and their scales: w comes as b and goes as what the reflectors make of it. F is
+// V, or a block whose lanes are all alike where one matrix serves all lanes.
+template <typename V, typename F, unsigned N>
+void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (&x)[N]);
 
 } // namespace zelm::solvers
