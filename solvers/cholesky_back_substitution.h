@@ -142,7 +142,7 @@ ZELM_INLINE ZelmStatus choleskySolveArray(const A &a, const B &b, const D &d, Si
         return ZELM_OK;
     return withPlainest(
         [&](const auto &matrix, const auto &right, const auto &target) __attribute__((always_inline)) {
-            return choleskySolveObjects(matrix, untested(right), untested(target), size,
+            return choleskySolveObjects(untested(matrix), untested(right), untested(target), size,
                                         static_cast<std::uint32_t>(count));
         },
         a, b, d);
