@@ -18,4 +18,13 @@ struct Grouping {
 // A few operations per element: dot and cross products, norms.
 constexpr Grouping kShortKernels = {kWidestBytes, 8};
 
+// Products of matrices and vectors, across objects.
+constexpr Grouping kProductKernels = {kWidestBytes, 8};
+
+// Runs of adjacent elements: whole arrays, and the elements of one object.
+constexpr unsigned kRunBytes = kWidestBytes, kShortRunBytes = widestUpTo(32);
+
+// Between rows and planes.
+constexpr unsigned kMoveBytes = kWidestBytes;
+
 } // namespace zelm::frame
