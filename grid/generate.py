@@ -240,7 +240,8 @@ STATUS_TEXT = {
 }
 
 
-def row_comment(row):
+def row_paragraphs(row):
+    """What documents the members of a row: formula, shapes and units, statuses, overlap."""
     family = FAMILIES[row.family]
     words = row.arguments.split()
     shapes = []
@@ -266,13 +267,12 @@ def row_comment(row):
     if row.is_array:
         units.append("count in objects")
     units.append("strides and shifts in bytes")
-    paragraphs = [
+    return [
         row.formula + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
         "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
         "Overlap: " + family.overlap,
     ]
-    return block_comment(paragraphs)
 
 
 def block_comment(paragraphs):
@@ -297,7 +297,7 @@ def kernel_declarations(family):
 
 
 def row_declarations(row, row_members):
-    out = [row_comment(row)]
+    out = [block_comment(row_paragraphs(row))]
     regular = next((m for m in row_members if m.name not in DEPARTURES), None)
     # The row's comment documents what follows it, so a regular member comes first.
     for member in sorted(row_members, key=lambda m: m is not regular):
