@@ -9,6 +9,7 @@
 #include "png_writer.h"
 #include "relief.h"
 #include "report.h"
+#include "surface_writer.h"
 #include "survey.h"
 
 #include <algorithm>
@@ -67,14 +68,15 @@ void run(const Options &options, Progress &progress) {
     const CellUnit unit = unitOf(options, grid);
 
     Outputs outputs;
-    OutputFile &relief = outputs.open(options.relief);
-    OutputFile &curvature = outputs.open(options.curvature);
-    const auto openGrid = [&](const std::optional<std::string> &name) {
+    const auto open = [&](const std::optional<std::string> &name) {
         return name ? &outputs.open(*name) : nullptr;
     };
-    OutputFile *slopeGrid = openGrid(options.slopeGrid);
-    OutputFile *aspectGrid = openGrid(options.aspectGrid);
-    OutputFile *curvatureGrid = openGrid(options.curvatureGrid);
+    OutputFile *relief = open(options.relief);
+    OutputFile *curvature = open(options.curvature);
+    OutputFile *slopeGrid = open(options.slopeGrid);
+    OutputFile *aspectGrid = open(options.aspectGrid);
+    OutputFile *curvatureGrid = open(options.curvatureGrid);
+    SurfaceWriter surfaces(open(options.surfaces));
 
     const Survey survey = surveyGrid(grid,
                                      {.unit = unit,
@@ -82,11 +84,15 @@ void run(const Options &options, Progress &progress) {
                                       .curvature = options.curvatureKind,
                                       .method = options.method,
                                       .use32bit = options.use32bit},
-                                     progress);
+                                     surfaces, progress);
     const Layers &layers = survey.layers;
     const double scale = curvatureScale(layers);
-    writePng(shadedRelief(grid, layers, options.exaggeration), relief);
-    writePng(curvatureMap(grid, layers, scale), curvature);
+    if (relief != nullptr) {
+        writePng(shadedRelief(grid, layers, options.exaggeration), *relief);
+    }
+    if (curvature != nullptr) {
+        writePng(curvatureMap(grid, layers, scale), *curvature);
+    }
     if (slopeGrid != nullptr) {
         writeGrid(
             grid, [&](std::size_t cell) { return slopeDegrees(layers.east[cell], layers.north[cell]); },
@@ -125,7 +131,7 @@ int main(int argc, char **argv) {
         const Options options = parseOptions(argc, argv);
         switch (options.action) {
         case Options::Action::Help:
-            std::fputs(helpText, stdout);
+            std::fputs(helpText().c_str(), stdout);
             break;
         case Options::Action::Version:
             printVersion();

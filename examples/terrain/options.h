@@ -17,11 +17,12 @@ struct Options {
     Action action = Action::Survey;
 
     std::string input;
-    std::string relief = "relief.png";
-    std::string curvature = "curvature.png";
+    std::optional<std::string> relief; // set by parseOptions() wherever pictures can be written
+    std::optional<std::string> curvature;
     std::optional<std::string> slopeGrid;
     std::optional<std::string> aspectGrid;
     std::optional<std::string> curvatureGrid;
+    std::optional<std::string> surfaces;
 
     Curvature curvatureKind = Curvature::Mean;
     Method method = Method::Lu;
@@ -41,6 +42,6 @@ public:
 // Throws UsageError.
 Options parseOptions(int argc, char **argv);
 
-extern const char *const helpText;
+std::string helpText();
 
 } // namespace terrain

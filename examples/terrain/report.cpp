@@ -55,8 +55,10 @@ void printReport(const Options &options, const Grid &grid, CellUnit unit, const 
                     survey.steepestSlope, survey.steepestRow + 1, survey.steepestColumn + 1);
     }
     std::printf("curvature  %s, full colour at %.3g per m\n", nameOf(options.curvatureKind), scale);
-    std::printf("written    %s, %s: %zu x %zu pixels\n", options.relief.c_str(), options.curvature.c_str(),
-                grid.columns, grid.rows);
+    if (options.relief && options.curvature) {
+        std::printf("written    %s, %s: %zu x %zu pixels\n", options.relief->c_str(),
+                    options.curvature->c_str(), grid.columns, grid.rows);
+    }
 }
 
 void printVersion() {

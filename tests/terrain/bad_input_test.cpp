@@ -137,11 +137,11 @@ TEST(BadInput, LatitudesBeyondThePole) {
 
 TEST(BadInput, EarlierOutputsStay) {
     const Sandbox sandbox;
-    sandbox.write("relief.png", "of an earlier run");
+    sandbox.write("slope.asc", "of an earlier run");
     sandbox.write("bad.asc", header + "1 2 3\n");
-    EXPECT_EQ(sandbox.run({"bad.asc"}).status, 2);
-    EXPECT_TRUE(sandbox.read("relief.png") == "of an earlier run");
-    EXPECT_EQ(sandbox.files(), (Names{"bad.asc", "relief.png"}));
+    EXPECT_EQ(sandbox.run({"--slope-grid", "slope.asc", "bad.asc"}).status, 2);
+    EXPECT_TRUE(sandbox.read("slope.asc") == "of an earlier run");
+    EXPECT_EQ(sandbox.files(), (Names{"bad.asc", "slope.asc"}));
 }
 
 TEST(BadInput, Options) {
@@ -151,7 +151,7 @@ TEST(BadInput, Options) {
     expectRefused(sandbox, {"good.asc", "good.asc"}, "expected one grid file, found 2 (see --help)");
     expectRefused(sandbox, {"--colour", "good.asc"},
                   "expected an option that --help lists, found '--colour'");
-    expectRefused(sandbox, {"good.asc", "--relief"}, "--relief: expected a value behind it");
+    expectRefused(sandbox, {"good.asc", "--surfaces"}, "--surfaces: expected a value behind it");
     expectRefused(sandbox, {"--float", "16", "good.asc"}, "--float: expected 32 or 64, found '16'");
     expectRefused(sandbox, {"--weight-exponent", "3", "good.asc"},
                   "--weight-exponent: expected a number from 0 to 2, found '3'");
@@ -163,9 +163,9 @@ TEST(BadInput, Options) {
                   "--curvature-kind: expected mean, profile or tangential, found 'gaussian'");
     expectRefused(sandbox, {"--geographic", "--cellsize", "30", "good.asc"},
                   "expected one of --geographic and --cellsize, found both");
-    expectRefused(sandbox, {"--relief", "a.png", "--curvature", "a.png", "good.asc"},
-                  "expected different files, found 'a.png' twice");
-    expectRefused(sandbox, {"--relief", "./good.asc", "good.asc"},
+    expectRefused(sandbox, {"--slope-grid", "a.asc", "--surfaces", "a.asc", "good.asc"},
+                  "expected different files, found 'a.asc' twice");
+    expectRefused(sandbox, {"--slope-grid", "./good.asc", "good.asc"},
                   "expected different files, found './good.asc' twice");
     EXPECT_EQ(sandbox.files(), Names{"good.asc"});
     EXPECT_EQ(sandbox.read("good.asc"), header + twoRows);
