@@ -31,7 +31,7 @@ constexpr const char *usage =
 )";
 
 struct Options {
-    std::string library = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS, filter = ".", json;
+    std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS, filter = ".", json;
     bool isQuick = false, isList = false;
 };
 
@@ -45,7 +45,7 @@ Options parse(int argc, char **argv) {
     for (int letter = 0; (letter = getopt_long(argc, argv, "", known, nullptr)) != -1;) {
         switch (letter) {
         case 'l':
-            options.library = optarg;
+            options.measured = optarg;
             break;
         case 'b':
             options.beside = optarg;
@@ -85,9 +85,9 @@ int run(const Options &options) {
         }
         return 0;
     }
-    const Library library(options.library);
+    const Library library(options.measured);
     const auto beside = options.beside.empty() ? nullptr : std::make_unique<Library>(options.beside);
-    Results results(options.json, options.library, options.beside, options.peers);
+    Results results(options.json, options.measured, options.beside, options.peers);
     const auto peers = options.peers == "none" ? nullptr : std::make_unique<Library>(options.peers);
     const PeerTable table(peers.get());
     for (const Row &row : rows) {

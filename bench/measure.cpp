@@ -41,7 +41,9 @@ std::vector<double> fastest(const std::vector<Contender> &contenders, const Effo
     for (int round = 0, sinceProgress = 0;
          round < effort.mostRounds && (round < effort.leastRounds || sinceProgress < effort.leastRounds / 2);
          ++round, ++sinceProgress) {
-        for (std::size_t c = 0; c < contenders.size(); ++c) {
+        for (std::size_t place = 0; place < contenders.size(); ++place) {
+            // The first of a round finds colder caches than the others, so they take turns.
+            const std::size_t c = (place + static_cast<std::size_t>(round)) % contenders.size();
             const double seconds = secondsOf(contenders[c], runs[c], turns[c]) / static_cast<double>(runs[c]);
             if (seconds < best[c] * progress) {
                 sinceProgress = 0;
