@@ -25,7 +25,12 @@ void writeGrid(const Grid &grid, const std::function<double(std::size_t cell)> &
     field(text, "nrows", static_cast<double>(grid.rows));
     field(text, "xllcorner", grid.west);
     field(text, "yllcorner", grid.south);
-    field(text, "cellsize", grid.cellSize);
+    if (grid.cellWidth == grid.cellHeight) {
+        field(text, "cellsize", grid.cellWidth);
+    } else {
+        field(text, "dx", grid.cellWidth);
+        field(text, "dy", grid.cellHeight);
+    }
     field(text, "NODATA_value", noData);
     for (std::size_t row = 0; row < grid.rows; ++row) {
         for (std::size_t column = 0; column < grid.columns; ++column) {

@@ -51,12 +51,12 @@ private:
 
 CellUnit unitOf(const Options &options, Grid &grid) {
     if (options.cellSize) {
-        grid.cellSize = *options.cellSize;
+        grid.cellWidth = grid.cellHeight = *options.cellSize;
         return CellUnit::Metres;
     }
     const CellUnit unit = options.unit.value_or(guessUnit(grid));
     const double farthest = std::max(std::fabs(grid.centre(0)), std::fabs(grid.centre(grid.rows - 1)));
-    if (unit == CellUnit::Degrees && farthest > 90 + grid.cellSize) {
+    if (unit == CellUnit::Degrees && farthest > 90 + grid.cellHeight) {
         throw InputError(options.input, "expected latitudes from -90 to 90 for --geographic, a row lies at " +
                                             std::to_string(farthest));
     }
@@ -85,6 +85,13 @@ void run(const Options &options, Progress &progress) {
                                       .method = options.method,
                                       .use32bit = options.use32bit},
                                      surfaces, progress);
+    if (survey.solved == 0) {
+        throw InputError(options.input,
+                         "expected a cell with enough neighbours to fit a surface; none of the " +
+                             std::to_string(survey.singular) +
+                             " cells with data has six within two cells that do not lie on one "
+                             "line or conic section");
+    }
     const Layers &layers = survey.layers;
     const double scale = curvatureScale(layers);
     if (relief != nullptr) {

@@ -38,9 +38,12 @@ void printReport(const Options &options, const Grid &grid, CellUnit unit, const 
     const CellSize size = cellSizeAt(grid, grid.rows / 2, unit);
     std::printf("grid       %zu rows of %zu cells, %zu without data\n", grid.rows, grid.columns,
                 survey.withoutData);
-    std::printf("cell       %.9g %s, %.1f m west-east by %.1f m north-south in the middle row\n",
-                grid.cellSize, unit == CellUnit::Degrees ? "degrees" : "metres", size.eastWest,
-                size.northSouth);
+    std::printf("cell       %.9g", grid.cellWidth);
+    if (grid.cellHeight != grid.cellWidth) {
+        std::printf(" by %.9g", grid.cellHeight);
+    }
+    std::printf(" %s, %.1f m west-east by %.1f m north-south in the middle row\n",
+                unit == CellUnit::Degrees ? "degrees" : "metres", size.eastWest, size.northSouth);
     std::printf("systems    %zu of %s solved by %s in %d-bit float\n", survey.solved,
                 options.method == Method::Qr ? "25x6" : "6x6", nameOf(options.method),
                 options.use32bit ? 32 : 64);
