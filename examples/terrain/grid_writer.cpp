@@ -18,7 +18,8 @@ void field(std::string &text, const char *key, double value) {
 
 } // namespace
 
-void writeGrid(const Grid &grid, const std::function<double(std::size_t cell)> &value, OutputFile &file) {
+void writeGrid(const Grid &grid, const std::function<double(std::size_t cell)> &value, Progress &progress,
+               OutputFile &file) {
     constexpr float noData = -9999; // no slope, aspect or curvature in 1/m comes near it
     std::string text;
     field(text, "ncols", static_cast<double>(grid.columns));
@@ -40,6 +41,7 @@ void writeGrid(const Grid &grid, const std::function<double(std::size_t cell)> &
         }
         std::fwrite(text.data(), 1, text.size(), file.stream()); // close() tells whether it failed
         text.clear();
+        progress.show("writing", row + 1, grid.rows);
     }
 }
 

@@ -27,6 +27,8 @@ Output:
   --curvature-grid FILE    curvature in 1/m, positive where convex
   --surfaces FILE          a to f of every fitted surface as CSV, with all digits
   --exaggeration X         heights are multiplied by X for the shading (2)
+  --sea-level Z|none       what lies below Z metres is sea in the relief (0)
+  --no-legend              pictures of the map alone, one pixel per cell
   --progress               show progress also where there is no terminal
 
 Fit:
@@ -63,6 +65,8 @@ enum Code : int {
     floatBits,
     weightExponent,
     exaggeration,
+    seaLevel,
+    noLegend,
     geographic,
     projected,
     cellSize,
@@ -82,6 +86,8 @@ const option longOptions[] = {{"relief", required_argument, nullptr, relief},
                               {"float", required_argument, nullptr, floatBits},
                               {"weight-exponent", required_argument, nullptr, weightExponent},
                               {"exaggeration", required_argument, nullptr, exaggeration},
+                              {"sea-level", required_argument, nullptr, seaLevel},
+                              {"no-legend", no_argument, nullptr, noLegend},
                               {"geographic", no_argument, nullptr, geographic},
                               {"projected", no_argument, nullptr, projected},
                               {"cellsize", required_argument, nullptr, cellSize},
@@ -177,6 +183,15 @@ void apply(int code, const std::string &name, Options &options) {
         break;
     case exaggeration:
         options.exaggeration = numberWithin(name, smallest, largest, "a positive number");
+        break;
+    case seaLevel:
+        options.seaLevel =
+            std::string(optarg) == "none"
+                ? std::nullopt
+                : std::optional(numberWithin(name, -largest, largest, "a number of metres or none"));
+        break;
+    case noLegend:
+        options.legend = false;
         break;
     case geographic:
         options.unit = CellUnit::Degrees;

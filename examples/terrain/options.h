@@ -29,6 +29,8 @@ struct Options {
     bool use32bit = false;
     double weightExponent = 1;
     double exaggeration = 2;
+    std::optional<double> seaLevel = 0;
+    bool legend = true;
     std::optional<CellUnit> unit;
     std::optional<double> cellSize; // metres
     Progress::Show progress = Progress::Show::OnTerminal;
