@@ -80,7 +80,8 @@ HeightRange heightRange(const Grid &grid) {
 }
 
 Legend reliefLegend(const ReliefSettings &settings, const CellSize &cell) {
-    const auto [low, high] = settings.range;
+    const double low = settings.range.low;
+    const double high = settings.range.high;
     const double span = high - low;
     Legend legend = {"height in m",
                      {{0, heightText(low)}, {1, heightText(high)}},
