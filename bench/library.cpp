@@ -2,30 +2,22 @@
 
 #include <dlfcn.h>
 
-#include <cstdlib>
 #include <stdexcept>
 
 namespace zelmbench {
-namespace {
 
-void *openLibrary() {
-    const char *chosen = std::getenv("ZELM_LIBRARY");
-    void *library = dlopen(chosen != nullptr ? chosen : ZELM_BENCH_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) {
+Library::Library(const std::string &path) : handle_(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
+    if (handle_ == nullptr) {
         throw std::runtime_error(dlerror());
     }
-    return library;
 }
 
-} // namespace
-
-void *findSymbol(const std::string &name) {
-    static void *const library = openLibrary();
-    void *symbol = dlsym(library, name.c_str());
+AnyFunction Library::find(const std::string &name) const {
+    void *symbol = dlsym(handle_, name.c_str());
     if (symbol == nullptr) {
         throw std::runtime_error(dlerror());
     }
-    return symbol;
+    return reinterpret_cast<AnyFunction>(symbol);
 }
 
 } // namespace zelmbench

@@ -1,18 +1,19 @@
-// The shared object under measurement, loaded as any caller would load it.
+// Shared objects, loaded by path.
 #pragma once
+
+#include "member.h"
 
 #include <string>
 
 namespace zelmbench {
 
-// The address of an exported function; throws std::runtime_error if the library or the name isn't there. The
-// library is the file that the environment variable ZELM_LIBRARY names, or else the one that was built with
-// this program.
-void *findSymbol(const std::string &name);
+class Library {
+public:
+    explicit Library(const std::string &path); // throws std::runtime_error
+    AnyFunction find(const std::string &name) const;
 
-template <class Function>
-Function *find(const std::string &name) {
-    return reinterpret_cast<Function *>(findSymbol(name));
-}
+private:
+    void *handle_;
+};
 
 } // namespace zelmbench

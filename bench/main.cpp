@@ -1,65 +1,108 @@
-// Runs the rows of every family; takes the options of Google Benchmark.
-#include "families.h"
+// Measures the rows whose names match, prints a line for each and writes all figures as JSON.
 #include "library.h"
+#include "measure.h"
+#include "member.h"
+#include "problem.h"
+#include "results.h"
+#include "rows.h"
 
-#include "zelm.h"
-
-#include <Eigen/Core>
-#include <benchmark/benchmark.h>
+#include <getopt.h>
 
 #include <exception>
-#include <fstream>
 #include <iostream>
+#include <memory>
+#include <regex>
 #include <string>
 
 namespace {
 
-std::string processorName() {
-    std::ifstream file("/proc/cpuinfo");
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with("model name")) {
-            return line.substr(line.find(": ") + 2);
+using namespace zelmbench;
+
+constexpr const char *usage =
+    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--filter REGEX] [--quick] [--json FILE] [--list]
+
+  --library FILE  the library that is measured, instead of the one built beside this program
+  --beside FILE   another build of it, measured in the same samples: own time over its time
+  --peers FILE    other peers ("none" measures none)
+  --filter REGEX  rows that it is found in, like 'zelmMul_.*_P/'
+  --quick         few short samples
+  --json FILE     writes the figures
+  --list          prints the names of the rows only
+)";
+
+struct Options {
+    std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS, filter = ".", json;
+    bool isQuick = false, isList = false;
+};
+
+Options parse(int argc, char **argv) {
+    static const option known[] = {
+        {"library", required_argument, nullptr, 'l'}, {"beside", required_argument, nullptr, 'b'},
+        {"peers", required_argument, nullptr, 'p'},   {"filter", required_argument, nullptr, 'f'},
+        {"json", required_argument, nullptr, 'j'},    {"quick", no_argument, nullptr, 'q'},
+        {"list", no_argument, nullptr, 'n'},          {}};
+    Options options;
+    for (int letter = 0; (letter = getopt_long(argc, argv, "", known, nullptr)) != -1;) {
+        switch (letter) {
+        case 'l':
+            options.measured = optarg;
+            break;
+        case 'b':
+            options.beside = optarg;
+            break;
+        case 'p':
+            options.peers = optarg;
+            break;
+        case 'f':
+            options.filter = optarg;
+            break;
+        case 'j':
+            options.json = optarg;
+            break;
+        case 'q':
+            options.isQuick = true;
+            break;
+        case 'n':
+            options.isList = true;
+            break;
+        default:
+            throw std::runtime_error(usage);
         }
     }
-    return "unknown";
+    if (optind != argc) {
+        throw std::runtime_error(usage);
+    }
+    return options;
 }
 
-// What a reader of the results must know of how they came about.
-void describeRun() {
-    const auto *version = zelmbench::find<decltype(zelmGetLibVersion)>("zelmGetLibVersion")();
-    benchmark::AddCustomContext("target", version->targetCode);
-    benchmark::AddCustomContext("library", version->fileName + std::string(" ") + version->versionText);
-    benchmark::AddCustomContext("compiler", ZELM_BENCH_COMPILER);
-    benchmark::AddCustomContext("library_flags", ZELM_BENCH_LIBRARY_FLAGS);
-    benchmark::AddCustomContext("peer_flags", ZELM_BENCH_PEER_FLAGS);
-    benchmark::AddCustomContext("eigen", std::to_string(EIGEN_WORLD_VERSION) + "." +
-                                             std::to_string(EIGEN_MAJOR_VERSION) + "." +
-                                             std::to_string(EIGEN_MINOR_VERSION));
-    benchmark::AddCustomContext("processor", processorName());
+int run(const Options &options) {
+    const std::regex filter(options.filter);
+    std::vector<Row> rows = allRows();
+    std::erase_if(rows, [&](const Row &row) { return !std::regex_search(row.name, filter); });
+    if (options.isList) {
+        for (const Row &row : rows) {
+            std::cout << row.name << '\n';
+        }
+        return 0;
+    }
+    const Library library(options.measured);
+    const auto beside = options.beside.empty() ? nullptr : std::make_unique<Library>(options.beside);
+    Results results(options.json, options.measured, options.beside, options.peers);
+    const auto peers = options.peers == "none" ? nullptr : std::make_unique<Library>(options.peers);
+    const PeerTable table(peers.get());
+    for (const Row &row : rows) {
+        results.add(row, measureRow(row, library, beside.get(), table, options.isQuick ? quick : thorough));
+    }
+    return results.finish() && !rows.empty() ? 0 : 1;
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
     try {
-        describeRun();
+        return run(parse(argc, argv));
     } catch (const std::exception &error) {
-        std::cerr << "zelm_bench: " << error.what() << '\n';
+        std::cerr << error.what() << '\n';
         return 2;
     }
-    zelmbench::addMovementRows();
-    zelmbench::addVectorSumRows();
-    zelmbench::addElementwiseRows();
-    zelmbench::addVectorAlgebraRows();
-    zelmbench::addInverseRows();
-    zelmbench::addProductRows();
-    zelmbench::addLuRows();
-    zelmbench::addCholeskyAndQrRows();
-    const std::size_t rows = benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return rows > 0 ? 0 : 1;
 }

@@ -189,7 +189,7 @@ ZELM_INLINE ZelmStatus byTableOfElements(const A &a, const B &b, const D &d, Fix
 // and their row strides are multiples of 16, and element by element otherwise. Where the two disagree, the
 // registers meet the wrong elements, and empty halves are zero.
 
-constexpr unsigned kPackedRegisters = 6, kRegisters = 9;
+constexpr unsigned kRegisters = 9;
 
 struct HeldRegisters {
     double low[kRegisters], high[kRegisters];
@@ -365,12 +365,12 @@ ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Den
     const Pack<T> factors = broadcast(factor);
 #pragma GCC unroll 2
     for (unsigned p = 0; p < 4 / lanes; ++p) {
-        LaneAddresses<T> rows;
+        LaneAddresses<Pack<T>> rows;
 #pragma GCC unroll 4
         for (unsigned lane = 0; lane < lanes; ++lane)
             rows[lane] = s.rowStart(p * lanes + lane);
         Pack<T> read[4];
-        loadAdjacent<T, 4>(rows, read);
+        loadAdjacent<4>(rows, read);
 #pragma GCC unroll 4
         for (unsigned j = 0; j < 4; ++j)
             column[j][p] = read[j] * factors;
@@ -379,7 +379,7 @@ ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Den
     for (unsigned j = 0; j < 4; ++j)
 #pragma GCC unroll 2
         for (unsigned p = 0; p < 4 / lanes; ++p)
-            storePack(d.rowStart(j) + p * kPackBytes, column[j][p]);
+            storePack(d.rowStart(j) + p * kBlockBytes, column[j][p]);
 }
 
 template <typename Op, typename T>

@@ -4,6 +4,7 @@
 
 #include "elementwise/dense.h"
 #include "elementwise/per_position.h"
+#include "frame/plainest.h"
 
 namespace zelm::elementwise {
 
@@ -64,23 +65,28 @@ ZELM_INLINE ZelmStatus single(const A &a, const B &b, const D &d, Shape shape) {
 
 // ---- arrays
 
-template <typename Op, Invariant reading, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const DenseArray<T> &d, Shape shape,
-                               std::uint32_t count) {
+// Whether a transposed source lies apart from the results, so that objects may be read ahead of what is
+// written. All other sources are read element by element as the results are written.
+template <typename S, typename D, typename Shape>
+ZELM_INLINE bool mayReadAhead(const S &s, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (!kIsTransposed<S>)
+        return true;
+    else if constexpr (D::isList || !Shape::isFixed)
+        return false;
+    else
+        return count <= kMostObjectsInRange &&
+               isUntouched(s, shape.columns(), shape.rows(), d, shape.rows(), shape.columns(), count);
+}
+
+// One instance serves the standard form and the forms with strides that turn out to be dense.
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+__attribute__((noinline)) ZelmStatus denseObjects(const A &a, const B &b, const D &d, Shape shape,
+                                                  std::uint32_t count) {
     return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
 }
 
-template <typename Op, Invariant reading, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const DenseList<T> &d, Shape shape,
-                               std::uint32_t count) {
-    return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
-}
-
-template <typename Op, Invariant, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (D::isSideBySide)
-        if (runPerPosition<Op>(a, b, d, shape, count))
-            return ZELM_OK;
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         plainObject<Op>(a.object(k), b.object(k), d.object(k), shape);
         return ZELM_OK;
@@ -89,12 +95,37 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
 }
 
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (decltype(d.object(0))::isDense) {
+        constexpr bool hasInvariant = kIsInvariant<A> || kIsInvariant<B>;
+        return denseObjects<Op, hasInvariant ? reading : Invariant::Held>(a, b, d, shape, count);
+    } else {
+        if constexpr (D::isSideBySide)
+            if (runPerPosition<Op>(a, b, d, shape, count))
+                return ZELM_OK;
+        return objectsInOrder<Op>(a, b, d, shape, count);
+    }
+}
+
+// The layouts with strides whose operands turn out to be plainer ones: an invariant is read anew in all of
+// them.
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus plainestObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (kHavePlainer<D>) {
+        if (isPlainer(a) && isPlainer(b) && isPlainer(d) && mayReadAhead(a, d, shape, count) &&
+            mayReadAhead(b, d, shape, count))
+            return objects<Op, Invariant::ReadAnew>(plainest(a), plainest(b), plainest(d), shape, count);
+    }
+    return objects<Op, reading>(a, b, d, shape, count);
+}
+
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus checkedArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const Address n = shape.elements();
     if (ZelmStatus status = checkArray(shape.isZero(), count, tested(a, n), tested(b, n), tested(d, n));
         status != kProceed)
         return status;
-    return objects<Op, reading>(a, b, d, shape, count);
+    return plainestObjects<Op, reading>(a, b, d, shape, count);
 }
 
 // Add and Sub: an invariant operand is held in the fixed-size standard and L forms, read anew in all others.

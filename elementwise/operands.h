@@ -1,7 +1,7 @@
 // What element-wise operations add to the operands of the frame: scaling.
 #pragma once
 
-#include "frame/shapes.h"
+#include "frame/plainest.h"
 
 namespace zelm::elementwise {
 
@@ -17,6 +17,16 @@ struct Scaled : Operand {
         return Scaled<decltype(Operand::object(k))>(Operand::object(k), factor);
     }
 };
+
+template <typename Operand>
+ZELM_INLINE bool isPlainer(const Scaled<Operand> &s) {
+    return isPlainer(static_cast<const Operand &>(s));
+}
+template <typename Operand>
+ZELM_INLINE auto plainest(const Scaled<Operand> &s) {
+    const auto plain = frame::plainest(static_cast<const Operand &>(s));
+    return Scaled<std::remove_cvref_t<decltype(plain)>>(plain, s.factor);
+}
 
 template <typename Plain, typename Shape>
 ZELM_INLINE auto value(const Scaled<Plain> &object, std::uint32_t i, std::uint32_t j, Shape shape) {

@@ -3,60 +3,77 @@
 #pragma once
 
 #include "elementwise/operands.h"
-#include "frame/pack.h"
+#include "frame/shuffles.h"
+#include "frame/widths.h"
 
 #include <numeric>
 
 namespace zelm::elementwise {
 
 // The inputs of a run. `i` is the number of the element; `p` numbers the pack within a round of the loop.
+// period<V> is the number of packs after which an input repeats itself.
 
 // Adjacent elements, read where they lie.
 template <typename T>
 struct Stream {
+    template <typename V>
     static constexpr unsigned period = 1;
     Address start;
     ZELM_INLINE T element(Address i) const { return load<T>(start + i * sizeof(T)); }
-    ZELM_INLINE Pack<T> pack(Address i, unsigned) const { return loadPack<T>(start + i * sizeof(T)); }
+    template <typename V>
+    ZELM_INLINE V pack(Address i, unsigned) const {
+        return loadAs<V>(start + i * sizeof(T));
+    }
     // Storing a pack of `to` would change elements of the same pack that the plain loop reads after storing
     // others. At any greater distance, and behind the stream, packs in ascending order give what the plain
     // loop gives.
-    ZELM_INLINE bool isCloselyBehind(Address to) const { return to - start - 1 < kPackBytes - 1; }
+    ZELM_INLINE bool isCloselyBehind(Address to, Address bytes) const { return to - start - 1 < bytes - 1; }
 };
 
 // One value for all elements.
 template <typename T>
 struct Same {
+    template <typename V>
     static constexpr unsigned period = 1;
     T value;
     ZELM_INLINE T element(Address) const { return value; }
-    ZELM_INLINE Pack<T> pack(Address, unsigned) const { return broadcast(value); }
-    static constexpr bool isCloselyBehind(Address) { return false; }
+    template <typename V>
+    ZELM_INLINE V pack(Address, unsigned) const {
+        return spread<V>(value);
+    }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
 // Adjacent elements times a factor.
 template <typename T>
 struct ScaledStream {
+    template <typename V>
     static constexpr unsigned period = 1;
     Stream<T> stream;
     T factor;
     ZELM_INLINE T element(Address i) const { return stream.element(i) * factor; }
-    ZELM_INLINE Pack<T> pack(Address i, unsigned p) const { return stream.pack(i, p) * broadcast(factor); }
-    ZELM_INLINE bool isCloselyBehind(Address to) const { return stream.isCloselyBehind(to); }
+    template <typename V>
+    ZELM_INLINE V pack(Address i, unsigned p) const {
+        return stream.template pack<V>(i, p) * spread<V>(factor);
+    }
+    ZELM_INLINE bool isCloselyBehind(Address to, Address bytes) const {
+        return stream.isCloselyBehind(to, bytes);
+    }
 };
 
 // Adjacent elements that nothing writes.
 template <typename T>
 struct HeldStream : Stream<T> {
-    static constexpr bool isCloselyBehind(Address) { return false; }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
 // An invariant vector of N elements, read once and held, over and over.
 template <typename T, unsigned N>
 struct HeldVector : WithoutTable {
-    // In packs, after which the pattern meets itself again.
-    static constexpr unsigned period = N / std::gcd(N, kLanes<T>);
-    T pattern[period * kLanes<T>];
+    template <typename V>
+    static constexpr unsigned period = N / std::gcd(N, kLanesOf<V>);
+    static constexpr unsigned length = std::lcm(N, kLanesOf<Pack<T, kRunBytes>>);
+    T pattern[length];
     template <typename Object>
     ZELM_INLINE explicit HeldVector(const Object &object) {
 #pragma GCC unroll 6
@@ -71,7 +88,7 @@ struct HeldVector : WithoutTable {
     }
     ZELM_INLINE void repeat() {
 #pragma GCC unroll 20
-        for (unsigned i = N; i < period * kLanes<T>; ++i)
+        for (unsigned i = N; i < length; ++i)
             copyElement<T>(addressOf(&pattern[i]), addressOf(&pattern[i - N]));
     }
     ZELM_INLINE const HeldVector &object(std::uint32_t) const {
@@ -80,10 +97,11 @@ struct HeldVector : WithoutTable {
     ZELM_INLINE T element(Address i) const {
         return pattern[i % N];
     }
-    ZELM_INLINE Pack<T> pack(Address, unsigned p) const {
-        return loadPack<T>(addressOf(&pattern[p % period * kLanes<T>]));
+    template <typename V>
+    ZELM_INLINE V pack(Address, unsigned p) const {
+        return loadAs<V>(addressOf(&pattern[p % period<V> * kLanesOf<V>]));
     }
-    static constexpr bool isCloselyBehind(Address) {
+    static constexpr bool isCloselyBehind(Address, Address) {
         return false;
     }
 };
@@ -117,64 +135,83 @@ struct TransposedStream {
     ZELM_INLINE T element(Address e) const {
         return stored.get(static_cast<std::uint32_t>(e % C), static_cast<std::uint32_t>(e / C), 0);
     }
-    ZELM_INLINE Pack<T> pack(Address e, unsigned) const {
-        if constexpr (sizeof(T) == 4)
-            return _mm_setr_ps(element(e), element(e + 1), element(e + 2), element(e + 3));
-        else
-            return _mm_setr_pd(element(e), element(e + 1));
+    template <typename V>
+    ZELM_INLINE V pack(Address e, unsigned) const {
+        return fromBlocks<V>([this, e](unsigned b) __attribute__((always_inline)) {
+            const Address at = e + b * kLanes<T>;
+            if constexpr (sizeof(T) == 4)
+                return _mm_setr_ps(element(at), element(at + 1), element(at + 2), element(at + 3));
+            else
+                return _mm_setr_pd(element(at), element(at + 1));
+        });
     }
-    static constexpr bool isCloselyBehind(Address) { return false; }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
-template <typename Op, typename T, typename A, typename B>
+// Whole packs from element i on, the widest first; the number of the first element that is left.
+template <typename Op, typename V, typename A, typename B>
 ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
-    constexpr unsigned period = std::lcm(A::period, B::period);
-    constexpr unsigned round = period < 3 ? 4 : period;
-    constexpr unsigned lanes = kLanes<T>;
-    for (; length - i >= round * lanes; i += round * lanes) {
+    constexpr unsigned period = std::lcm(A::template period<V>, B::template period<V>);
+    constexpr unsigned round = period < 3 ? 4 : period, lanes = kLanesOf<V>;
+    const auto step = [&](Address at, unsigned p) __attribute__((always_inline)) {
+        storePack(dst + at * sizeof(ElementOf<V>),
+                  Op::apply(a.template pack<V>(at, p), b.template pack<V>(at, p)));
+    };
+    if (!a.isCloselyBehind(dst, sizeof(V)) && !b.isCloselyBehind(dst, sizeof(V))) {
+        for (; length - i >= round * lanes; i += round * lanes) {
 #pragma GCC unroll 25
-        for (unsigned p = 0; p < round; ++p) {
-            const Address at = i + p * lanes;
-            storePack(dst + at * sizeof(T), Op::apply(a.pack(at, p), b.pack(at, p)));
+            for (unsigned p = 0; p < round; ++p)
+                step(i + p * lanes, p);
         }
+        if constexpr (period == 1)
+            for (; length - i >= lanes; i += lanes)
+                step(i, 0);
     }
-    if constexpr (period == 1)
-        for (; length - i >= lanes; i += lanes)
-            storePack(dst + i * sizeof(T), Op::apply(a.pack(i, 0), b.pack(i, 0)));
-    return i;
+    if constexpr (sizeof(V) > kBlockBytes)
+        return runPacks<Op, Pack<ElementOf<V>, sizeof(V) / 2>>(a, b, dst, i, length);
+    else
+        return i;
 }
 
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     Address i = 0;
-    if (length >= 2 * kLanes<T> && !a.isCloselyBehind(dst) && !b.isCloselyBehind(dst))
-        i = runPacks<Op, T>(a, b, dst, i, length);
+    if (length >= 2 * kLanes<T>)
+        i = runPacks<Op, Pack<T, kRunBytes>>(a, b, dst, i, length);
     for (; i < length; ++i)
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
 }
 
-// The same for N elements, without a loop.
-template <typename Op, typename T, unsigned N, typename A, typename B>
-ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
-    constexpr unsigned lanes = kLanes<T>;
-    unsigned packed = 0;
-    if constexpr (N >= lanes) {
-        if (!a.isCloselyBehind(dst) && !b.isCloselyBehind(dst)) {
-            packed = N / lanes * lanes;
+// The same for the elements i to N - 1, without a loop.
+template <typename Op, typename V, unsigned N, unsigned i, typename A, typename B>
+ZELM_INLINE void shortPacks(const A &a, const B &b, Address dst) {
+    using T = ElementOf<V>;
+    constexpr unsigned lanes = kLanesOf<V>, whole = i + (N - i) / lanes * lanes;
 #pragma GCC unroll 18
-            for (unsigned p = 0; p < N / lanes; ++p)
-                storePack(dst + p * kPackBytes, Op::apply(a.pack(p * lanes, p), b.pack(p * lanes, p)));
-        }
-    }
-    if (packed == 0) {
-#pragma GCC unroll 36
-        for (unsigned j = 0; j < N; ++j)
-            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    for (unsigned at = i; at < whole; at += lanes)
+        storePack(dst + at * sizeof(T),
+                  Op::apply(a.template pack<V>(at, at / lanes), b.template pack<V>(at, at / lanes)));
+    if constexpr (sizeof(V) > kBlockBytes) {
+        shortPacks<Op, Pack<T, sizeof(V) / 2>, N, whole>(a, b, dst);
     } else {
 #pragma GCC unroll 3
-        for (unsigned j = N / lanes * lanes; j < N; ++j)
+        for (unsigned j = whole; j < N; ++j)
             store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
     }
+}
+
+template <typename Op, typename T, unsigned N, typename A, typename B>
+ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
+    if constexpr (N >= kLanes<T>) {
+        constexpr unsigned widest = N * sizeof(T) >= kShortRunBytes ? kShortRunBytes
+                                    : N * sizeof(T) >= 32           ? widestUpTo(32)
+                                                                    : kBlockBytes;
+        if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest))
+            return shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
+    }
+#pragma GCC unroll 36
+    for (unsigned j = 0; j < N; ++j)
+        store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
 }
 
 } // namespace zelm::elementwise

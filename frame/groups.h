@@ -89,14 +89,14 @@ template <typename V>
 ZELM_INLINE void loadFour(const Address *at, Address offset, V *out) {
     V r0 = loadBlocks<V>(at, offset), r1 = loadBlocks<V>(at + 1, offset);
     V r2 = loadBlocks<V>(at + 2, offset), r3 = loadBlocks<V>(at + 3, offset);
-    transposeBlocks(r0, r1, r2, r3);
+    transposeFour(r0, r1, r2, r3);
     out[0] = r0, out[1] = r1, out[2] = r2, out[3] = r3;
 }
 
 template <typename V>
 ZELM_INLINE void storeFour(const Address *at, Address offset, const V *in) {
     V r0 = in[0], r1 = in[1], r2 = in[2], r3 = in[3];
-    transposeBlocks(r0, r1, r2, r3);
+    transposeFour(r0, r1, r2, r3);
     storeBlocks(at, offset, r0);
     storeBlocks(at + 1, offset, r1);
     storeBlocks(at + 2, offset, r2);

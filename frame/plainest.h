@@ -3,7 +3,7 @@
 // is another way through memory and never another formula: the caller's order of sums and its tests stand.
 #pragma once
 
-#include "frame/operands.h"
+#include "frame/shapes.h"
 
 namespace zelm::frame {
 
@@ -50,6 +50,16 @@ ZELM_INLINE bool isPlainer(const TableArray<T> &s) {
 template <typename T>
 ZELM_INLINE PackedTableArray<T> plainest(const TableArray<T> &s) {
     return {s.table, s.shift};
+}
+
+template <typename Stored>
+ZELM_INLINE bool isPlainer(const Transposed<Stored> &s) {
+    return isPlainer(static_cast<const Stored &>(s));
+}
+template <typename Stored>
+ZELM_INLINE auto plainest(const Transposed<Stored> &s) {
+    return Transposed(std::remove_cvref_t<decltype(plainest(static_cast<const Stored &>(s)))>(
+        plainest(static_cast<const Stored &>(s))));
 }
 
 // Whether any of the types has a plainer one.

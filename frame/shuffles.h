@@ -72,7 +72,7 @@ ZELM_INLINE V interleaveHigh(V a, V b) {
 
 // The 4x4 elements of four packs of 32-bit float, block by block.
 template <typename V>
-ZELM_INLINE void transposeBlocks(V &r0, V &r1, V &r2, V &r3) {
+ZELM_INLINE void transposeFour(V &r0, V &r1, V &r2, V &r3) {
     const V a = interleaveLow(r0, r1), b = interleaveLow(r2, r3);
     const V c = interleaveHigh(r0, r1), d = interleaveHigh(r2, r3);
     r0 = shuffle<0, 1, 0, 1>(a, b);

@@ -22,4 +22,13 @@ constexpr Grouping kShortKernels = {kWidestBytes, 8};
 // Decompositions, systems, inverses and determinants.
 constexpr Grouping kLongKernels = {kWidestBytes, 2, 16};
 
+// Products of matrices and vectors, across objects.
+constexpr Grouping kProductKernels = {kWidestBytes, 8};
+
+// Runs of adjacent elements: whole arrays, and the elements of one object.
+constexpr unsigned kRunBytes = kWidestBytes, kShortRunBytes = widestUpTo(32);
+
+// Between rows and planes.
+constexpr unsigned kMoveBytes = kWidestBytes;
+
 } // namespace zelm::frame

@@ -1,8 +1,9 @@
 """The catalogue: the single source of every exported name and of its argument list.
 
 A row is an (operation, descriptor) pair. Rows, classes and argument orders stand here as data; nothing is said
-per exported name but the departures of single members. `generate.py` turns the catalogue into the headers, the
-exported functions, the list of exports, the machine-readable dump and the list that the tests enumerate.
+per exported name. The single members that depart from their rows are in `departures.py`. `generate.py` turns both
+into the headers, the exported functions, the list of exports, the machine-readable dump and the list that the tests
+enumerate.
 
 The argument order of a row is one string of words:
 
@@ -73,14 +74,6 @@ class Row:
     @property
     def is_array(self):
         return "count" in self.arguments.split()
-
-
-@dataclass(frozen=True)
-class Departure:
-    """A member that departs from its row: the function that serves it instead, and what a caller sees."""
-
-    function: str
-    note: str
 
 
 OK, SIZE, NULL, DIV, POS = (
@@ -446,89 +439,3 @@ KERNEL_NOTES = (
     "store and, in orders 4 to 6, some minors before: docs/inverse.md names them. The functions zelmDet_* of the standard "
     "and L layouts call them and are what callers use: a kernel tests nothing but the entries of srcTable. Result: 0, "
     "or -2 at a null entry, with the determinants before it written.")
-
-
-def _departures():
-    """Each departing member with the function of its subsystem's departures that serves it."""
-    def both(name):
-        return (name, name + "_L")
-
-    names = [f"zelm{row}_64f_6x1" for row in ("Add_vav", "Sub_vav", "Sub_vva")]
-    names += [f"zelmSub_{row}_6x6" for row in ("mma_32f", "mmaT_32f", "mma_64f", "mTma_64f", "mmaT_64f", "mTmaT_64f")]
-    for name in [member for name in names for member in both(name)] + ["zelmAdd_maTmT_64f_3x3"]:
-        yield name, Departure("invariantReadAnew", "reads the invariant operand anew for every object")
-
-    for op in ("Add", "Sub"):
-        for name in both(f"zelm{op}_mam_32f_3x3"):
-            yield name, Departure("pipelined", "reads object k+1 before it stores object k; a count of 0 counts as 1")
-        for name in both(f"zelm{op}_mamT_32f_3x3"):
-            yield name, Departure("pipelinedAtFirstRowStride", "reads object k+1 before it stores object k; a count of"
-                                  " 0 counts as 1; src2RowStride is not read, rows of src2 lie at src1RowStride")
-        for row in ("mam", "mama"):
-            for name in both(f"zelm{op}_{row}_64f_5x5"):
-                yield name, Departure("lastColumnAtSecondRowStride", "reads column 4 of src1 at src2RowStride")
-        for row in ("mam", "mamT"):
-            yield f"zelm{op}_{row}_64f_3x3_L", HELD_BY_ALIGNMENT
-        for row in ("mmT", "mTm", "mTmT"):
-            for element_type in TYPES:
-                yield f"zelm{op}_{row}_{element_type}_P", Departure(
-                    "singleTestingByRows", "tests entry i*height + j of a transposed operand and reads j*height + i")
-    for row in ("mma", "mTma"):
-        yield f"zelmSub_{row}_64f_3x3_L", HELD_BY_ALIGNMENT
-
-    yield "zelmSub_mTm_64f_6x6_S2", Departure("secondAtFirstElemStride", "src2ElemStride is not read, elements of src2"
-                                              " lie at src1ElemStride")
-    yield "zelmSub_mTmT_32f_6x6", Departure("rowTwoInRowThree", "row 3 of dst receives the values of row 2")
-    for name in both("zelmSub_maTmaT_32f_6x6"):
-        yield name, Departure("byTableOfElements", "takes its elements from the stored places that a table names")
-    for name in ("Add_maTm_64f_6x6", "Add_maTmT_64f_6x6", "Add_mamT_64f_6x6", "Sub_maTmT_64f_6x6", "Sub_mamT_64f_6x6",
-                 "Sub_mamT_64f_3x3", "Sub_maTma_64f_5x5_L", "Sub_mamaT_64f_4x4_L", "Sub_mama_64f_4x4_L"):
-        yield f"zelm{name}", Departure("alignedStores", "where the operands are multiples of 16 but a later object of"
-                                       " dst is not, an alignment fault is raised")
-    for name in ("mTc_32f_4x4", "mTc_64f_4x4", "maTc_32f_4x4", "maTc_64f_4x4", "maTc_32f_4x4_L"):
-        yield f"zelmMul_{name}", Departure("wholeMatrixFirst", "reads the whole matrix first: dst may be src")
-
-
-    yield "zelmDotProduct_vav_32f_4x1", Departure("dotInPairs", "sums the products in pairs")
-    yield "zelmDotProduct_vav_32f_4x1_L", Departure("dotUntestedInPairs", "sums the products in pairs; no entry of"
-                                                    " src1Table is tested")
-    yield "zelmDotProduct_vav_32f_3x1_L", Departure("dotUntested", "no entry of src1Table is tested")
-    yield "zelmDotProduct_vav_64f_3x1_L", Departure("dotTestingAllFirst", "tests all entries of src1Table before it"
-                                                    " writes anything")
-    yield "zelmL2Norm_va_32f_4x1_L", Departure("l2NormUntested", "no entry of srcTable is tested")
-
-    for element_type in TYPES:
-        yield f"zelmCopy_va_{element_type}_PP", Departure("copyByTargetTable", "takes the pointers of both sides from"
-                                                          " dstTable; srcTable is tested and otherwise not read")
-        yield f"zelmExtract_m_{element_type}_P", Departure("extractUntested", "tests nothing; a dimension of zero moves"
-                                                           " nothing")
-        yield f"zelmExtract_mT_{element_type}_P", Departure(
-            "extractColumnsUntested", "tests nothing; srcShift is not read; takes srcTable as height rows of width entries"
-            " and packs width rows of height elements")
-        yield f"zelmExtract_maT_{element_type}_PS2", Departure("extractUntransposed", "does not transpose")
-    yield "zelmExtract_v_64f_P", Departure("extractUntested", "tests nothing; a dimension of zero moves nothing")
-    for name, function in (("m_32f", "transposeSingleWhole"), ("m_64f", "transposeSingleWhole"),
-                           ("ma_32f", "transposeArrayWhole")):
-        yield f"zelmTranspose_{name}_4x4", Departure(function, "reads a whole matrix first: dst may be src")
-
-    for element_type in TYPES:
-        yield f"zelmMul_mmT_{element_type}", Departure(
-            "multiplyByTranspose", "dst has src2Height columns, and the sums have src2Width terms: the true product by the"
-            " transpose of src2")
-    for row in ("mama", "maTma", "mamaT", "maTmaT"):
-        for size in MATRIX_SIZES[1:]:
-            yield f"zelmMul_{row}_64f_{size}", Departure(
-                "advancingByAlignment", "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16,"
-                " every object is computed from object 0 of src1")
-    for row in ("mam", "maTm", "mamT"):
-        for layout in ("P", "PS2"):
-            yield f"zelmMul_{row}_32f_3x3_{layout}", Departure(
-                "multiplyUntested", "tests no table entry; src2 may be read also where count is 0")
-    for row in ("mam", "maTm", "mamT", "maTmT"):
-        yield f"zelmMul_{row}_32f_3x3_LS2", Departure("multiplyUntestedLists", "tests no entry of src1Table or dstTable")
-
-
-HELD_BY_ALIGNMENT = Departure("heldByAlignment", "pairs the invariant with other elements where one of invariant and"
-                              " object is a multiple of 16 and the other is not")
-
-DEPARTURES = dict(_departures())

@@ -16,8 +16,9 @@ from dataclasses import dataclass
 from itertools import groupby
 from pathlib import Path
 
-from catalogue import (CLASSES, CONSTANTS, DEPARTURES, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES,
-                       KERNEL_ROWS, LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
+from catalogue import (CLASSES, CONSTANTS, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES, KERNEL_ROWS,
+                       LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
+from departures import BOUNDS, DEPARTURES, PRODUCT_BOUNDS
 
 C_TYPE = {"32f": "float", "64f": "double"}
 WIDTH = 116
@@ -90,6 +91,9 @@ def members():
             for layout in layouts:
                 for size in sizes:
                     yield Member(row, element_type, size, layout)
+
+
+MEMBERS = {member.name: member for member in members()}
 
 
 def operand_layout(member, name):
@@ -200,6 +204,21 @@ def plan(member):
     return arguments, passed
 
 
+def instead_arguments(member, instead):
+    """The arguments to give to the form that is used instead, as expressions over the member's own."""
+    if instead.arguments is None:
+        return None
+    own = {a.name for a in plan(member)[0]}
+    wanted = [a.name for a in plan(MEMBERS[instead.name])[0]]
+    expressions = [instead.arguments.get(name, name) for name in wanted]
+    made = set(re.findall(r"(\w+Transposed):", instead.note))
+    for expression in expressions:
+        unknown = set(re.findall(r"[a-zA-Z]\w*", expression)) - own - made
+        if unknown:
+            raise ValueError(f"{member.name} has no argument {unknown} to give to {instead.name}")
+    return expressions
+
+
 def call_text(head, texts, indent=""):
     """`head(text, text, ...)`, broken between the texts where a line would be too long."""
     unbroken = ", ".join(text.replace(" ", "\0") for text in texts)
@@ -220,7 +239,7 @@ def definition(member):
     _, passed = plan(member)
     function, *given = member.row.call
     departure = DEPARTURES.get(member.name)
-    if departure:
+    if departure and departure.function:
         function = f"departures::{departure.function}" + "".join(re.findall("<.*>", function))
     body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
     comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure: {departure.note}.", WIDTH - 7)) \
@@ -240,7 +259,8 @@ STATUS_TEXT = {
 }
 
 
-def row_comment(row):
+def row_paragraphs(row):
+    """What documents the members of a row: formula, shapes and units, statuses, overlap."""
     family = FAMILIES[row.family]
     words = row.arguments.split()
     shapes = []
@@ -266,13 +286,12 @@ def row_comment(row):
     if row.is_array:
         units.append("count in objects")
     units.append("strides and shifts in bytes")
-    paragraphs = [
+    return [
         row.formula + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
         "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
         "Overlap: " + family.overlap,
     ]
-    return block_comment(paragraphs)
 
 
 def block_comment(paragraphs):
@@ -297,7 +316,7 @@ def kernel_declarations(family):
 
 
 def row_declarations(row, row_members):
-    out = [row_comment(row)]
+    out = [block_comment(row_paragraphs(row))]
     regular = next((m for m in row_members if m.name not in DEPARTURES), None)
     # The row's comment documents what follows it, so a regular member comes first.
     for member in sorted(row_members, key=lambda m: m is not regular):
@@ -350,6 +369,18 @@ def argument_list(member):
              **({"unread": True} if a.unread else {})} for a in plan(member)[0]]
 
 
+def departure_entry(member, key, departure):
+    entry = {key: departure.note, "rank": departure.rank}
+    if departure.when:
+        entry["when"] = departure.when
+    if departure.instead:
+        instead = departure.instead
+        entry["instead"] = {"name": instead.name, "arguments": instead_arguments(member, instead)}
+        if instead.note:
+            entry["instead"]["note"] = instead.note
+    return entry
+
+
 def grid_json(all_members):
     lines = []
     for m in all_members:
@@ -362,8 +393,9 @@ def grid_json(all_members):
             "arguments": argument_list(m),
             "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
         }
-        if m.name in DEPARTURES:
-            entry["departure"] = DEPARTURES[m.name].note
+        for key, table in (("departure", DEPARTURES), ("bounds", PRODUCT_BOUNDS)):
+            if m.name in table:
+                entry |= departure_entry(m, key, table[m.name])
         lines.append(json.dumps(entry))
     beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
                           "result": k.result, "arguments": argument_list(k)}) for k in kernels()]

@@ -51,19 +51,19 @@ ZELM_INLINE ZelmStatus extractUntransposed(const TableArray<const T> &s, T *dst,
 
 // zelmTranspose_m_32f_4x4, zelmTranspose_m_64f_4x4, zelmTranspose_ma_32f_4x4: a whole matrix is read before
 // it is written, so that dst may be src.
-ZELM_INLINE void loadTransposed(const Dense<const float> &s, __m128 (&rows)[4]) {
+ZELM_INLINE void loadTransposed(const Dense<const float> &s, Floats4 (&rows)[4]) {
 #pragma GCC unroll 4
     for (std::uint32_t i = 0; i < 4; ++i)
         rows[i] = loadPack<float>(s.rowStart(i));
-    _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+    transposeFour(rows[0], rows[1], rows[2], rows[3]);
 }
 
-ZELM_INLINE void loadTransposed(const Dense<const double> &s, __m128d (&rows)[8]) {
+ZELM_INLINE void loadTransposed(const Dense<const double> &s, Doubles2 (&rows)[8]) {
 #pragma GCC unroll 4
     for (std::uint32_t i = 0; i < 4; ++i) {
-        const Address from = s.start + i % 2 * kPackBytes, pair = i / 2 * 2;
-        const __m128d a = loadPack<double>(from + pair * s.rowStride);
-        const __m128d b = loadPack<double>(from + (pair + 1) * s.rowStride);
+        const Address from = s.start + i % 2 * kBlockBytes, pair = i / 2 * 2;
+        const Doubles2 a = loadPack<double>(from + pair * s.rowStride);
+        const Doubles2 b = loadPack<double>(from + (pair + 1) * s.rowStride);
         rows[i % 2 * 4 + i / 2] = _mm_unpacklo_pd(a, b);
         rows[i % 2 * 4 + 2 + i / 2] = _mm_unpackhi_pd(a, b);
     }
@@ -77,11 +77,11 @@ ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, Fixe
     if (apart) {
 #pragma GCC unroll 8
         for (unsigned p = 0; p < packs; ++p)
-            storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kPackBytes, rows[p]);
+            storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kBlockBytes, rows[p]);
     } else {
         T whole[16];
         for (unsigned p = 0; p < packs; ++p)
-            storePack(addressOf(whole) + p * kPackBytes, rows[p]);
+            storePack(addressOf(whole) + p * kBlockBytes, rows[p]);
         for (std::uint32_t e = 0; e < 16; ++e)
             copyElement<T>(d.address(e % 4, e / 4, 4), addressOf(whole + e % 4 * 4 + e / 4));
     }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "frame/groups.h"
-#include "frame/shapes.h"
+#include "frame/overlap.h"
+#include "frame/plainest.h"
+#include "frame/widths.h"
 #include "movement/planes.h"
 
 namespace zelm::movement {
@@ -32,42 +34,6 @@ template <typename S, typename D>
 ZELM_INLINE void moveInOrder(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
     for (std::uint32_t k = 0; k < count; ++k)
         moveObject(s.object(k), d.object(k), shape);
-}
-
-// ---- strides that make a layout a plainer one
-
-template <typename T, typename Use>
-ZELM_INLINE void withPlainestLayout(const StridedArray<T> &array, Use use) {
-    if (array.elemStride != sizeof(T))
-        return use(array);
-    DenseArray<T> dense(reinterpret_cast<T *>(array.start), 0, 0);
-    dense.objStride = array.objStride;
-    dense.rowStride = array.rowStride;
-    use(dense);
-}
-
-template <typename T, typename Use>
-ZELM_INLINE void withPlainestLayout(const TableArray<T> &array, Use use) {
-    if (array.objStride != sizeof(T))
-        return use(array);
-    PackedTableArray<T> packed(array.table, 0);
-    packed.shift = array.shift;
-    use(packed);
-}
-
-template <typename T, typename Use>
-ZELM_INLINE void withPlainestLayout(const StridedList<T> &list, Use use) {
-    if (list.elemStride != sizeof(T))
-        return use(list);
-    DenseList<T> dense(list.table, 0, 0);
-    dense.shift = list.shift;
-    dense.rowStride = list.rowStride;
-    use(dense);
-}
-
-template <typename Array, typename Use>
-ZELM_INLINE void withPlainestLayout(const Array &array, Use use) {
-    use(array);
 }
 
 // ---- rows of adjacent elements
@@ -121,11 +87,11 @@ struct Columns {
     std::uint32_t row, column, first, last;
 };
 
-template <typename T, typename Rows>
-ZELM_INLINE void addressLanes(const Rows &rows, const Columns &at, std::uint32_t k, LaneAddresses<T> &lanes) {
-    const Address within = at.row * rows.rowStride + at.column * sizeof(T);
-#pragma GCC unroll 4
-    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
+template <typename V, typename Rows>
+ZELM_INLINE void addressLanes(const Rows &rows, const Columns &at, std::uint32_t k, LaneAddresses<V> &lanes) {
+    const Address within = at.row * rows.rowStride + at.column * sizeof(ElementOf<V>);
+#pragma GCC unroll 16
+    for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
         lanes[lane] = rows.object(k + lane).start + within;
 }
 
@@ -138,7 +104,28 @@ ZELM_INLINE bool areThrees(const Rows &rows) {
         return false;
 }
 
-template <unsigned N, typename S, typename T>
+template <unsigned N, typename V, typename Rows>
+ZELM_INLINE void loadColumns(const Rows &rows, const Columns &at, std::uint32_t k, bool threes, V (&out)[N]) {
+    LaneAddresses<V> lanes;
+    addressLanes<V>(rows, at, k, lanes);
+    if constexpr (N == 3)
+        if (threes)
+            return loadThrees(lanes[0], out);
+    loadAdjacent<N>(lanes, out);
+}
+
+template <unsigned N, typename V, typename Rows>
+ZELM_INLINE void storeColumns(const Rows &rows, const Columns &at, std::uint32_t k, bool threes,
+                              const V (&in)[N]) {
+    LaneAddresses<V> lanes;
+    addressLanes<V>(rows, at, k, lanes);
+    if constexpr (N == 3)
+        if (threes)
+            return storeThrees(lanes[0], in);
+    storeAdjacent<N>(lanes, in);
+}
+
+template <unsigned N, typename V, typename S, typename T>
 ZELM_INLINE void moveColumns(const S &s, const PackedTableArray<T> &d, std::uint32_t width,
                              const Columns &at) {
     Address plane[N];
@@ -146,25 +133,16 @@ ZELM_INLINE void moveColumns(const S &s, const PackedTableArray<T> &d, std::uint
     for (unsigned c = 0; c < N; ++c)
         plane[c] = d.object(0).address(at.row, at.column + c, width);
     const bool threes = areThrees<N>(s);
-    for (std::uint32_t k = at.first; k < at.last; k += kLanes<T>) {
-        LaneAddresses<T> lanes;
-        Pack<T> columns[N];
-        addressLanes<T>(s, at, k, lanes);
-        if constexpr (N == 3) {
-            if (threes)
-                loadThrees(lanes[0], columns);
-            else
-                loadAdjacent<T, N>(lanes, columns);
-        } else {
-            loadAdjacent<T, N>(lanes, columns);
-        }
+    for (std::uint32_t k = at.first; k < at.last; k += kLanesOf<V>) {
+        V columns[N];
+        loadColumns(s, at, k, threes, columns);
 #pragma GCC unroll 4
         for (unsigned c = 0; c < N; ++c)
             storePack(plane[c] + k * sizeof(T), columns[c]);
     }
 }
 
-template <unsigned N, typename T, typename D>
+template <unsigned N, typename V, typename T, typename D>
 ZELM_INLINE void moveColumns(const PackedTableArray<const T> &s, const D &d, std::uint32_t width,
                              const Columns &at) {
     Address plane[N];
@@ -172,40 +150,32 @@ ZELM_INLINE void moveColumns(const PackedTableArray<const T> &s, const D &d, std
     for (unsigned c = 0; c < N; ++c)
         plane[c] = s.object(0).address(at.row, at.column + c, width);
     const bool threes = areThrees<N>(d);
-    for (std::uint32_t k = at.first; k < at.last; k += kLanes<T>) {
-        LaneAddresses<T> lanes;
-        Pack<T> columns[N];
-        addressLanes<T>(d, at, k, lanes);
+    for (std::uint32_t k = at.first; k < at.last; k += kLanesOf<V>) {
+        V columns[N];
 #pragma GCC unroll 4
         for (unsigned c = 0; c < N; ++c)
-            columns[c] = loadPack<T>(plane[c] + k * sizeof(T));
-        if constexpr (N == 3) {
-            if (threes)
-                storeThrees(lanes[0], columns);
-            else
-                storeAdjacent<T, N>(lanes, columns);
-        } else {
-            storeAdjacent<T, N>(lanes, columns);
-        }
+            columns[c] = loadAs<V>(plane[c] + k * sizeof(T));
+        storeColumns(d, at, k, threes, columns);
     }
 }
 
-template <typename T, typename S, typename D>
+// The objects from `first` to before `last`, a multiple of V's lanes apart.
+template <typename V, typename S, typename D>
 ZELM_INLINE void moveObjectsInBlocks(const S &s, const D &d, RunTimeShape shape, std::uint32_t first,
                                      std::uint32_t last) {
-    constexpr unsigned lanes = kLanes<T>;
+    constexpr unsigned columns = kLanes<ElementOf<V>>;
     for (std::uint32_t i = 0; i < shape.height; ++i) {
         std::uint32_t j = 0;
-        for (; shape.width - j >= lanes; j += lanes)
-            moveColumns<lanes>(s, d, shape.width, {i, j, first, last});
-        if constexpr (lanes == 4) {
+        for (; shape.width - j >= columns; j += columns)
+            moveColumns<columns, V>(s, d, shape.width, {i, j, first, last});
+        if constexpr (columns == 4) {
             if (shape.width - j == 3)
-                moveColumns<3>(s, d, shape.width, {i, j, first, last});
+                moveColumns<3, V>(s, d, shape.width, {i, j, first, last});
             else if (shape.width - j == 2)
-                moveColumns<2>(s, d, shape.width, {i, j, first, last});
+                moveColumns<2, V>(s, d, shape.width, {i, j, first, last});
         }
         if (shape.width - j == 1)
-            moveColumns<1>(s, d, shape.width, {i, j, first, last});
+            moveColumns<1, V>(s, d, shape.width, {i, j, first, last});
     }
 }
 
@@ -214,9 +184,10 @@ constexpr std::uint32_t kObjectsAtOnce = 64;
 
 template <typename T, typename S, typename D>
 ZELM_INLINE void moveInBlocks(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
-    const std::uint32_t whole = count - count % kLanes<T>;
+    using V = Pack<T, kMoveBytes>;
+    const std::uint32_t whole = count - count % kLanesOf<V>;
     for (std::uint32_t k = 0; k < whole; k += kObjectsAtOnce)
-        moveObjectsInBlocks<T>(s, d, shape, k, whole - k < kObjectsAtOnce ? whole : k + kObjectsAtOnce);
+        moveObjectsInBlocks<V>(s, d, shape, k, whole - k < kObjectsAtOnce ? whole : k + kObjectsAtOnce);
     for (std::uint32_t k = whole; k < count; ++k)
         moveObject(s.object(k), d.object(k), shape);
 }
@@ -225,12 +196,13 @@ ZELM_INLINE void moveInBlocks(const S &s, const D &d, RunTimeShape shape, std::u
 template <typename T>
 ZELM_INLINE void moveInBlocks(const PackedTableArray<const T> &s, const DenseList<T> &d, RunTimeShape shape,
                               std::uint32_t count) {
-    constexpr unsigned lanes = kLanes<T>;
+    using V = Pack<T>;
+    constexpr unsigned lanes = kLanesOf<V>;
     const Extent extent = extentOf(d, shape.height, shape.width);
     std::uint32_t k = 0;
     for (; count - k >= lanes; k += lanes) {
         if (areApartFromEachOther(lowestOf<lanes>(d, extent, k), extent.bytes)) {
-            moveObjectsInBlocks<T>(s, d, shape, k, k + lanes);
+            moveObjectsInBlocks<V>(s, d, shape, k, k + lanes);
         } else {
             for (std::uint32_t object = k; object < k + lanes; ++object)
                 moveObject(s.object(object), d.object(object), shape);
@@ -271,12 +243,13 @@ ZELM_INLINE void moveBetween(const S &s, const D &d, RunTimeShape shape, std::ui
 
 template <typename S, typename D>
 ZELM_INLINE void moveObjects(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
-    withPlainestLayout(
-        s, [&](const auto &from) __attribute__((always_inline)) {
-            withPlainestLayout(
-                d, [&](const auto &to)
-                       __attribute__((always_inline)) { moveBetween(from, to, shape, count); });
-        });
+    withPlainest(
+        [&](const auto &from) __attribute__((always_inline)) {
+            withPlainest([&](const auto &to) __attribute__((
+                             always_inline)) { moveBetween(from, to, shape, count); },
+                         d);
+        },
+        s);
 }
 
 } // namespace zelm::movement

@@ -1,7 +1,7 @@
 // Adjacent elements moved as they are.
 #pragma once
 
-#include "frame/pack.h"
+#include "frame/shuffles.h"
 
 namespace zelm::movement {
 
@@ -22,19 +22,19 @@ ZELM_INLINE void moveRun(Address to, Address from, Address elements) {
     if (bytes >= kStringBytes)
         return moveString(to, from, bytes);
     Address at = 0;
-    if (bytes < kPackBytes) {
-        if (bytes >= kPackBytes / 2) {
+    if (bytes < kBlockBytes) {
+        if (bytes >= kBlockBytes / 2) {
             copyElement<double>(to, from);
-            at = kPackBytes / 2;
+            at = kBlockBytes / 2;
         }
         if (at != bytes)
             copyElement<float>(to + at, from + at);
         return;
     }
-    for (; bytes - at >= kPackBytes; at += kPackBytes)
+    for (; bytes - at >= kBlockBytes; at += kBlockBytes)
         storePack(to + at, loadPack<T>(from + at));
     if (at != bytes)
-        storePack(to + bytes - kPackBytes, loadPack<T>(from + bytes - kPackBytes));
+        storePack(to + bytes - kBlockBytes, loadPack<T>(from + bytes - kBlockBytes));
 }
 
 } // namespace zelm::movement

@@ -5,6 +5,7 @@
 #include "frame/groups.h"
 #include "frame/objects.h"
 #include "frame/overlap.h"
+#include "frame/plainest.h"
 #include "frame/shapes.h"
 #include "movement/planes.h"
 
@@ -36,11 +37,11 @@ ZELM_INLINE void transposeInOrder(const S &s, const D &d, Shape shape) {
 
 ZELM_INLINE void transposeBlock(const Dense<const float> &s, const Dense<float> &d, std::uint32_t i,
                                 std::uint32_t j) {
-    __m128 rows[4];
+    Floats4 rows[4];
 #pragma GCC unroll 4
     for (std::uint32_t r = 0; r < 4; ++r)
         rows[r] = loadPack<float>(s.address(i + r, j, 0));
-    _MM_TRANSPOSE4_PS(rows[0], rows[1], rows[2], rows[3]);
+    transposeFour(rows[0], rows[1], rows[2], rows[3]);
 #pragma GCC unroll 4
     for (std::uint32_t r = 0; r < 4; ++r)
         storePack(d.address(j + r, i, 0), rows[r]);
@@ -48,7 +49,7 @@ ZELM_INLINE void transposeBlock(const Dense<const float> &s, const Dense<float> 
 
 ZELM_INLINE void transposeBlock(const Dense<const double> &s, const Dense<double> &d, std::uint32_t i,
                                 std::uint32_t j) {
-    const __m128d a = loadPack<double>(s.address(i, j, 0)), b = loadPack<double>(s.address(i + 1, j, 0));
+    const Doubles2 a = loadPack<double>(s.address(i, j, 0)), b = loadPack<double>(s.address(i + 1, j, 0));
     storePack(d.address(j, i, 0), _mm_unpacklo_pd(a, b));
     storePack(d.address(j + 1, i, 0), _mm_unpackhi_pd(a, b));
 }
@@ -153,10 +154,7 @@ ZELM_INLINE bool transposePlanes(const PackedTableArray<const T> &s, const Packe
 }
 
 template <typename S, typename D, typename Shape>
-ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::uint32_t count) {
-    const Address n = shape.elements();
-    if (ZelmStatus status = checkArray(shape.isZero(), count, tested(s, n), tested(d, n)); status != kProceed)
-        return status;
+ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std::uint32_t count) {
     if constexpr (D::isSideBySide && Shape::isFixed)
         if (transposePlanes(s, d, shape, count))
             return ZELM_OK;
@@ -174,6 +172,16 @@ ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::
         };
         return forEachObject(count, one, s, d);
     }
+}
+
+template <typename S, typename D, typename Shape>
+ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::uint32_t count) {
+    const Address n = shape.elements();
+    if (ZelmStatus status = checkArray(shape.isZero(), count, tested(s, n), tested(d, n)); status != kProceed)
+        return status;
+    return withPlainest([&](const auto &...plain) __attribute__((
+                            always_inline)) { return transposeObjects(plain..., shape, count); },
+                        s, d);
 }
 
 } // namespace zelm::movement

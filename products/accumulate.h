@@ -50,4 +50,63 @@ ZELM_INLINE ZelmStatus accumulateTested(const A &a, const B &b, const Table<T> &
     return ZELM_OK;
 }
 
+// ---- by vectors
+
+// Gaxpy's third operand, where there is one.
+struct Nothing : WithoutTable {
+    static constexpr bool isNull() { return false; }
+    ZELM_INLINE Nothing object(std::uint32_t) const { return {}; }
+};
+
+template <typename Z>
+constexpr bool kAdds = !std::is_same_v<Z, Nothing>;
+
+template <typename T, typename Z>
+ZELM_INLINE T plus(T sum, const Z &z, std::uint32_t i) {
+    if constexpr (kAdds<Z>)
+        return sum + z.get(i);
+    else
+        return sum;
+}
+
+template <bool livesInDst, typename A, typename X, typename Z, typename D>
+ZELM_INLINE void accumulateVector(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
+                                  std::uint32_t terms, std::uint32_t pitch) {
+    using T = typename D::Element;
+    for (std::uint32_t i = 0; i < rows; ++i) {
+        T sum = 0;
+        d.set(i, sum);
+        for (std::uint32_t t = 0; t < terms; ++t) {
+            const T product = used(a, i, t, pitch) * x.get(t);
+            if constexpr (livesInDst)
+                sum = d.get(i);
+            sum = sum + product;
+            d.set(i, sum);
+        }
+        if constexpr (kAdds<Z>)
+            d.set(i, d.get(i) + z.get(i));
+    }
+}
+
+// Mul tests src1's entry ahead of src2's, Gaxpy the other way round: a null one of either ends the call
+// alike.
+template <typename A, typename X, typename Z, typename T>
+ZELM_INLINE ZelmStatus accumulateVectorTested(const A &a, const X &x, const Z &z, const Table<T> &d,
+                                              std::uint32_t rows, std::uint32_t terms, std::uint32_t pitch) {
+    for (std::uint32_t i = 0; i < rows; ++i) {
+        if (z.elementIsNull(i) || d.elementIsNull(i))
+            return ZELM_ERR_NULL_PTR;
+        d.set(i, T{0});
+        for (std::uint32_t t = 0; t < terms; ++t) {
+            if (a.elementIsNull(usedEntry(a, i, t, pitch)) || x.elementIsNull(t))
+                return ZELM_ERR_NULL_PTR;
+            const T product = used(a, i, t, pitch) * x.get(t);
+            d.set(i, d.get(i) + product);
+        }
+        if constexpr (kAdds<Z>)
+            d.set(i, d.get(i) + z.get(i));
+    }
+    return ZELM_OK;
+}
+
 } // namespace zelm::products

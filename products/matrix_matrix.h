@@ -1,7 +1,8 @@
 // Products of two matrices.
 #pragma once
 
-#include "frame/overlap.h"
+#include "frame/batch.h"
+#include "frame/plainest.h"
 #include "products/accumulate.h"
 #include "products/matrix_rows.h"
 
@@ -86,7 +87,7 @@ ZELM_INLINE bool beginsAt(const S &s, const D &d) {
     return s.address(0, 0, 0) == d.address(0, 0, 0);
 }
 
-template <InPlace inPlace, Sum order, unsigned N, typename A, typename B, typename D>
+template <InPlaceOf inPlace, Sum order, unsigned N, typename A, typename B, typename D>
 ZELM_INLINE void multiplyObject(const A &a, const B &b, const D &d) {
     if ((!inPlace.first && beginsAt(a, d)) || (!inPlace.second && beginsAt(b, d)))
         return multiplyAnew<order, N>(a, b, d);
@@ -110,7 +111,7 @@ constexpr Form formOf() {
 }
 
 template <typename A, typename B, typename D, unsigned N>
-constexpr InPlace kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, kIsArray<B>, kIsTransposed<A>,
+constexpr InPlaceOf kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, kIsArray<B>, kIsTransposed<A>,
                                        kIsTransposed<B>, sizeof(typename D::Element) == 4, N);
 
 template <typename A, typename B, typename D>
@@ -162,44 +163,35 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixS
 // P: the same element of successive objects is adjacent, so that packs of them need no shuffle.
 template <unsigned N, typename S>
 struct Planes {
-    using T = typename S::Element;
     const S &operand;
-    ZELM_INLINE Pack<T> get(std::uint32_t k, std::uint32_t i, std::uint32_t j) const {
+    template <typename V>
+    ZELM_INLINE V get(As<V>, std::uint32_t k, std::uint32_t i, std::uint32_t j) const {
         if constexpr (kIsArray<S>) {
             const auto object = operand.object(k);
-            return loadPack<T>(kIsTransposed<S> ? object.address(j, i, N) : object.address(i, j, N));
+            return loadAs<V>(kIsTransposed<S> ? object.address(j, i, N) : object.address(i, j, N));
         } else {
-            return broadcast(used(operand, i, j, N));
+            return spread<V>(used(operand, i, j, N));
         }
     }
 };
 
-// From how many objects on the overlap test is worth its time.
-constexpr std::uint32_t kPlanesCount = 8;
-
-template <unsigned N, typename A, typename B, typename T>
-ZELM_INLINE bool planesMayRun(const A &a, const B &b, const PackedTableArray<T> &d, std::uint32_t count) {
-    return count >= kPlanesCount && count <= kMostObjectsInRange && elementsAreApart(d, N, N, count) &&
-           isUntouched(a, N, N, d, N, N, count) && isUntouched(b, N, N, d, N, N, count);
-}
-
-template <unsigned N, typename A, typename B, typename T>
-ZELM_INLINE void multiplyPlanes(const Planes<N, A> &a, const Planes<N, B> &b, const PackedTableArray<T> &d,
-                                std::uint32_t k) {
-    Pack<T> second[N][N];
+template <unsigned N, typename V, typename A, typename B, typename T>
+ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<N, B> &b,
+                                const PackedTableArray<T> &d, std::uint32_t k) {
+    V second[N][N];
 #pragma GCC unroll 6
     for (unsigned t = 0; t < N; ++t)
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
-            second[t][j] = b.get(k, t, j);
+            second[t][j] = b.get(pack, k, t, j);
     for (unsigned i = 0; i < N; ++i) {
-        Pack<T> row[N];
+        V row[N];
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t)
-            row[t] = a.get(k, i, t);
+            row[t] = a.get(pack, k, i, t);
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j) {
-            Pack<T> sum = row[0] * second[0][j];
+            V sum = row[0] * second[0][j];
 #pragma GCC unroll 5
             for (unsigned t = 1; t < N; ++t)
                 sum = sum + row[t] * second[t][j];
@@ -208,22 +200,29 @@ ZELM_INLINE void multiplyPlanes(const Planes<N, A> &a, const Planes<N, B> &b, co
     }
 }
 
-template <typename A, typename B, typename D, unsigned N>
-ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSizes<N>, std::uint32_t count) {
-    constexpr InPlace inPlace = kInPlace<A, B, D, N>;
-    if constexpr (D::isSideBySide) {
-        if (planesMayRun<N>(a, b, d, count)) {
-            using T = typename D::Element;
-            const Planes<N, A> first{a};
-            const Planes<N, B> second{b};
-            std::uint32_t k = 0;
-            for (; count - k >= kLanes<T>; k += kLanes<T>)
-                multiplyPlanes<N>(first, second, d, k);
-            for (; k < count; ++k)
-                multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
-            return ZELM_OK;
-        }
-    }
+// `inPlace` is that of the called form.
+template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplyByPlanes(const A &a, const B &b, const D &d, FixedSizes<N>,
+                                        std::uint32_t count) {
+    const Planes<N, A> first{a};
+    const Planes<N, B> second{b};
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
+        return ZELM_OK;
+    };
+    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        multiplyPlanes(pack, first, second, d, k);
+        return true;
+    };
+    return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, N, N), reads(a, N, N),
+                                            reads(b, N, N));
+}
+
+// Inside one object after the other, which is as fast as across where a row fills a pack, and faster where
+// objects would have to be transposed.
+template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, FixedSizes<N>,
+                                        std::uint32_t count) {
     if constexpr (kIsArray<B>) {
         const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
@@ -244,6 +243,20 @@ ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSi
         };
         return forEachObject(count, one, a, b, d);
     }
+}
+
+template <typename A, typename B, typename D, unsigned N>
+ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSizes<N> sizes,
+                                     std::uint32_t count) {
+    constexpr InPlaceOf inPlace = kInPlace<A, B, D, N>;
+    const auto multiply = [&](const auto &first, const auto &second, const auto &result)
+        __attribute__((always_inline)) {
+        if constexpr (std::remove_cvref_t<decltype(result)>::isSideBySide)
+            return multiplyByPlanes<inPlace>(first, second, result, sizes, count);
+        else
+            return multiplyOneByOne<inPlace>(first, second, result, sizes, count);
+    };
+    return withPlainest(multiply, a, b, d);
 }
 
 template <typename A, typename B, typename D, unsigned N>

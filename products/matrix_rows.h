@@ -14,7 +14,7 @@ constexpr unsigned kRowPacks = N / kLanes<T>;
 template <typename T, unsigned N>
 constexpr unsigned kRowRest = N % kLanes<T>;
 
-ZELM_INLINE __m128 packOf(float a, float b, float c, float d) {
+ZELM_INLINE Floats4 packOf(float a, float b, float c, float d) {
     return _mm_setr_ps(a, b, c, d);
 }
 
@@ -48,7 +48,7 @@ struct HeldRows {
             if constexpr (packs > 2)
                 pack[t][2] = packOfRow<4>(b, t);
             if constexpr (rest == 2) {
-                const __m128 two =
+                const Floats4 two =
                     _mm_unpacklo_ps(_mm_set_ss(used(b, t, N - 2, 0)), _mm_set_ss(used(b, t, N - 1, 0)));
                 pair[t] = _mm_movelh_ps(two, two);
             }
@@ -85,7 +85,7 @@ template <typename T, unsigned N>
 ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::uint32_t i) {
 #pragma GCC unroll 3
     for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
-        storePack(d.rowStart(i) + p * kPackBytes, row.pack[p]);
+        storePack(d.rowStart(i) + p * kBlockBytes, row.pack[p]);
     if constexpr (kRowRest<T, N> == 1)
         d.set(i, N - 1, 0, row.last);
 }
@@ -94,11 +94,11 @@ template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Dense<float> &d) {
 #pragma GCC unroll 3
     for (unsigned i = 0; i < 6; i += 2) {
-        __m128 sums[2], pair;
+        Floats4 sums[2], pair;
 #pragma GCC unroll 6
         for (unsigned t = 0; t < 6; ++t) {
-            const __m128 one = broadcast(used(a, i, t, 0)), other = broadcast(used(a, i + 1, t, 0));
-            const __m128 both = _mm_movelh_ps(one, other) * b.pair[t];
+            const Floats4 one = broadcast(used(a, i, t, 0)), other = broadcast(used(a, i + 1, t, 0));
+            const Floats4 both = _mm_movelh_ps(one, other) * b.pair[t];
             sums[0] = t == 0 ? one * b.pack[t][0] : sums[0] + one * b.pack[t][0];
             sums[1] = t == 0 ? other * b.pack[t][0] : sums[1] + other * b.pack[t][0];
             pair = t == 0 ? both : pair + both;
@@ -120,12 +120,12 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T
 // ---- 32f 3x3: a row is a pack whose last element is not used. Rows that follow each other without a gap are
 // loaded and stored over each other, never outside of the matrix.
 
-ZELM_INLINE __m128 loadThree(Address from) {
+ZELM_INLINE Floats4 loadThree(Address from) {
     return _mm_movelh_ps(loadTwo(from), _mm_load_ss(reinterpret_cast<const float *>(from + 8)));
 }
 
 template <typename A>
-ZELM_INLINE __m128 threeOfRow(const A &a, std::uint32_t row) {
+ZELM_INLINE Floats4 threeOfRow(const A &a, std::uint32_t row) {
     if constexpr (kIsTransposed<A>)
         return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), 0);
     else
@@ -134,14 +134,14 @@ ZELM_INLINE __m128 threeOfRow(const A &a, std::uint32_t row) {
 
 template <>
 struct HeldRows<float, 3> {
-    __m128 row[3];
+    Floats4 row[3];
     template <typename A>
     ZELM_INLINE explicit HeldRows(const A &a) {
         if constexpr (!kIsTransposed<A>) {
             if (a.rowStride == 12) {
                 row[0] = loadPack<float>(a.start);
                 row[1] = loadPack<float>(a.start + 12);
-                const __m128 last = loadPack<float>(a.start + 20);
+                const Floats4 last = loadPack<float>(a.start + 20);
                 row[2] = _mm_shuffle_ps(last, last, _MM_SHUFFLE(3, 3, 2, 1));
                 return;
             }
@@ -152,21 +152,21 @@ struct HeldRows<float, 3> {
     }
 };
 
-ZELM_INLINE void storeThree(Address to, __m128 row) {
+ZELM_INLINE void storeThree(Address to, Floats4 row) {
     _mm_storel_pi(reinterpret_cast<__m64 *>(to), row);
     _mm_store_ss(reinterpret_cast<float *>(to + 8), _mm_movehl_ps(row, row));
 }
 
 template <unsigned lane>
-ZELM_INLINE __m128 spread(__m128 pack) {
+ZELM_INLINE Floats4 spreadLane(Floats4 pack) {
     return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pack), lane * 0x55));
 }
 
 // A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.
 template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Dense<float> &d) {
-    const auto times = [&](__m128 row) __attribute__((always_inline)) {
-        return (spread<0>(row) * b.row[0] + spread<1>(row) * b.row[1]) + spread<2>(row) * b.row[2];
+    const auto times = [&](Floats4 row) __attribute__((always_inline)) {
+        return (spreadLane<0>(row) * b.row[0] + spreadLane<1>(row) * b.row[1]) + spreadLane<2>(row) * b.row[2];
     };
     if constexpr (kIsTransposed<A>) {
 #pragma GCC unroll 3
@@ -174,7 +174,7 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Den
             storeThree(d.rowStart(i), times(threeOfRow(a, i)));
     } else {
         const HeldRows<float, 3> first(a);
-        const __m128 rows[3] = {times(first.row[0]), times(first.row[1]), times(first.row[2])};
+        const Floats4 rows[3] = {times(first.row[0]), times(first.row[1]), times(first.row[2])};
         if (d.rowStride == 12) {
             storePack(d.start, rows[0]);
             storePack(d.start + 12, rows[1]);

@@ -139,14 +139,14 @@ constexpr Sum vectorSumOfRow(unsigned i) {
 
 // Whether dst may be a source, exactly: the same start, the same strides, the same table. Where it may not,
 // the elements of the source are read again for every element of dst, as they are by then.
-struct InPlace {
+struct InPlaceOf {
     bool first, second;
 };
 
 enum class Form { Standard, S2, P, List, ListOfStrided, PS2 };
 
 // Of one or of an array of 3x3 to 6x6 products.
-constexpr InPlace inPlaceOf(Form form, bool isArray, bool firstArray, bool secondArray, bool firstTransposed,
+constexpr InPlaceOf inPlaceOf(Form form, bool isArray, bool firstArray, bool secondArray, bool firstTransposed,
                             bool secondTransposed, bool is32f, unsigned n) {
     const bool small = n <= 4, upTo5 = n <= 5;
     const bool dense = form == Form::Standard || form == Form::List;
@@ -159,7 +159,7 @@ constexpr InPlace inPlaceOf(Form form, bool isArray, bool firstArray, bool secon
             return {false, false};
         return {!firstTransposed && (!is32f || upTo5), !is32f || (secondTransposed ? upTo5 : n != 5)};
     }
-    InPlace safe = {false, secondArray && dense};
+    InPlaceOf safe = {false, secondArray && dense};
     if (firstArray && !firstTransposed) {
         if (dense)
             safe.first = !is32f || upTo5;

@@ -48,7 +48,7 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
 #pragma GCC unroll 4
         for (unsigned object = 0; object < 4; ++object)
             out[object] = blocks(object, 0);
-        transposeBlocks(out[0], out[1], out[2], out[3]);
+        transposeFour(out[0], out[1], out[2], out[3]);
         if constexpr (N == 6) {
             const V upper = loadPairs<V>(a, 16) * loadPairs<V>(b, 16);
             const V lower = loadPairs<V>(a + 2, 16) * loadPairs<V>(b + 2, 16);

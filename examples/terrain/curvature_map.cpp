@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdio>
 #include <vector>
 
 namespace terrain {
@@ -20,6 +21,7 @@ constexpr std::array<Colour, 11> concaveToConvex = {
 
 double curvatureScale(const Layers &layers) {
     std::vector<float> sizes;
+    sizes.reserve(layers.curvature.size());
     for (const float curvature : layers.curvature) {
         if (std::isfinite(curvature)) {
             sizes.push_back(std::fabs(curvature));
@@ -34,18 +36,25 @@ double curvatureScale(const Layers &layers) {
     return *place;
 }
 
-Image curvatureMap(const Grid &grid, const Layers &layers, double scale) {
-    Image image(grid.columns, grid.rows);
-    for (std::size_t cell = 0; cell < layers.curvature.size(); ++cell) {
-        const double curvature = layers.curvature[cell];
-        if (!std::isfinite(curvature)) {
-            image.set(cell, blankColour);
-            continue;
+Legend curvatureLegend(Curvature kind, double scale, const CellSize &cell) {
+    char full[32];
+    std::snprintf(full, sizeof full, "%.2g", scale);
+    return {std::string(nameOf(kind)) + " curvature in 1/m",
+            {{0, std::string("-") + full}, {1, full}, {0.38, "concave"}, {0.65, "convex"}},
+            [](double position) { return colourAt(concaveToConvex, position); },
+            cell};
+}
+
+void drawCurvature(const Grid &grid, const Layers &layers, double scale, Progress &progress, Image &sheet) {
+    for (std::size_t row = 0; row < grid.rows; ++row) {
+        for (std::size_t column = 0; column < grid.columns; ++column) {
+            const double curvature = layers.curvature[row * grid.columns + column];
+            const double position = scale > 0 ? 0.5 + 0.5 * curvature / scale : 0.5;
+            sheet.set(column, row,
+                      std::isfinite(curvature) ? colourAt(concaveToConvex, position) : blankColour);
         }
-        const double position = scale > 0 ? 0.5 + 0.5 * curvature / scale : 0.5;
-        image.set(cell, colourAt(concaveToConvex, position));
+        progress.show("drawing the curvature", row + 1, grid.rows);
     }
-    return image;
 }
 
 } // namespace terrain

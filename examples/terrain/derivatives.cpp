@@ -53,6 +53,18 @@ double aspectDegrees(double p, double q) {
     return angle < 0 ? angle + 360 : angle;
 }
 
+const char *nameOf(Curvature kind) {
+    switch (kind) {
+    case Curvature::Profile:
+        return "profile";
+    case Curvature::Tangential:
+        return "tangential";
+    case Curvature::Mean:
+        break;
+    }
+    return "mean";
+}
+
 double curvatureOf(const Derivatives &d, Curvature kind) {
     switch (kind) {
     case Curvature::Profile:

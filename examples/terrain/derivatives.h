@@ -30,6 +30,7 @@ enum class Curvature {
     Profile,   // along the steepest slope: where water speeds up; 0 on flat ground
     Tangential // across it: where water spreads; 0 on flat ground
 };
+const char *nameOf(Curvature kind);
 double curvatureOf(const Derivatives &d, Curvature kind);
 
 } // namespace terrain

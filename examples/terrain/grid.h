@@ -10,10 +10,11 @@ namespace terrain {
 struct Grid {
     std::size_t rows = 0;
     std::size_t columns = 0;
-    double west = 0;     // western edge, in the header's unit
-    double south = 0;    // southern edge
-    double cellSize = 0; // in the header's unit: metres or degrees
-    double noData = 0;   // how the file writes a cell without data
+    double west = 0;      // western edge, in the header's unit
+    double south = 0;     // southern edge
+    double cellWidth = 0; // west-east, in the header's unit: metres or degrees
+    double cellHeight = 0;
+    double noData = 0; // how the file writes a cell without data
     // Row after row from the north, each from the west. A cell without data is NaN.
     std::vector<double> elevation = {};
 
@@ -21,7 +22,7 @@ struct Grid {
     bool hasData(std::size_t row, std::size_t column) const { return !std::isnan(at(row, column)); }
     // The y coordinate of the centre of a row.
     double centre(std::size_t row) const {
-        return south + (static_cast<double>(rows - 1 - row) + 0.5) * cellSize;
+        return south + (static_cast<double>(rows - 1 - row) + 0.5) * cellHeight;
     }
 };
 

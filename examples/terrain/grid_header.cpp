@@ -16,7 +16,7 @@ namespace terrain {
 namespace {
 
 constexpr const char *knownKeys =
-    "ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize, NODATA_value";
+    "ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize or dx and dy, NODATA_value";
 
 std::string lowered(std::string_view word) {
     std::string text(word);
@@ -49,8 +49,11 @@ std::optional<GridHeader::Field> &GridHeader::field(std::string_view key, std::s
         southIsCentre_ = name == "yllcenter";
         return south_;
     }
-    if (name == "cellsize") {
-        return cellSize_;
+    if (name == "cellsize" || name == "dx") {
+        return cellWidth_;
+    }
+    if (name == "dy") {
+        return cellHeight_;
     }
     if (name == "nodata_value") {
         return noData_;
@@ -60,41 +63,54 @@ std::optional<GridHeader::Field> &GridHeader::field(std::string_view key, std::s
 }
 
 void GridHeader::take(std::string_view text, std::size_t line) {
-    const std::string_view key = nextWord(text);
-    std::optional<Field> &target = field(key, line);
-    if (target) {
-        throw InputError(file_, line,
-                         "expected " + lowered(key) + " once, it stands in line " +
-                             std::to_string(target->line) + " already");
+    std::string_view previous;
+    for (std::string_view key = nextWord(text); !key.empty(); key = nextWord(text)) {
+        if (!previous.empty() && !isKey(key)) {
+            throw InputError(file_, line,
+                             "expected a key behind " + lowered(previous) + " and its value, found " +
+                                 shown(key));
+        }
+        std::optional<Field> &target = field(key, line);
+        // cellsize stands for dx and dy; some programs write both behind it.
+        const bool isBoth = lowered(key) == "cellsize";
+        if (target || (isBoth && cellHeight_)) {
+            throw InputError(file_, line,
+                             "expected " + lowered(key) + " once, it stands in line " +
+                                 std::to_string((target ? target : cellHeight_)->line) + " already");
+        }
+        target = valueOf(key, nextWord(text), line);
+        if (isBoth) {
+            std::string_view rest = text;
+            const std::string_view second = nextWord(rest);
+            const bool hasSecond = !second.empty() && !isKey(second);
+            cellHeight_ = hasSecond ? valueOf(key, second, line) : target;
+            text = hasSecond ? rest : text;
+        }
+        previous = key;
     }
-    const std::string_view word = nextWord(text);
+}
+
+GridHeader::Field GridHeader::valueOf(std::string_view key, std::string_view word, std::size_t line) const {
+    const std::string name = lowered(key);
     const std::optional<double> value = number(word);
-    const bool isSize = &target == &columns_ || &target == &rows_;
-    if (isSize) {
+    if (name == "ncols" || name == "nrows") {
         const bool isWhole = !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
         // A whole number that is too long for any type is a size beyond memory, not a wrong number.
         const double size = value ? *value : std::numeric_limits<double>::infinity();
         if (!isWhole || size < 1) {
             throw InputError(file_, line,
-                             "expected a positive whole number behind " + lowered(key) + ", found " +
-                                 shown(word));
+                             "expected a positive whole number behind " + name + ", found " + shown(word));
         }
-        target = Field{size, line};
-    } else {
-        const bool positive = &target == &cellSize_;
-        const bool allowNan = &target == &noData_;
-        if (!value || std::isinf(*value) || (std::isnan(*value) && !allowNan) ||
-            (positive && !(*value > 0))) {
-            throw InputError(file_, line,
-                             std::string("expected a ") + (positive ? "positive " : "") + "number behind " +
-                                 lowered(key) + ", found " + shown(word));
-        }
-        target = Field{*value, line};
+        return {size, line};
     }
-    if (const std::string_view extra = nextWord(text); !extra.empty()) {
+    const bool positive = name == "cellsize" || name == "dx" || name == "dy";
+    const bool allowNan = name == "nodata_value";
+    if (!value || std::isinf(*value) || (std::isnan(*value) && !allowNan) || (positive && !(*value > 0))) {
         throw InputError(file_, line,
-                         "expected nothing behind " + lowered(key) + " and its value, found " + shown(extra));
+                         std::string("expected a ") + (positive ? "positive " : "") + "number behind " +
+                             name + ", found " + shown(word));
     }
+    return {*value, line};
 }
 
 void GridHeader::failForMemory() const {
@@ -119,7 +135,8 @@ Grid GridHeader::grid(std::size_t line) const {
     require(rows_, "nrows");
     require(west_, "xllcorner or xllcenter");
     require(south_, "yllcorner or yllcenter");
-    require(cellSize_, "cellsize");
+    require(cellWidth_, cellHeight_ ? "dx" : "cellsize");
+    require(cellHeight_, "dy");
     // Asked before anything is allocated: a system may promise memory that it doesn't have.
     if (memoryNeeded(rows_->value, columns_->value) > memoryAvailable()) {
         failForMemory();
@@ -129,9 +146,10 @@ Grid GridHeader::grid(std::size_t line) const {
     Grid grid;
     grid.columns = static_cast<std::size_t>(columns_->value);
     grid.rows = static_cast<std::size_t>(rows_->value);
-    grid.cellSize = cellSize_->value;
-    grid.west = west_->value - (westIsCentre_ ? grid.cellSize / 2 : 0);
-    grid.south = south_->value - (southIsCentre_ ? grid.cellSize / 2 : 0);
+    grid.cellWidth = cellWidth_->value;
+    grid.cellHeight = cellHeight_->value;
+    grid.west = west_->value - (westIsCentre_ ? grid.cellWidth / 2 : 0);
+    grid.south = south_->value - (southIsCentre_ ? grid.cellHeight / 2 : 0);
     grid.noData = noData_ ? noData_->value : defaultNoData;
     try {
         grid.elevation.reserve(grid.rows * grid.columns);

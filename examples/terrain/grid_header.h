@@ -18,7 +18,7 @@ public:
     // number.
     static bool isKey(std::string_view word);
 
-    // Takes one line of the header; throws InputError for one that isn't a key and its value.
+    // Takes one line of the header; throws InputError for one that isn't made of keys and their values.
     void take(std::string_view text, std::size_t line);
 
     // The grid that the header describes, without its values. Throws InputError if a field is missing or the
@@ -34,10 +34,11 @@ private:
         std::size_t line = 0;
     };
     std::optional<Field> &field(std::string_view key, std::size_t line);
+    Field valueOf(std::string_view key, std::string_view word, std::size_t line) const;
     [[noreturn]] void failForMemory() const;
 
     std::string file_;
-    std::optional<Field> columns_, rows_, west_, south_, cellSize_, noData_;
+    std::optional<Field> columns_, rows_, west_, south_, cellWidth_, cellHeight_, noData_;
     bool westIsCentre_ = false;
     bool southIsCentre_ = false;
 };

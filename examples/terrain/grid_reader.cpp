@@ -18,6 +18,17 @@ namespace {
 constexpr std::size_t longestLine = std::size_t{64} << 20;
 constexpr std::size_t longestValue = 64; // with its white space
 
+// What is higher is no elevation in any unit, but the mark of a missing value that the header doesn't name.
+constexpr double highest = 1e9;
+
+// Header and rows are often written with different numbers of digits: -3.402823e+38 and
+// -3.4028234663852886e+38.
+bool isNoData(double value, double noData) {
+    constexpr double digits = 1e-6;
+    return value == noData ||
+           (std::fabs(noData) > highest && std::fabs(value - noData) <= digits * std::fabs(noData));
+}
+
 void readRow(std::string_view text, std::size_t line, const std::string &file, Grid &grid) {
     const std::size_t row = grid.elevation.size() / grid.columns;
     const bool nanIsNoData = std::isnan(grid.noData);
@@ -27,18 +38,28 @@ void readRow(std::string_view text, std::size_t line, const std::string &file, G
             continue; // only counted
         }
         const std::optional<double> value = number(word);
-        if (!value || std::isinf(*value) || (std::isnan(*value) && !nanIsNoData)) {
+        const bool isAbsent = value && (std::isnan(*value) ? nanIsNoData : isNoData(*value, grid.noData));
+        if (!isAbsent && !(value && std::fabs(*value) <= highest)) {
             throw InputError(file, line,
-                             "expected a number as value " + std::to_string(found + 1) + " of row " +
-                                 std::to_string(row + 1) + ", found " + shown(word));
+                             "expected a number from -1e9 to 1e9 or NODATA_value as value " +
+                                 std::to_string(found + 1) + " of row " + std::to_string(row + 1) +
+                                 ", found " + shown(word));
         }
-        const bool absent = *value == grid.noData;
-        grid.elevation.push_back(absent ? std::numeric_limits<double>::quiet_NaN() : *value);
+        grid.elevation.push_back(isAbsent ? std::numeric_limits<double>::quiet_NaN() : *value);
     }
     if (found != grid.columns) {
         throw InputError(file, line,
                          "expected " + std::to_string(grid.columns) + " values in row " +
                              std::to_string(row + 1) + ", found " + std::to_string(found));
+    }
+}
+
+void removeByteOrderMark(std::string &text, const std::string &file) {
+    if (text.starts_with("\xef\xbb\xbf")) {
+        text.erase(0, 3);
+    }
+    if (text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff")) {
+        throw InputError(file, 1, "expected a text in ASCII or UTF-8, found UTF-16");
     }
 }
 
@@ -56,6 +77,7 @@ Grid readGrid(const std::string &file, Progress &progress) {
     if (!more) {
         throw InputError(file, 1, "expected the header of an Esri ASCII grid, the file is empty");
     }
+    removeByteOrderMark(text, file);
     for (; more; more = reader.next(text, longestLine)) {
         std::string_view rest = text;
         const std::string_view word = nextWord(rest);

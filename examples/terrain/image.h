@@ -1,6 +1,7 @@
-// A picture with one pixel per cell.
+// A picture: a map with one pixel per cell at the top left, and room for a legend.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -19,14 +20,26 @@ constexpr Colour blankColour = {0.88, 0.88, 0.88};
 struct Image {
     std::size_t width;
     std::size_t height;
-    std::vector<std::uint8_t> pixels; // red, green, blue
+    std::vector<std::uint8_t> pixels; // red, green, blue; white at first
 
-    Image(std::size_t columns, std::size_t rows) : width(columns), height(rows), pixels(columns * rows * 3) {}
+    Image(std::size_t columns, std::size_t rows)
+        : width(columns), height(rows), pixels(columns * rows * 3, 255) {}
 
-    void set(std::size_t cell, const Colour &colour) {
-        pixels[cell * 3] = byte(colour.red);
-        pixels[cell * 3 + 1] = byte(colour.green);
-        pixels[cell * 3 + 2] = byte(colour.blue);
+    void set(std::size_t x, std::size_t y, const Colour &colour) {
+        std::uint8_t *const pixel = &pixels[(y * width + x) * 3];
+        pixel[0] = byte(colour.red);
+        pixel[1] = byte(colour.green);
+        pixel[2] = byte(colour.blue);
+    }
+
+    // What lies outside of the picture is left out.
+    void fill(std::size_t left, std::size_t top, std::size_t columns, std::size_t rows,
+              const Colour &colour) {
+        for (std::size_t y = top; y < std::min(top + rows, height); ++y) {
+            for (std::size_t x = left; x < std::min(left + columns, width); ++x) {
+                set(x, y, colour);
+            }
+        }
     }
 
 private:

@@ -82,15 +82,33 @@ void assembleNormal(const Neighbourhood &around, T *matrix, T *rightSide) {
 
 } // namespace
 
+namespace {
+
+// 1 / base^exponent. By operations that are rounded the same everywhere as far as they go, so that the
+// systems of a grid are the same bits on every machine for whole exponents; the last bit of pow() is each C
+// library's own.
+double reciprocalPower(double base, double exponent) {
+    if (exponent == 0) {
+        return 1;
+    }
+    if (exponent == 1) {
+        return 1 / base;
+    }
+    return exponent == 2 ? 1 / (base * base) : std::pow(base, -exponent);
+}
+
+} // namespace
+
 Weights distanceWeights(const CellSize &size, double exponent) {
     constexpr double sumOfAll = 1.0 / 128;
     const double meanCell2 = size.eastWest * size.northSouth;
     Weights weights{};
     double sum = 0;
     for (std::size_t n = 0; n < neighbours; ++n) {
-        const double distance =
-            std::hypot(eastOf(n) * size.eastWest, northOf(n) * size.northSouth) / std::sqrt(meanCell2);
-        weights[n] = std::pow(1 + distance, -exponent);
+        const double east = eastOf(n) * size.eastWest;
+        const double north = northOf(n) * size.northSouth;
+        const double distance = std::sqrt((east * east + north * north) / meanCell2);
+        weights[n] = reciprocalPower(1 + distance, exponent);
         sum += weights[n];
     }
     for (double &weight : weights) {

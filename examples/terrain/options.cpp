@@ -1,5 +1,6 @@
 #include "options.h"
 
+#include "png_writer.h"
 #include "text.h"
 
 #include <cmath>
@@ -10,7 +11,9 @@
 
 namespace terrain {
 
-const char *const helpText =
+namespace {
+
+constexpr const char *helpForAll =
     R"(usage: terrain [OPTION...] GRID
 
 Fits z = a x^2 + b xy + c y^2 + d x + e y + f by weighted least squares to the 5x5 neighbourhood of every cell of
@@ -22,7 +25,10 @@ Output:
   --slope-grid FILE        slope in degrees as Esri ASCII grid
   --aspect-grid FILE       aspect in degrees clockwise from north, -1 where flat
   --curvature-grid FILE    curvature in 1/m, positive where convex
+  --surfaces FILE          a to f of every fitted surface as CSV, with all digits
   --exaggeration X         heights are multiplied by X for the shading (2)
+  --sea-level Z|none       what lies below Z metres is sea in the relief (0)
+  --no-legend              pictures of the map alone, one pixel per cell
   --progress               show progress also where there is no terminal
 
 Fit:
@@ -44,7 +50,8 @@ Ground:
 Exit status: 0 done, 1 the output can't be written, 2 wrong input or options.
 )";
 
-namespace {
+constexpr const char *helpWithoutPictures =
+    "\nThis program was built without libpng: it writes no pictures and refuses --relief and --curvature.\n";
 
 enum Code : int {
     relief = 1,
@@ -52,11 +59,14 @@ enum Code : int {
     slopeGrid,
     aspectGrid,
     curvatureGrid,
+    surfaces,
     curvatureKind,
     method,
     floatBits,
     weightExponent,
     exaggeration,
+    seaLevel,
+    noLegend,
     geographic,
     projected,
     cellSize,
@@ -70,11 +80,14 @@ const option longOptions[] = {{"relief", required_argument, nullptr, relief},
                               {"slope-grid", required_argument, nullptr, slopeGrid},
                               {"aspect-grid", required_argument, nullptr, aspectGrid},
                               {"curvature-grid", required_argument, nullptr, curvatureGrid},
+                              {"surfaces", required_argument, nullptr, surfaces},
                               {"curvature-kind", required_argument, nullptr, curvatureKind},
                               {"method", required_argument, nullptr, method},
                               {"float", required_argument, nullptr, floatBits},
                               {"weight-exponent", required_argument, nullptr, weightExponent},
                               {"exaggeration", required_argument, nullptr, exaggeration},
+                              {"sea-level", required_argument, nullptr, seaLevel},
+                              {"no-legend", no_argument, nullptr, noLegend},
                               {"geographic", no_argument, nullptr, geographic},
                               {"projected", no_argument, nullptr, projected},
                               {"cellsize", required_argument, nullptr, cellSize},
@@ -93,6 +106,14 @@ double numberWithin(const std::string &name, double low, double high, const std:
         wrongValue(name, expected);
     }
     return *value;
+}
+
+std::string pictureName(const std::string &name) {
+    if (!canWritePng) {
+        throw UsageError("--" + name +
+                         ": expected a program with pictures, this one was built without libpng");
+    }
+    return optarg;
 }
 
 Curvature kindNamed(const std::string &name) {
@@ -127,10 +148,10 @@ void apply(int code, const std::string &name, Options &options) {
     constexpr double largest = 1e9;
     switch (code) {
     case relief:
-        options.relief = optarg;
+        options.relief = pictureName(name);
         break;
     case curvature:
-        options.curvature = optarg;
+        options.curvature = pictureName(name);
         break;
     case slopeGrid:
         options.slopeGrid = optarg;
@@ -140,6 +161,9 @@ void apply(int code, const std::string &name, Options &options) {
         break;
     case curvatureGrid:
         options.curvatureGrid = optarg;
+        break;
+    case surfaces:
+        options.surfaces = optarg;
         break;
     case curvatureKind:
         options.curvatureKind = kindNamed(optarg);
@@ -159,6 +183,15 @@ void apply(int code, const std::string &name, Options &options) {
         break;
     case exaggeration:
         options.exaggeration = numberWithin(name, smallest, largest, "a positive number");
+        break;
+    case seaLevel:
+        options.seaLevel =
+            std::string(optarg) == "none"
+                ? std::nullopt
+                : std::optional(numberWithin(name, -largest, largest, "a number of metres or none"));
+        break;
+    case noLegend:
+        options.legend = false;
         break;
     case geographic:
         options.unit = CellUnit::Degrees;
@@ -183,10 +216,11 @@ void apply(int code, const std::string &name, Options &options) {
 
 // Two outputs of one name, or an output in the place of the input, would destroy one of them.
 void checkNames(const Options &options) {
-    std::vector<std::string> names = {options.input, options.relief, options.curvature};
-    for (const auto &grid : {options.slopeGrid, options.aspectGrid, options.curvatureGrid}) {
-        if (grid) {
-            names.push_back(*grid);
+    std::vector<std::string> names = {options.input};
+    for (const auto &output : {options.relief, options.curvature, options.slopeGrid, options.aspectGrid,
+                               options.curvatureGrid, options.surfaces}) {
+        if (output) {
+            names.push_back(*output);
         }
     }
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -206,6 +240,10 @@ void checkNames(const Options &options) {
 }
 
 } // namespace
+
+std::string helpText() {
+    return std::string(helpForAll) + (canWritePng ? "" : helpWithoutPictures);
+}
 
 Options parseOptions(int argc, char **argv) {
     Options options;
@@ -228,6 +266,10 @@ Options parseOptions(int argc, char **argv) {
     options.input = argv[optind];
     if (options.cellSize && options.unit == CellUnit::Degrees) {
         throw UsageError("expected one of --geographic and --cellsize, found both");
+    }
+    if (canWritePng) {
+        options.relief = options.relief.value_or("relief.png");
+        options.curvature = options.curvature.value_or("curvature.png");
     }
     checkNames(options);
     return options;

@@ -17,17 +17,20 @@ struct Options {
     Action action = Action::Survey;
 
     std::string input;
-    std::string relief = "relief.png";
-    std::string curvature = "curvature.png";
+    std::optional<std::string> relief; // set by parseOptions() wherever pictures can be written
+    std::optional<std::string> curvature;
     std::optional<std::string> slopeGrid;
     std::optional<std::string> aspectGrid;
     std::optional<std::string> curvatureGrid;
+    std::optional<std::string> surfaces;
 
     Curvature curvatureKind = Curvature::Mean;
     Method method = Method::Lu;
     bool use32bit = false;
     double weightExponent = 1;
     double exaggeration = 2;
+    std::optional<double> seaLevel = 0;
+    bool legend = true;
     std::optional<CellUnit> unit;
     std::optional<double> cellSize; // metres
     Progress::Show progress = Progress::Show::OnTerminal;
@@ -41,6 +44,6 @@ public:
 // Throws UsageError.
 Options parseOptions(int argc, char **argv);
 
-extern const char *const helpText;
+std::string helpText();
 
 } // namespace terrain

@@ -4,6 +4,8 @@
 
 namespace terrain {
 
+const bool canWritePng = true;
+
 void writePng(const Image &image, OutputFile &file) {
     png_image header{};
     header.version = PNG_IMAGE_VERSION;

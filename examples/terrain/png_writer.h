@@ -6,6 +6,9 @@
 
 namespace terrain {
 
+// False in a program that was built without libpng: writePng() must not be called there.
+extern const bool canWritePng;
+
 void writePng(const Image &image, OutputFile &file);
 
 } // namespace terrain

@@ -1,23 +1,13 @@
 #include "report.h"
 
+#include "memory_needed.h"
+
 #include <cstdio>
 #include <zelm.h>
 
 namespace terrain {
 
 namespace {
-
-const char *nameOf(Curvature kind) {
-    switch (kind) {
-    case Curvature::Profile:
-        return "profile";
-    case Curvature::Tangential:
-        return "tangential";
-    case Curvature::Mean:
-        break;
-    }
-    return "mean";
-}
 
 const char *nameOf(Method method) {
     switch (method) {
@@ -33,14 +23,17 @@ const char *nameOf(Method method) {
 
 } // namespace
 
-void printReport(const Options &options, const Grid &grid, CellUnit unit, const Survey &survey,
-                 double scale) {
+void printReport(const Options &options, const Grid &grid, CellUnit unit, const Survey &survey, double scale,
+                 const SheetSize &pictures) {
     const CellSize size = cellSizeAt(grid, grid.rows / 2, unit);
     std::printf("grid       %zu rows of %zu cells, %zu without data\n", grid.rows, grid.columns,
                 survey.withoutData);
-    std::printf("cell       %.9g %s, %.1f m west-east by %.1f m north-south in the middle row\n",
-                grid.cellSize, unit == CellUnit::Degrees ? "degrees" : "metres", size.eastWest,
-                size.northSouth);
+    std::printf("cell       %.9g", grid.cellWidth);
+    if (grid.cellHeight != grid.cellWidth) {
+        std::printf(" by %.9g", grid.cellHeight);
+    }
+    std::printf(" %s, %.1f m west-east by %.1f m north-south in the middle row\n",
+                unit == CellUnit::Degrees ? "degrees" : "metres", size.eastWest, size.northSouth);
     std::printf("systems    %zu of %s solved by %s in %d-bit float\n", survey.solved,
                 options.method == Method::Qr ? "25x6" : "6x6", nameOf(options.method),
                 options.use32bit ? 32 : 64);
@@ -55,8 +48,13 @@ void printReport(const Options &options, const Grid &grid, CellUnit unit, const 
                     survey.steepestSlope, survey.steepestRow + 1, survey.steepestColumn + 1);
     }
     std::printf("curvature  %s, full colour at %.3g per m\n", nameOf(options.curvatureKind), scale);
-    std::printf("written    %s, %s: %zu x %zu pixels\n", options.relief.c_str(), options.curvature.c_str(),
-                grid.columns, grid.rows);
+    constexpr double mebi = 1024.0 * 1024.0;
+    std::printf("memory     %.1f MiB for a grid of this size\n",
+                memoryNeeded(static_cast<double>(grid.rows), static_cast<double>(grid.columns)) / mebi);
+    if (options.relief && options.curvature) {
+        std::printf("written    %s, %s: %zu x %zu pixels\n", options.relief->c_str(),
+                    options.curvature->c_str(), pictures.width, pictures.height);
+    }
 }
 
 void printVersion() {

@@ -59,7 +59,8 @@ double solve(Systems<T> &systems, Method method) {
 }
 
 template <class T>
-Survey surveyIn(const Grid &grid, const SurveySettings &settings, Progress &progress) {
+Survey surveyIn(const Grid &grid, const SurveySettings &settings, SurfaceWriter &surfaces,
+                Progress &progress) {
     Survey survey{.layers = Layers(grid.rows * grid.columns)};
     Residual residual;
     Systems<T> systems;
@@ -83,6 +84,7 @@ Survey surveyIn(const Grid &grid, const SurveySettings &settings, Progress &prog
             for (std::size_t i = 0; i < order; ++i) {
                 surface[i] = systems.solution[k * order + i];
             }
+            surfaces.add(row, columns[k], surface);
             record(survey, grid, row, columns[k], derivativesOf(surface, size), settings.curvature);
             residual.add(surface, neighbourhoodOf(grid, row, columns[k], weights));
         }
@@ -95,9 +97,10 @@ Survey surveyIn(const Grid &grid, const SurveySettings &settings, Progress &prog
 
 } // namespace
 
-Survey surveyGrid(const Grid &grid, const SurveySettings &settings, Progress &progress) {
-    return settings.use32bit ? surveyIn<float>(grid, settings, progress)
-                             : surveyIn<double>(grid, settings, progress);
+Survey surveyGrid(const Grid &grid, const SurveySettings &settings, SurfaceWriter &surfaces,
+                  Progress &progress) {
+    return settings.use32bit ? surveyIn<float>(grid, settings, surfaces, progress)
+                             : surveyIn<double>(grid, settings, surfaces, progress);
 }
 
 } // namespace terrain

@@ -7,6 +7,7 @@
 #include "layers.h"
 #include "method.h"
 #include "progress.h"
+#include "surface_writer.h"
 
 #include <cstddef>
 
@@ -33,6 +34,7 @@ struct Survey {
     std::size_t steepestColumn = 0;
 };
 
-Survey surveyGrid(const Grid &grid, const SurveySettings &settings, Progress &progress);
+Survey surveyGrid(const Grid &grid, const SurveySettings &settings, SurfaceWriter &surfaces,
+                  Progress &progress);
 
 } // namespace terrain

@@ -37,6 +37,13 @@ inline std::optional<double> number(std::string_view word) {
     return value;
 }
 
+// Appends the shortest text that reads back as the same number, whatever the locale.
+template <class T>
+void appendNumber(std::string &text, T value) {
+    char digits[64];
+    text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+}
+
 // A word as a message may show it: short, and safe for a terminal.
 inline std::string shown(std::string_view word) {
     constexpr std::size_t longest = 24;

@@ -2288,8 +2288,8 @@ ZELM_API ZelmStatus zelmAdd_mamT_32f(const float *src1, int32_t src1ObjStride, i
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
- * read, rows of src2 lie at src1RowStride.
+ * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
+ * stores object k; a count of 0 counts as 1.
  *
  * @copydoc zelmAdd_mamT_32f
  */
@@ -2336,8 +2336,8 @@ ZELM_API ZelmStatus zelmAdd_mamT_32f_L(const float *const *src1Table, int32_t sr
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
- * read, rows of src2 lie at src1RowStride.
+ * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
+ * stores object k; a count of 0 counts as 1.
  *
  * @copydoc zelmAdd_mamT_32f
  */
@@ -4409,8 +4409,8 @@ ZELM_API ZelmStatus zelmSub_mamT_32f(const float *src1, int32_t src1ObjStride, i
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
- * read, rows of src2 lie at src1RowStride.
+ * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
+ * stores object k; a count of 0 counts as 1.
  *
  * @copydoc zelmSub_mamT_32f
  */
@@ -4457,8 +4457,8 @@ ZELM_API ZelmStatus zelmSub_mamT_32f_L(const float *const *src1Table, int32_t sr
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1; src2RowStride is not
- * read, rows of src2 lie at src1RowStride.
+ * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
+ * stores object k; a count of 0 counts as 1.
  *
  * @copydoc zelmSub_mamT_32f
  */

@@ -59,6 +59,12 @@ ZELM_API ZelmStatus zelmTranspose_m_32f_5x5_S2(const float *src, int32_t srcRowS
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmTranspose_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_m_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_m_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmTranspose_m_32f_3x3_P(const float *const *srcTable, int32_t srcShift,
@@ -94,6 +100,12 @@ ZELM_API ZelmStatus zelmTranspose_m_64f_5x5_S2(const double *src, int32_t srcRow
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmTranspose_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_m_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_m_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmTranspose_m_64f_3x3_P(const double *const *srcTable, int32_t srcShift,
@@ -149,6 +161,12 @@ ZELM_API ZelmStatus zelmTranspose_ma_32f_5x5_S2(const float *src, int32_t srcObj
 ZELM_API ZelmStatus zelmTranspose_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_ma_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_ma_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_32f_3x3_P(const float *const *srcTable, int32_t srcShift,
@@ -170,6 +188,12 @@ ZELM_API ZelmStatus zelmTranspose_ma_32f_5x5_L(const float *const *srcTable, int
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_32f_6x6_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_ma_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_ma_32f_PS2(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         uint32_t width, uint32_t height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
@@ -221,6 +245,12 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_5x5_S2(const double *src, int32_t srcOb
 ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_ma_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_ma_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_64f_3x3_P(const double *const *srcTable, int32_t srcShift,
@@ -242,6 +272,12 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_5x5_L(const double *const *srcTable, in
         int32_t srcRowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_L(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+/**
+ * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
+ * at srcTable[i*height + j].
+ *
+ * @copydoc zelmTranspose_ma_32f
+ */
 ZELM_API ZelmStatus zelmTranspose_ma_64f_PS2(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         uint32_t width, uint32_t height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);

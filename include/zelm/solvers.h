@@ -1306,14 +1306,39 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_5x5(const float *src, int32_t srcRo
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst,
         int32_t dstRowStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t n);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_P(const float *const *srcTable, int32_t srcShift,
@@ -1336,14 +1361,39 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_5x5(const double *src, int32_t srcR
         int32_t dstRowStride);
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst,
         int32_t dstRowStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t n);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_m_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_P(const double *const *srcTable, int32_t srcShift,
@@ -1381,18 +1431,43 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5(const float *src, int32_t srcO
         float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t n, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_3x3_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_4x4_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
@@ -1428,18 +1503,43 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_PS2(const float *const *srcTab
         int32_t srcObjStride, float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6_PS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcObjStride, float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_LS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t n, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_3x3_LS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_4x4_LS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_LS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6_LS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
@@ -1453,18 +1553,43 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5(const double *src, int32_t src
         double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t n, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_3x3_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_4x4_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
@@ -1500,18 +1625,43 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_PS2(const double *const *srcTa
         int32_t srcObjStride, double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6_PS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcObjStride, double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t n, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_3x3_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_4x4_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+/**
+ * Departs from its row: element strides are rounded down to whole elements.
+ *
+ * @copydoc zelmCholeskyDecomp_ma_32f
+ */
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6_LS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);

@@ -77,6 +77,13 @@ LISTS = {
     "zelmLoadIdentity_ma_32f_P": "dstTable dstShift dstObjStride width height count",
 }
 
+# Members that depart from their rows, by rank, as the sections on departures name them: 16 mama, 8 of rows and columns
+# at another stride, 6 held by alignment, 4 mamT, 3 with elements of other places, 1 at another element stride, 2 copies,
+# 4 extractions, 6 transposes in tables; 9 aligned stores, 4 with a count of 0, 12 that test other entries; 3 extractions,
+# 10 products and 4 of vectors that test less; 1 in another order; 19 that read the
+# invariant anew, 5 + 3 that read a matrix first, 2 products of every shape, 30 that round strides down.
+RANKS = {"values": 50, "faults": 25, "tests": 17, "rounds": 1, "permits": 59}
+
 
 class Grid(unittest.TestCase):
     @classmethod
@@ -119,6 +126,38 @@ class Grid(unittest.TestCase):
                 self.assertEqual(dimensions, [], function["name"])
             elif function["operation"] != "CrossProduct":
                 self.assertNotEqual(dimensions, [], function["name"])
+
+    def test_every_departure_has_a_rank_and_the_first_ones_a_form_to_use_instead(self):
+        ranks = Counter(f["rank"] for f in self.functions if "departure" in f)
+        self.assertEqual(ranks, RANKS)
+        for function in self.functions:
+            self.assertEqual("rank" in function, "departure" in function or "bounds" in function, function["name"])
+            rank, instead = function.get("rank"), function.get("instead")
+            self.assertEqual(instead is not None, rank in ("values", "faults"), function["name"])
+            if instead:
+                self.check_instead(function, instead)
+
+    def check_instead(self, function, instead):
+        """The form to use is none that does the same, and takes expressions over the arguments of the member."""
+        form = self.by_name[instead["name"]]
+        self.assertNotIn("departure", form, function["name"])
+        if instead["arguments"] is None:
+            self.assertIn("copy", instead["note"])
+            return
+        self.assertEqual(len(instead["arguments"]), len(form["arguments"]), function["name"])
+        own = {a["name"]: a["kind"] for a in function["arguments"]}
+        own |= {f"{operand}Transposed": "table" for operand in ("src1", "src2", "dst")}
+        for argument, expression in zip(form["arguments"], instead["arguments"]):
+            if argument["kind"] in ("pointer", "table"):
+                self.assertEqual(own[expression], argument["kind"], f"{function['name']}: {argument['name']}")
+
+    def test_products_with_bounds_of_their_own(self):
+        """All run-time forms with an operand transposed or src2 an array of matrices, but mmT's standard one."""
+        bounds = {f["name"] for f in self.functions if "bounds" in f}
+        expected = {f["name"] for f in self.functions
+                    if f["operation"] == "Mul" and "c" not in f["descriptor"] and not f["size"]
+                    and ("T" in f["descriptor"] or f["descriptor"].endswith("ma"))}
+        self.assertEqual(bounds, expected - {"zelmMul_mmT_32f", "zelmMul_mmT_64f"})
 
     def test_exports_are_the_whole_grid(self):
         exports = (GENERATED / "exports.txt").read_text().split()

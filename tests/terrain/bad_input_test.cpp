@@ -23,8 +23,8 @@ std::string withSizes(const std::string &columns, const std::string &rows) {
 }
 
 const std::string twoRows = "1 2 3\n4 5 6\n";
-const std::string keys = "expected ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize, "
-                         "NODATA_value or a row of numbers, found ";
+const std::string keys = "expected ncols, nrows, xllcorner or xllcenter, yllcorner or yllcenter, cellsize or "
+                         "dx and dy, NODATA_value or a row of numbers, found ";
 
 // A message that ends in "..." is compared up to there.
 const Case cases[] = {
@@ -37,14 +37,20 @@ const Case cases[] = {
     {"ValuesNotInRows", header + "1 2 3 4 5 6\n", "7: expected 3 values in row 1, found 6"},
     {"BlankRow", header + "1 2 3\n\n4 5 6\n", "8: expected 3 values in row 2, found 0"},
     {"OneRowMore", header + twoRows + "7 8 9\n", "9: expected the end of the file behind 2 rows of values"},
-    {"Word", header + "1 2 3\n4 x 6\n", "8: expected a number as value 2 of row 2, found 'x'"},
-    {"NumberWithUnit", header + "1 2m 3\n4 5 6\n", "7: expected a number as value 2 of row 1, found '2m'"},
-    {"DecimalComma", header + "1 2 3\n4,5 5 6\n", "8: expected a number as value 1 of row 2, found '4,5'"},
-    {"Nan", header + "1 nan 3\n4 5 6\n", "7: expected a number as value 2 of row 1, found 'nan'"},
-    {"Infinity", header + "1 2 3\n4 5 inf\n", "8: expected a number as value 3 of row 2, found 'inf'"},
-    {"OutOfRange", header + "1 2 1e999\n4 5 6\n", "7: expected a number as value 3 of row 1, found '1e999'"},
+    {"Word", header + "1 2 3\n4 x 6\n",
+     "8: expected a number from -1e9 to 1e9 or NODATA_value as value 2 of row 2, found 'x'"},
+    {"NumberWithUnit", header + "1 2m 3\n4 5 6\n",
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 2 of row 1, found '2m'"},
+    {"DecimalComma", header + "1 2 3\n4,5 5 6\n",
+     "8: expected a number from -1e9 to 1e9 or NODATA_value as value 1 of row 2, found '4,5'"},
+    {"Nan", header + "1 nan 3\n4 5 6\n",
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 2 of row 1, found 'nan'"},
+    {"Infinity", header + "1 2 3\n4 5 inf\n",
+     "8: expected a number from -1e9 to 1e9 or NODATA_value as value 3 of row 2, found 'inf'"},
+    {"OutOfRange", header + "1 2 1e999\n4 5 6\n",
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 3 of row 1, found '1e999'"},
     {"ControlLetters", header + "1 \033[2J 3\n4 5 6\n",
-     "7: expected a number as value 2 of row 1, found '?[2J'"},
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 2 of row 1, found '?[2J'"},
     {"OtherFile", "\x89PNG\r\n\x1a\n", "1: " + keys + "'?PNG'"},
     {"UnknownKey", "ncols 3\nnrows 2\nwidth 10\n", "3: " + keys + "'width'"},
     {"NoColumns", "nrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n" + twoRows,
@@ -61,7 +67,32 @@ const Case cases[] = {
     {"CornerAndCentre", "xllcorner 0\nxllcenter 5\n",
      "2: expected xllcenter once, it stands in line 1 already"},
     {"KeyWithoutValue", "ncols 3\nnrows\n", "2: expected a positive whole number behind nrows, found ''"},
-    {"KeyWithTwoValues", "ncols 3 2\n", "1: expected nothing behind ncols and its value, found '2'"},
+    {"KeyWithTwoValues", "ncols 3 2\n", "1: expected a key behind ncols and its value, found '2'"},
+    {"CellSizeWithThreeValues", "cellsize 1 2 3\n",
+     "1: expected a key behind cellsize and its value, found '3'"},
+    {"SecondKeyWithoutValue", "ncols 3 nrows\n",
+     "1: expected a positive whole number behind nrows, found ''"},
+    {"SecondKeyUnknown", "ncols 3 width 3\n", "1: " + keys + "'width'"},
+    {"HeightWithoutWidth", "ncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ndy 1\n" + twoRows,
+     "6: expected dx in the header before this line"},
+    {"WidthWithoutHeight", "ncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ndx 1\n" + twoRows,
+     "6: expected dy in the header before this line"},
+    {"WidthBesideCellSize", "cellsize 1\ndx 1\n", "2: expected dx once, it stands in line 1 already"},
+    {"CellSizeBesideHeight", "dy 1\ncellsize 1\n", "2: expected cellsize once, it stands in line 1 already"},
+    {"NegativeWidth", "dx -1\n", "1: expected a positive number behind dx, found '-1'"},
+    {"NegativeHeight", "cellsize 1 -1\n", "1: expected a positive number behind cellsize, found '-1'"},
+    {"Utf16", std::string("\xff\xfen\0c\0", 6), "1: expected a text in ASCII or UTF-8, found UTF-16"},
+    {"ByteOrderMarkOnly", "\xef\xbb\xbf", "2: expected ncols in the header before this line"},
+    {"ForgottenNoData", header + "1 2 -3.4e38\n4 5 6\n",
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 3 of row 1, found '-3.4e38'"},
+    {"NearlyNoData", header + "1 2 -9e9\n4 5 6\n",
+     "7: expected a number from -1e9 to 1e9 or NODATA_value as value 3 of row 1, found '-9e9'"},
+    {"NothingSolvable", header + twoRows,
+     " expected a cell with enough neighbours to fit a surface; none of the 6 cells with data has six within "
+     "two "
+     "cells that do not lie on one line or conic section"},
+    {"OneCell", "ncols 1\nnrows 1\nxllcorner 0\nyllcorner 0\ncellsize 1\n7\n",
+     " expected a cell with enough neighbours ..."},
     {"NegativeColumns", withSizes("-3", "2"), "1: expected a positive whole number behind ncols, found '-3'"},
     {"NegativeRows", withSizes("3", "-2"), "2: expected a positive whole number behind nrows, found '-2'"},
     {"ZeroRows", withSizes("3", "0"), "2: expected a positive whole number behind nrows, found '0'"},
@@ -137,11 +168,11 @@ TEST(BadInput, LatitudesBeyondThePole) {
 
 TEST(BadInput, EarlierOutputsStay) {
     const Sandbox sandbox;
-    sandbox.write("relief.png", "of an earlier run");
+    sandbox.write("slope.asc", "of an earlier run");
     sandbox.write("bad.asc", header + "1 2 3\n");
-    EXPECT_EQ(sandbox.run({"bad.asc"}).status, 2);
-    EXPECT_TRUE(sandbox.read("relief.png") == "of an earlier run");
-    EXPECT_EQ(sandbox.files(), (Names{"bad.asc", "relief.png"}));
+    EXPECT_EQ(sandbox.run({"--slope-grid", "slope.asc", "bad.asc"}).status, 2);
+    EXPECT_TRUE(sandbox.read("slope.asc") == "of an earlier run");
+    EXPECT_EQ(sandbox.files(), (Names{"bad.asc", "slope.asc"}));
 }
 
 TEST(BadInput, Options) {
@@ -151,7 +182,7 @@ TEST(BadInput, Options) {
     expectRefused(sandbox, {"good.asc", "good.asc"}, "expected one grid file, found 2 (see --help)");
     expectRefused(sandbox, {"--colour", "good.asc"},
                   "expected an option that --help lists, found '--colour'");
-    expectRefused(sandbox, {"good.asc", "--relief"}, "--relief: expected a value behind it");
+    expectRefused(sandbox, {"good.asc", "--surfaces"}, "--surfaces: expected a value behind it");
     expectRefused(sandbox, {"--float", "16", "good.asc"}, "--float: expected 32 or 64, found '16'");
     expectRefused(sandbox, {"--weight-exponent", "3", "good.asc"},
                   "--weight-exponent: expected a number from 0 to 2, found '3'");
@@ -163,9 +194,9 @@ TEST(BadInput, Options) {
                   "--curvature-kind: expected mean, profile or tangential, found 'gaussian'");
     expectRefused(sandbox, {"--geographic", "--cellsize", "30", "good.asc"},
                   "expected one of --geographic and --cellsize, found both");
-    expectRefused(sandbox, {"--relief", "a.png", "--curvature", "a.png", "good.asc"},
-                  "expected different files, found 'a.png' twice");
-    expectRefused(sandbox, {"--relief", "./good.asc", "good.asc"},
+    expectRefused(sandbox, {"--slope-grid", "a.asc", "--surfaces", "a.asc", "good.asc"},
+                  "expected different files, found 'a.asc' twice");
+    expectRefused(sandbox, {"--slope-grid", "./good.asc", "good.asc"},
                   "expected different files, found './good.asc' twice");
     EXPECT_EQ(sandbox.files(), Names{"good.asc"});
     EXPECT_EQ(sandbox.read("good.asc"), header + twoRows);

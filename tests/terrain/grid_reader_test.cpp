@@ -24,7 +24,8 @@ TEST(GridReader, ReadsKeysInAnyOrderAndCase) {
     const Grid grid = read(
         "CELLSIZE 10\nNODATA_VALUE -9\n\nyllcorner 200\nnRows 2\nXllCorner 100\nncols 3\n1 2 3\n4 5 6\n");
     expectTwoByThree(grid);
-    EXPECT_EQ(grid.cellSize, 10);
+    EXPECT_EQ(grid.cellWidth, 10);
+    EXPECT_EQ(grid.cellHeight, 10);
     EXPECT_EQ(grid.west, 100);
     EXPECT_EQ(grid.south, 200);
     EXPECT_EQ(grid.centre(0), 215);
@@ -35,6 +36,34 @@ TEST(GridReader, TakesTheCentreOfTheCornerCell) {
     const Grid grid = read("ncols 3\nnrows 2\nxllcenter 105\nyllcenter 205\ncellsize 10\n1 2 3\n4 5 6\n");
     EXPECT_EQ(grid.west, 100);
     EXPECT_EQ(grid.south, 200);
+}
+
+TEST(GridReader, TakesWidthAndHeightOfCells) {
+    for (const char *size : {"dx 10\ndy 20\n", "dy 20\nDX 10\n", "dx 10 dy 20\n", "cellsize 10 20\n"}) {
+        const Grid grid =
+            read("ncols 3\nnrows 2\nxllcenter 105\nyllcenter 205\n" + std::string(size) + "1 2 3\n4 5 6\n");
+        expectTwoByThree(grid);
+        EXPECT_EQ(grid.cellWidth, 10) << size;
+        EXPECT_EQ(grid.cellHeight, 20) << size;
+        EXPECT_EQ(grid.west, 100) << size;
+        EXPECT_EQ(grid.south, 195) << size;
+        EXPECT_EQ(grid.centre(0), 225) << size;
+    }
+}
+
+TEST(GridReader, TakesSeveralKeysOnALine) {
+    const Grid grid =
+        read("ncols 3 nrows 2\nxllcorner 100 yllcorner 200 cellsize 10 NODATA_value 6\n1 2 3\n4 5 6\n");
+    EXPECT_EQ(grid.columns, 3u);
+    EXPECT_EQ(grid.south, 200);
+    EXPECT_EQ(grid.at(1, 1), 5);
+    EXPECT_FALSE(grid.hasData(1, 2));
+    EXPECT_EQ(read("cellsize 10 ncols 1 nrows 1 xllcorner 0 yllcorner 0\n7").cellHeight, 10);
+}
+
+TEST(GridReader, PassesOverAByteOrderMark) {
+    expectTwoByThree(
+        read("\xef\xbb\xbfncols 3\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 10\n1 2 3\n4 5 6\n"));
 }
 
 TEST(GridReader, TakesAnyWhiteSpaceAndNumberForm) {
@@ -49,7 +78,9 @@ TEST(GridReader, NeedsNoEndOfTheLastLine) {
 TEST(GridReader, MarksCellsWithoutData) {
     const std::string sizes = "ncols 2\nnrows 1\nxllcorner 0\nyllcorner 0\ncellsize 10\n";
     for (const std::string &text : {sizes + "NODATA_value -32768\n-32768.0 7\n", sizes + "-9999 7\n",
-                                    sizes + "NODATA_value nan\nnan 7\n"}) {
+                                    sizes + "NODATA_value nan\nnan 7\n",
+                                    sizes + "NODATA_value -3.4028234663852886e+38\n-3.402823e+38 7\n",
+                                    sizes + "NODATA_value 1.7e308\n1.7e308 7\n"}) {
         const Grid grid = read(text);
         EXPECT_TRUE(std::isnan(grid.at(0, 0))) << text;
         EXPECT_FALSE(grid.hasData(0, 0)) << text;

@@ -9,7 +9,12 @@ using namespace terrain;
 
 // One narrow row whose centre lies at a latitude.
 Grid rowAt(double latitude, double cellSize) {
-    return {.rows = 1, .columns = 1, .west = 0, .south = latitude - cellSize / 2, .cellSize = cellSize};
+    return {.rows = 1,
+            .columns = 1,
+            .west = 0,
+            .south = latitude - cellSize / 2,
+            .cellWidth = cellSize,
+            .cellHeight = cellSize};
 }
 
 TEST(Ground, DegreesHaveTheirPublishedLengths) {
@@ -31,7 +36,7 @@ TEST(Ground, DegreesHaveTheirPublishedLengths) {
 }
 
 TEST(Ground, RowsGetNarrowerTowardsThePole) {
-    const Grid grid = {.rows = 3, .columns = 1, .west = 0, .south = 60, .cellSize = 0.1};
+    const Grid grid = {.rows = 3, .columns = 1, .west = 0, .south = 60, .cellWidth = 0.1, .cellHeight = 0.1};
     EXPECT_LT(cellSizeAt(grid, 0, CellUnit::Degrees).eastWest,
               cellSizeAt(grid, 2, CellUnit::Degrees).eastWest);
 }
@@ -51,7 +56,8 @@ TEST(Ground, GuessesTheUnit) {
     EXPECT_EQ(guessUnit(rowAt(36, 30)), CellUnit::Metres);
     EXPECT_EQ(guessUnit(rowAt(5000000, 0.05)), CellUnit::Metres);
     // The whole world, its first row centred on the pole.
-    const Grid world = {.rows = 1801, .columns = 3600, .west = -180.05, .south = -90.05, .cellSize = 0.1};
+    const Grid world = {
+        .rows = 1801, .columns = 3600, .west = -180.05, .south = -90.05, .cellWidth = 0.1, .cellHeight = 0.1};
     EXPECT_EQ(guessUnit(world), CellUnit::Degrees);
 }
 

@@ -181,7 +181,8 @@ TEST(Precision, QrIn32BitFloats) {
 TEST(Precision, ResidualOfTheRealGrid) {
     const Grid grid = terraintest::readGrid(TERRAIN_GRID);
     Progress progress(Progress::Show::OnTerminal);
-    const Survey survey = surveyGrid(grid, {.unit = CellUnit::Degrees}, progress);
+    SurfaceWriter noSurfaces(nullptr);
+    const Survey survey = surveyGrid(grid, {.unit = CellUnit::Degrees}, noSurfaces, progress);
     Residual expected;
     for (std::size_t row = 0; row < grid.rows; ++row) {
         const CellSize size = cellSizeAt(grid, row, CellUnit::Degrees);
@@ -196,8 +197,9 @@ TEST(Precision, ResidualOfTheRealGrid) {
 TEST(Precision, MethodsAgreeOnTheResidual) {
     const Grid grid = terraintest::readGrid(TERRAIN_GRID);
     Progress progress(Progress::Show::OnTerminal);
+    SurfaceWriter noSurfaces(nullptr);
     const auto surveyBy = [&](Method method) {
-        return surveyGrid(grid, {.unit = CellUnit::Degrees, .method = method}, progress);
+        return surveyGrid(grid, {.unit = CellUnit::Degrees, .method = method}, noSurfaces, progress);
     };
     const Survey lu = surveyBy(Method::Lu);
     for (const Method method : {Method::Cholesky, Method::Qr}) {
@@ -211,8 +213,10 @@ TEST(Precision, MethodsAgreeOnTheResidual) {
 TEST(Precision, FloatTypesAgreeOnSlopeAndCurvature) {
     const Grid grid = terraintest::readGrid(TERRAIN_GRID);
     Progress progress(Progress::Show::OnTerminal);
-    const Survey wide = surveyGrid(grid, {.unit = CellUnit::Degrees}, progress);
-    const Survey narrow = surveyGrid(grid, {.unit = CellUnit::Degrees, .use32bit = true}, progress);
+    SurfaceWriter noSurfaces(nullptr);
+    const Survey wide = surveyGrid(grid, {.unit = CellUnit::Degrees}, noSurfaces, progress);
+    const Survey narrow =
+        surveyGrid(grid, {.unit = CellUnit::Degrees, .use32bit = true}, noSurfaces, progress);
     EXPECT_EQ(wide.solved, narrow.solved);
     EXPECT_NEAR(wide.residual, narrow.residual, 1e-6);
     double slope = 0;

@@ -10,7 +10,9 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace terraintest {
@@ -65,8 +67,37 @@ std::vector<std::string> Sandbox::files() const {
 }
 
 Outcome Sandbox::run(const std::vector<std::string> &arguments) const {
+    const std::filesystem::path file = logs_ / "errors";
+    const int errors = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    Outcome outcome = start(arguments, errors);
+    close(errors);
+    outcome.errors = contents(file);
+    return outcome;
+}
+
+Outcome Sandbox::runOnTerminal(const std::vector<std::string> &arguments) const {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (terminal < 0 || grantpt(terminal) != 0 || unlockpt(terminal) != 0) {
+        throw std::runtime_error("no terminal");
+    }
+    const int errors = open(ptsname(terminal), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    std::string shown;
+    std::thread reader([&] {
+        char buffer[4096];
+        for (ssize_t count; (count = ::read(terminal, buffer, sizeof buffer)) > 0;) {
+            shown.append(buffer, static_cast<std::size_t>(count));
+        }
+    });
+    Outcome outcome = start(arguments, errors);
+    close(errors); // the last one: the reader finds the end
+    reader.join();
+    close(terminal);
+    outcome.errors = shown;
+    return outcome;
+}
+
+Outcome Sandbox::start(const std::vector<std::string> &arguments, int errors) const {
     const std::filesystem::path output = logs_ / "output";
-    const std::filesystem::path errors = logs_ / "errors";
     std::vector<std::string> words = {TERRAIN_PROGRAM};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char *> argv;
@@ -81,16 +112,19 @@ Outcome Sandbox::run(const std::vector<std::string> &arguments) const {
     }
     if (child == 0) {
         redirect(STDOUT_FILENO, output);
-        redirect(STDERR_FILENO, errors);
-        if (chdir(folder_.c_str()) == 0) {
+        if (dup2(errors, STDERR_FILENO) >= 0 && chdir(folder_.c_str()) == 0) {
             execv(argv[0], argv.data());
         }
         _exit(127);
     }
     int status = 0;
-    waitpid(child, &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), contents(output),
-            contents(errors)};
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    Outcome outcome;
+    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    outcome.output = contents(output);
+    outcome.peakMebibytes = static_cast<double>(usage.ru_maxrss) / 1024;
+    return outcome;
 }
 
 std::string gridText(std::size_t rows, std::size_t columns, double cellSize,

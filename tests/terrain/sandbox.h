@@ -14,6 +14,7 @@ struct Outcome {
     int status = -1; // exit status; 128 + the signal's number if one ended the program
     std::string output;
     std::string errors;
+    double peakMebibytes = 0; // the most memory that was in use
 };
 
 class Sandbox {
@@ -31,8 +32,12 @@ public:
 
     // Runs the program in the folder; file names are relative to it.
     Outcome run(const std::vector<std::string> &arguments) const;
+    // Likewise with a terminal as its standard error.
+    Outcome runOnTerminal(const std::vector<std::string> &arguments) const;
 
 private:
+    Outcome start(const std::vector<std::string> &arguments, int errors) const;
+
     std::filesystem::path folder_;
     std::filesystem::path logs_; // beside the folder, so that files() shows only what the program left
 };

@@ -44,8 +44,8 @@ double angleBetween(double first, double second) {
 void forEachCell(const Grid &grid, const std::function<void(double x, double y, double value)> &check) {
     for (std::size_t row = 0; row < grid.rows; ++row) {
         for (std::size_t column = 0; column < grid.columns; ++column) {
-            check((static_cast<double>(column) + 0.5) * grid.cellSize,
-                  (static_cast<double>(grid.rows - row) - 0.5) * grid.cellSize, grid.at(row, column));
+            check((static_cast<double>(column) + 0.5) * grid.cellWidth,
+                  (static_cast<double>(grid.rows - row) - 0.5) * grid.cellHeight, grid.at(row, column));
         }
     }
 }

@@ -1,0 +1,84 @@
+#include "comparison.h"
+
+#include "workload.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelmbench {
+namespace {
+
+// Two builds further apart than this are measured again: a busy machine makes such differences, too.
+constexpr double suspicious = 0.03;
+
+// Orders of sums differ, and so do the approximations of reciprocals.
+bool areClose(const std::vector<double> &actual, const std::vector<double> &expected, double tolerance) {
+    return std::equal(
+        actual.begin(), actual.end(), expected.begin(), expected.end(),
+        [&](double a, double e) { return std::abs(a - e) <= tolerance * std::max(1.0, std::abs(e)); });
+}
+
+std::vector<double> resultsOf(Workload &work, const Contender &contender) {
+    work.clearResults();
+    contender.run(0);
+    return work.results();
+}
+
+} // namespace
+
+PeerTable::PeerTable(const Library *peers) {
+    if (peers != nullptr) {
+        const auto all = reinterpret_cast<PeersFunction *>(peers->find(peersFunction));
+        for (const Peer &peer : all()) {
+            peers_[peer.member].push_back(&peer);
+        }
+    }
+}
+
+const std::vector<const Peer *> &PeerTable::of(const std::string &member) const {
+    const auto found = peers_.find(member);
+    return found != peers_.end() ? found->second : none_;
+}
+
+Figures measureRow(const Row &row, const Library &library, const Library *beside, const PeerTable &peers,
+                   const Effort &effort) {
+    Workload work(*row.member, row.count);
+    std::vector<Contender> contenders;
+    const auto add = [&](const std::string &name, AnyFunction function) {
+        contenders.push_back({name, [&work, function](std::size_t turn) { work.call(function, turn); }});
+    };
+    add(ownName, library.find(row.member->name));
+    if (beside != nullptr) {
+        add(besideName, beside->find(row.member->name));
+    }
+    std::vector<const Peer *> comparable(contenders.size(), nullptr);
+    for (const Peer *peer : peers.of(row.member->name)) {
+        contenders.push_back(
+            {peer->name, [&work, peer](std::size_t turn) { peer->run(work.problem(turn)); }});
+        comparable.push_back(peer);
+    }
+
+    Figures figures;
+    const double tolerance = row.member->elementBytes == 4 ? 5e-3 : 1e-9;
+    const std::vector<double> expected = resultsOf(work, contenders.front());
+    for (std::size_t c = 1; c < contenders.size(); ++c) {
+        const bool isComparable = comparable[c] == nullptr || comparable[c]->comparable;
+        if (isComparable && !areClose(resultsOf(work, contenders[c]), expected, tolerance)) {
+            figures.wrong.push_back(contenders[c].name);
+        }
+    }
+    std::vector<double> seconds = fastest(contenders, effort);
+    const auto areSuspicious = [&] { return std::abs(seconds[0] / seconds[1] - 1) > suspicious; };
+    for (int retry = 0; beside != nullptr && retry < 3 && areSuspicious(); ++retry) {
+        const std::vector<double> again = fastest(contenders, thorough);
+        std::transform(seconds.begin(), seconds.end(), again.begin(), seconds.begin(),
+                       [](double one, double other) { return std::min(one, other); });
+    }
+    for (std::size_t c = 0; c < contenders.size(); ++c) {
+        figures.nanoseconds.emplace_back(contenders[c].name,
+                                         seconds[c] * 1e9 / static_cast<double>(work.count()));
+    }
+    return figures;
+}
+
+} // namespace zelmbench
