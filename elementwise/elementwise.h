@@ -98,7 +98,7 @@ template <typename Op, Invariant reading, typename A, typename B, typename D, ty
 ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     if constexpr (decltype(d.object(0))::isDense) {
         constexpr bool hasInvariant = kIsInvariant<A> || kIsInvariant<B>;
-        return denseObjects<Op, hasInvariant ? reading : Invariant::Held>(a, b, d, shape, count);
+        return denseObjects < Op, hasInvariant ? reading : Invariant::Held > (a, b, d, shape, count);
     } else {
         if constexpr (D::isSideBySide)
             if (runPerPosition<Op>(a, b, d, shape, count))

@@ -245,9 +245,9 @@ template <typename S, typename D>
 ZELM_INLINE void moveObjects(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
     withPlainest(
         [&](const auto &from) __attribute__((always_inline)) {
-            withPlainest([&](const auto &to) __attribute__((
-                             always_inline)) { moveBetween(from, to, shape, count); },
-                         d);
+            withPlainest(
+                [&](const auto &to) __attribute__((always_inline)) { moveBetween(from, to, shape, count); },
+                d);
         },
         s);
 }

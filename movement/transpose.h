@@ -179,9 +179,10 @@ ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::
     const Address n = shape.elements();
     if (ZelmStatus status = checkArray(shape.isZero(), count, tested(s, n), tested(d, n)); status != kProceed)
         return status;
-    return withPlainest([&](const auto &...plain) __attribute__((
-                            always_inline)) { return transposeObjects(plain..., shape, count); },
-                        s, d);
+    return withPlainest(
+        [&](const auto &...plain)
+            __attribute__((always_inline)) { return transposeObjects(plain..., shape, count); },
+        s, d);
 }
 
 } // namespace zelm::movement

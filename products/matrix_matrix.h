@@ -112,7 +112,7 @@ constexpr Form formOf() {
 
 template <typename A, typename B, typename D, unsigned N>
 constexpr InPlaceOf kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, kIsArray<B>, kIsTransposed<A>,
-                                       kIsTransposed<B>, sizeof(typename D::Element) == 4, N);
+                                         kIsTransposed<B>, sizeof(typename D::Element) == 4, N);
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus accumulateSingle(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches) {

@@ -166,7 +166,8 @@ ZELM_INLINE Floats4 spreadLane(Floats4 pack) {
 template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Dense<float> &d) {
     const auto times = [&](Floats4 row) __attribute__((always_inline)) {
-        return (spreadLane<0>(row) * b.row[0] + spreadLane<1>(row) * b.row[1]) + spreadLane<2>(row) * b.row[2];
+        return (spreadLane<0>(row) * b.row[0] + spreadLane<1>(row) * b.row[1]) +
+               spreadLane<2>(row) * b.row[2];
     };
     if constexpr (kIsTransposed<A>) {
 #pragma GCC unroll 3

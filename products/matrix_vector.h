@@ -100,9 +100,10 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorsOf(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
     constexpr bool isDense = decltype(d.object(0))::isDense;
-    return withPlainest([&](const auto &...plain) __attribute__((
-                            always_inline)) { return vectorArrayFixed<N, isDense>(plain..., count); },
-                        a, x, z, d);
+    return withPlainest(
+        [&](const auto &...plain)
+            __attribute__((always_inline)) { return vectorArrayFixed<N, isDense>(plain..., count); },
+        a, x, z, d);
 }
 
 // ---- Mul

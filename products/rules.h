@@ -146,8 +146,8 @@ struct InPlaceOf {
 enum class Form { Standard, S2, P, List, ListOfStrided, PS2 };
 
 // Of one or of an array of 3x3 to 6x6 products.
-constexpr InPlaceOf inPlaceOf(Form form, bool isArray, bool firstArray, bool secondArray, bool firstTransposed,
-                            bool secondTransposed, bool is32f, unsigned n) {
+constexpr InPlaceOf inPlaceOf(Form form, bool isArray, bool firstArray, bool secondArray,
+                              bool firstTransposed, bool secondTransposed, bool is32f, unsigned n) {
     const bool small = n <= 4, upTo5 = n <= 5;
     const bool dense = form == Form::Standard || form == Form::List;
     if (!isArray) {

@@ -6,8 +6,8 @@
 
 namespace zelm::products {
 
-// The elements of matrices as used, for a group. One matrix for all objects is read once: it is asked for only
-// where no result is stored in it.
+// The elements of matrices as used, for a group. One matrix for all objects is read once: it is asked for
+// only where no result is stored in it.
 template <unsigned N, typename A>
 struct GroupMatrices {
     typename A::Element element[N][N];
@@ -92,7 +92,7 @@ ZELM_INLINE ZelmStatus multiplyInGroups(const A &a, const X &x, const Z &z, cons
     if constexpr (kAdds<Z>)
         return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, 1, N),
                                                 reads(a, N, N), reads(x, 1, N, vector),
-                                                reads(z, 1, N, InPlace::Yes));
+                                                reads(z, 1, N, vector));
     else
         return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, 1, N),
                                                 reads(a, N, N), reads(x, 1, N, vector));

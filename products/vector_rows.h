@@ -170,7 +170,8 @@ struct VectorAlongRows {
 
 // The even columns' sums of two rows, and the odd ones'.
 template <unsigned N>
-ZELM_INLINE Floats4 evenAndOdd(const Dense<const float> &a, unsigned row, const VectorAlongRows<float, N> &x) {
+ZELM_INLINE Floats4 evenAndOdd(const Dense<const float> &a, unsigned row,
+                               const VectorAlongRows<float, N> &x) {
     const Address upper = a.rowStart(row), lower = a.rowStart(row + 1);
     const Floats4 p = loadPack<float>(upper) * x.pack[0], q = loadPack<float>(lower) * x.pack[0];
     const Floats4 sums = _mm_unpacklo_ps(p, q) + _mm_unpackhi_ps(p, q);
@@ -181,7 +182,8 @@ ZELM_INLINE Floats4 evenAndOdd(const Dense<const float> &a, unsigned row, const 
 }
 
 template <unsigned N>
-ZELM_INLINE Floats4 sumsOfRows(const Dense<const float> &a, unsigned row, const VectorAlongRows<float, N> &x) {
+ZELM_INLINE Floats4 sumsOfRows(const Dense<const float> &a, unsigned row,
+                               const VectorAlongRows<float, N> &x) {
     const Floats4 upper = evenAndOdd<N>(a, row, x);
     const Floats4 lower = row + 2 < N ? evenAndOdd<N>(a, row + 2, x) : upper;
     return _mm_movelh_ps(upper, lower) + _mm_movehl_ps(lower, upper);
@@ -189,7 +191,7 @@ ZELM_INLINE Floats4 sumsOfRows(const Dense<const float> &a, unsigned row, const 
 
 template <unsigned N>
 ZELM_INLINE Doubles2 sumsOfRows(const Dense<const double> &a, unsigned row,
-                               const VectorAlongRows<double, N> &x) {
+                                const VectorAlongRows<double, N> &x) {
     Doubles2 sum = _mm_setzero_pd();
 #pragma GCC unroll 3
     for (unsigned p = 0; p < N / 2; ++p) {
@@ -213,7 +215,8 @@ ZELM_INLINE void multiplyWholeRows(const Dense<const T> &a, const VectorAlongRow
     }
 }
 
-// `isDense`: whether the called form is one of the standard and L layouts, whose sums have orders of their own.
+// `isDense`: whether the called form is one of the standard and L layouts, whose sums have orders of their
+// own.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE void multiplyVectorOnce(const A &a, const X &x, const Z &z, const D &d) {
     using T = typename D::Element;

@@ -114,7 +114,7 @@ ZELM_INLINE CrossFactors<V> factorsOf(const WithNegative<T> &s, std::uint32_t) {
 template <typename S>
 constexpr bool kHasNegative = false;
 template <typename T>
-constexpr bool kHasNegative<WithNegative<T>> = true;
+constexpr bool kHasNegative<const WithNegative<T>> = true;
 
 // The lines on the packs of a group.
 template <bool negativeA, bool negativeB, typename V>
