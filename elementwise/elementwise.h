@@ -78,10 +78,10 @@ ZELM_INLINE bool mayReadAhead(const S &s, const D &d, Shape shape, std::uint32_t
                isUntouched(s, shape.columns(), shape.rows(), d, shape.rows(), shape.columns(), count);
 }
 
-// One instance serves the standard form and the forms with strides that turn out to be dense.
+// One instance serves the standard form and the forms with strides that turn out to be dense. Operands by
+// value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-__attribute__((noinline)) ZelmStatus denseObjects(const A &a, const B &b, const D &d, Shape shape,
-                                                  std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
     return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
 }
 

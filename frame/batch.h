@@ -108,29 +108,35 @@ ZELM_INLINE bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Re
 
 constexpr std::uint32_t kStretch = 64;
 
-// The bytes of the objects from first to before last. A null entry among them, or one that comes to null by
-// its shift, makes the range unknown.
+// The starts of the objects from first to before last of a list, the lowest and the highest. Unknown where an
+// entry among them is null, or comes to null by its shift.
+template <typename List>
+ZELM_INLINE Range startsOfStretch(const List &list, std::uint32_t first, std::uint32_t last) {
+    Address lowest = addressOf(list.table[first]), highest = lowest;
+    for (std::uint32_t k = first + 1; k < last; ++k) {
+        const Address entry = addressOf(list.table[k]);
+        lowest = entry < lowest ? entry : lowest;
+        highest = entry > highest ? entry : highest;
+    }
+    const std::int64_t shift = signedDistance(list.shift), low = rangeFrom(lowest, 0).low + shift;
+    if (lowest == 0 || low <= 0)
+        return {-1, -1};
+    return {low, rangeFrom(highest, 0).low + shift};
+}
+
+// The bytes of the objects from first to before last.
 template <typename Touched>
 ZELM_INLINE Range rangeOfStretch(const Touched &touched, std::uint32_t first, std::uint32_t last) {
     using Operand = typename Touched::Operand;
     const Operand &operand = touched.operand;
     if constexpr (Operand::isList) {
-        Address lowest = addressOf(operand.table[first]), highest = lowest;
-        bool null = lowest == 0 || lowest + operand.shift == 0;
-        for (std::uint32_t k = first + 1; k < last; ++k) {
-            const Address entry = addressOf(operand.table[k]);
-            null |= entry + operand.shift == 0;
-            lowest = entry < lowest ? entry : lowest;
-            highest = entry > highest ? entry : highest;
-        }
-        constexpr Range unknown = {-1, 0};
-        if (null || lowest == 0)
-            return unknown;
+        const Range starts = startsOfStretch(operand, first, last);
         const Extent extent = extentOf(operand, touched.rows, touched.columns);
-        const std::int64_t offset = signedDistance(operand.shift) + signedDistance(extent.lowest);
-        return {rangeFrom(lowest, 0).low + offset,
-                rangeFrom(highest, 0).low + offset + static_cast<std::int64_t>(extent.bytes)};
-    } else if constexpr (requires { operand.objStride; }) {
+        const std::int64_t lowest = signedDistance(extent.lowest);
+        if (starts.low < 0)
+            return starts;
+        return {starts.low + lowest, starts.high + lowest + static_cast<std::int64_t>(extent.bytes)};
+    } else if constexpr (kIsArray<Operand>) {
         // Results packed behind each other.
         return rangeFrom(operand.object(first).start,
                          std::int64_t{last - first} * static_cast<std::int64_t>(operand.objStride));
@@ -140,14 +146,11 @@ ZELM_INLINE Range rangeOfStretch(const Touched &touched, std::uint32_t first, st
 }
 
 // Whether nothing of the stretch lies in anything that it writes.
-template <typename Memory, typename D, typename... S>
-ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const Memory &buffer,
-                                const Result<D> &d, const Source<S> &...s) {
-    const Range target = rangeOfStretch(d, first, last);
-    if (!isKnown(target))
-        return false;
+template <typename Memory, typename... S>
+ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const Range &target,
+                                const Memory &buffer, const Source<S> &...s) {
     const auto misses = [&](const Range &source) { return isKnown(source) && areDisjoint(source, target); };
-    if (!(misses(rangeOfStretch(s, first, last)) && ...))
+    if (!isKnown(target) || !(misses(rangeOfStretch(s, first, last)) && ...))
         return false;
     if constexpr (!Memory::isNone) {
         const Range range = buffer.range(first, last);
@@ -155,6 +158,19 @@ ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const M
                (!buffer.isWritten || (areDisjoint(range, rangeOfStretch(s, first, last)) && ...));
     }
     return true;
+}
+
+// Whether the results miss the invariant sources, which kernels hold from before the first object on.
+template <typename... S>
+ZELM_INLINE bool missesInvariants(const Range &target, const Source<S> &...s) {
+    const auto misses = [&](const auto &source) {
+        if constexpr (kIsArray<typename std::remove_cvref_t<decltype(source)>::Operand>)
+            return true;
+        else
+            return isKnown(target) &&
+                   areDisjoint(rangeOfObject(source.operand, source.rows, source.columns), target);
+    };
+    return (misses(s) && ...);
 }
 
 // Whether a group's results lie apart from each other.
@@ -260,25 +276,12 @@ template <typename V, typename Memory, typename GroupStep, typename One, typenam
 ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
                                     const Result<D> &d, const Source<S> &...s) {
     const bool distinct = objectElementsAreApart(d.operand, d.rows, d.columns);
-    const auto missesInvariants = [&](std::uint32_t first, std::uint32_t last) {
-        const Range target = rangeOfStretch(d, first, last);
-        const auto misses = [&](const auto &source) {
-            if constexpr (std::remove_cvref_t<decltype(source.operand)>::isList)
-                return true;
-            else
-                return isKnown(target) && areDisjoint(rangeOfStretch(source, first, last), target);
-        };
-        if constexpr (!Memory::isNone)
-            if (buffer.isShared && !buffer.isWritten &&
-                !(isKnown(target) && areDisjoint(buffer.range(first, last), target)))
-                return false;
-        return (misses(s) && ...);
-    };
     bool grouped = distinct;
     for (std::uint32_t first = 0; first < count;) {
         const std::uint32_t last = count - first > kStretch ? first + kStretch : count;
-        grouped = grouped && missesInvariants(first, last);
-        const bool apart = grouped && stretchIsApart(first, last, buffer, d, s...);
+        const Range target = rangeOfStretch(d, first, last);
+        grouped = grouped && missesInvariants(target, s...);
+        const bool apart = grouped && stretchIsApart(first, last, target, buffer, s...);
         const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
             return resultsAreApart<lanes>(d, k) && (apart || groupIsApart<lanes>(k, buffer, d, s...)) &&

@@ -9,6 +9,7 @@ namespace zelm::frame {
 template <unsigned Rows, unsigned Columns>
 struct FixedShape {
     static constexpr bool isFixed = true;
+    static constexpr std::uint32_t columnsIfFixed = Columns;
     static constexpr std::uint32_t rows() { return Rows; }
     static constexpr std::uint32_t columns() { return Columns; }
     static constexpr Address elements() { return Rows * Columns; }
@@ -17,6 +18,7 @@ struct FixedShape {
 
 struct RunTimeShape {
     static constexpr bool isFixed = false;
+    static constexpr std::uint32_t columnsIfFixed = 0;
     std::uint32_t height, width;
     ZELM_INLINE std::uint32_t rows() const { return height; }
     ZELM_INLINE std::uint32_t columns() const { return width; }

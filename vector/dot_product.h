@@ -124,8 +124,9 @@ ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, s
             results.object(k).set(0, dotOfLength(a.object(k), b.object(k), shape.columns()));
         return ZELM_OK;
     };
-    // Two null tests and a short sum cost less than collecting the objects of a list does.
-    if constexpr (!Shape::isFixed || !kLoadsInGroups<A> || A::isList) {
+    // Of two lists of threes the null tests and the sum cost less than collecting the objects does.
+    constexpr bool areListsOfThrees = A::isList && B::isList && Shape::columnsIfFixed == 3;
+    if constexpr (!Shape::isFixed || !kLoadsInGroups<A> || areListsOfThrees) {
         return forEachObject(count, one, a, b);
     } else {
         constexpr unsigned N = Shape::columns();

@@ -42,6 +42,40 @@ ZELM_INLINE ZelmStatus traceSingle(const S &s, T *dst, Size size) {
     }
 }
 
+// The running sums of a group, from 0, each position of the diagonal being a plane.
+template <unsigned N, typename V, typename S>
+ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
+    V sum = {};
+#pragma GCC unroll 6
+    for (unsigned i = 0; i < N; ++i)
+        sum = sum + loadAs<V>(s.object(k).address(i, i, N));
+    return sum;
+}
+
+template <typename S, typename T, typename Size>
+ZELM_INLINE ZelmStatus tracesOf(const S &s, const DenseArray<T> &results, Size size, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
+            results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
+        else
+            traceThroughResult(s.object(k), results.object(k), size, false);
+        return ZELM_OK;
+    };
+    if constexpr (S::isSideBySide && Size::fixed != 0) {
+        constexpr unsigned N = Size::fixed;
+        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+            using V = typename decltype(pack)::Pack;
+            storePack(results.object(k).start, tracesOfGroup<N, V>(s, k));
+            return true;
+        };
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(s, N, N));
+    } else {
+        // A few additions an object: elsewhere collecting them for a group takes longer.
+        return forEachObject(count, one, s);
+    }
+}
+
 // The tables of arrays are tested on their first n entries, not on those of the diagonal.
 template <typename S, typename T, typename Size>
 ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t count) {
@@ -50,14 +84,13 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
         status != kProceed)
         return status;
     const DenseArray<T> results = resultsAt(dst);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
-            results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
-        else
-            traceThroughResult(s.object(k), results.object(k), size, false);
-        return ZELM_OK;
-    };
-    return forEachObject(count, one, s);
+    // Only planes gain by it: the dense forms begin their sums in another way.
+    if constexpr (S::isTable)
+        return withPlainest([&](const auto &plain) __attribute__((
+                                always_inline)) { return tracesOf(plain, results, size, count); },
+                            s);
+    else
+        return tracesOf(s, results, size, count);
 }
 
 } // namespace zelm::vector
