@@ -160,9 +160,10 @@ ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const R
     return true;
 }
 
-// Whether the results miss the invariant sources, which kernels hold from before the first object on.
-template <typename... S>
-ZELM_INLINE bool missesInvariants(const Range &target, const Source<S> &...s) {
+// Whether the results miss what is the same for all objects: invariant sources, and plain memory that is read
+// for all. Kernels hold it from before the first object on.
+template <typename Memory, typename... S>
+ZELM_INLINE bool missesInvariants(const Range &target, const Memory &buffer, const Source<S> &...s) {
     const auto misses = [&](const auto &source) {
         if constexpr (kIsArray<typename std::remove_cvref_t<decltype(source)>::Operand>)
             return true;
@@ -170,7 +171,26 @@ ZELM_INLINE bool missesInvariants(const Range &target, const Source<S> &...s) {
             return isKnown(target) &&
                    areDisjoint(rangeOfObject(source.operand, source.rows, source.columns), target);
     };
+    if constexpr (!Memory::isNone)
+        if (buffer.isShared && !buffer.isWritten &&
+            !(isKnown(target) && areDisjoint(buffer.range(0, 1), target)))
+            return false;
     return (misses(s) && ...);
+}
+
+// Whether the results of a stretch lie behind each other, as most lists have them: then no group compares its
+// own.
+template <typename D>
+ZELM_INLINE bool resultsAscend(const Result<D> &d, std::uint32_t first, std::uint32_t last) {
+    bool ascend = true;
+    if constexpr (D::isList) {
+        const Address bytes = extentOf(d.operand, d.rows, d.columns).bytes;
+        for (std::uint32_t k = first + 1; k < last; ++k) {
+            const Address before = addressOf(d.operand.table[k - 1]), here = addressOf(d.operand.table[k]);
+            ascend &= here >= before && here - before >= bytes;
+        }
+    }
+    return ascend;
 }
 
 // Whether a group's results lie apart from each other.
@@ -280,12 +300,13 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
     for (std::uint32_t first = 0; first < count;) {
         const std::uint32_t last = count - first > kStretch ? first + kStretch : count;
         const Range target = rangeOfStretch(d, first, last);
-        grouped = grouped && missesInvariants(target, s...);
+        grouped = grouped && missesInvariants(target, buffer, s...);
         const bool apart = grouped && stretchIsApart(first, last, target, buffer, s...);
+        const bool ascend = isKnown(target) && resultsAscend(d, first, last);
         const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
-            return resultsAreApart<lanes>(d, k) && (apart || groupIsApart<lanes>(k, buffer, d, s...)) &&
-                   group(pack, k);
+            return (ascend || resultsAreApart<lanes>(d, k)) &&
+                   (apart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);
         };
         if (ZelmStatus status = runObjects<V>(first, last, grouped, guarded, one, s.operand..., d.operand);
             status != ZELM_OK)
