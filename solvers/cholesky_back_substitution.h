@@ -113,7 +113,8 @@ __attribute__((noinline)) ZelmStatus choleskySolveObjects(const A &a, const B &b
         constexpr unsigned N = Size::fixed;
         if (hasNoNullObject(a, N, N, count) && hasNoNullObject(b, 1, N, count) &&
             hasNoNullObject(d, 1, N, count))
-            return solveSystems(CholeskySystems<N>(), NoBuffer(), one, a, b, InPlace::Yes, d, count);
+            return solveSystems<kLongKernels>(CholeskySystems<N>(), NoBuffer(), one, a, b, InPlace::Yes, d,
+                                              count);
     }
     return forEachObject(count, one);
 }

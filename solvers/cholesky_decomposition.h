@@ -151,8 +151,9 @@ ZELM_INLINE ZelmStatus choleskyArray(const S &s, const D &d, Size size, Count co
             return ZELM_OK;
     const std::uint32_t objects = static_cast<std::uint32_t>(count);
     if constexpr (Size::fixed == 0) {
-        const auto one = [&](std::uint32_t k)
-            __attribute__((always_inline)) { return choleskyObjectAt(s, d, size, k); };
+        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+            return choleskyObjectAt(s, d, size, k);
+        };
         return forEachObject(objects, one);
     } else {
         return withPlainest(

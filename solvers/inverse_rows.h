@@ -76,8 +76,8 @@ ZELM_INLINE void minorsOfRows(const Doubles2 (&u)[2], const Doubles2 (&l)[2], Do
 
 // The cofactors of two neighbouring rows, column by column, each from the other row. Those of the second row
 // have the opposite signs, which its elements take here.
-ZELM_INLINE void cofactorsOfRows(const Doubles2 (&second)[2], const Doubles2 (&first)[2], const Doubles2 (&m)[6],
-                                 Doubles2 (&c)[4]) {
+ZELM_INLINE void cofactorsOfRows(const Doubles2 (&second)[2], const Doubles2 (&first)[2],
+                                 const Doubles2 (&m)[6], Doubles2 (&c)[4]) {
     const Doubles2 minus = _mm_set1_pd(-0.0);
     Doubles2 plain[4], opposite[4];
 #pragma GCC unroll 2

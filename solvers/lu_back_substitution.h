@@ -10,7 +10,7 @@ namespace zelm::solvers {
 // where it overlaps b, later rows of b are read after they were overwritten.
 template <typename A, typename B, typename D, typename Size>
 __attribute__((noinline)) void luBackSubstThroughDst(const A &a, Address pivots, const B &b, const D &d,
-                                                  Size size) {
+                                                     Size size) {
     using T = typename D::Element;
     const std::uint32_t n = size.value();
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
@@ -93,7 +93,9 @@ struct LuSystems {
     struct Factors {
         F a[N][N];
     };
-    ZELM_INLINE std::uint32_t row(unsigned i) const { return load<std::uint32_t>(pivotAddress(pivotIndex, i)); }
+    ZELM_INLINE std::uint32_t row(unsigned i) const {
+        return load<std::uint32_t>(pivotAddress(pivotIndex, i));
+    }
 
     template <typename A, typename B, typename V>
     ZELM_INLINE bool loadGroup(const A &a, const B &b, std::uint32_t k, Factors<V> &factors,
@@ -142,9 +144,13 @@ struct LuSystems {
 };
 
 // From which order on a group of systems with a matrix each is faster than one after the other: gathering the
-// rows in pivot order costs as much as small systems take.
-template <typename T>
-constexpr unsigned kLeastOrderOfOwnGroups = sizeof(T) == 4 ? 5 : 7;
+// rows in pivot order costs as much as small systems take, and wide packs gain where rows are adjacent only.
+template <typename A>
+constexpr bool kGainsFromWidth = kWidestBytes > kBlockBytes &&kRowsAreAdjacent<A>;
+template <typename A>
+constexpr unsigned kLeastOrderOfOwnGroups = kGainsFromWidth<A>                 ? 3
+                                            : sizeof(typename A::Element) == 4 ? 5
+                                                                               : 7;
 
 // The systems of an array, of a fixed size; the elements of each result are distinct.
 template <unsigned N, typename A, typename B, typename D>
@@ -155,12 +161,14 @@ __attribute__((noinline)) ZelmStatus luBackSubstObjects(const A &a, const std::u
                                   b.object(k), d.object(k));
         return ZELM_OK;
     };
-    if constexpr (kIsArray<A> && N < kLeastOrderOfOwnGroups<typename D::Element>) {
+    if constexpr (kIsArray<A> && N < kLeastOrderOfOwnGroups<A>) {
         return forEachObject(count, one, a, b, d);
     } else {
         const Buffer pivots =
             kIsArray<A> ? readsPerObject(pivotIndex, N * 4) : readsForAll(pivotIndex, N * 4);
-        return solveSystems(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No, d, count);
+        constexpr Grouping grouping =
+            kIsArray<A> && !kGainsFromWidth<A> ? Grouping{kBlockBytes, 2, 16} : kLongKernels;
+        return solveSystems<grouping>(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No, d, count);
     }
 }
 

@@ -9,7 +9,7 @@ namespace zelm::solvers {
 // One system, as the definition has it: scratch holds what the reflectors make of b.
 template <typename A, typename B, typename D, typename Shape>
 __attribute__((noinline)) void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d,
-                                              Shape shape) {
+                                                     Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     const Dense<T> w(scratch, 0);
@@ -114,9 +114,9 @@ __attribute__((noinline)) ZelmStatus qrSolveObjects(const A &a, void *scratch, c
         qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
         return ZELM_OK;
     };
-    return solveSystems(QrSystems<N>{addressOf(scratch)},
-                        writesForAll(scratch, N * sizeof(typename D::Element)), one, a, b, InPlace::Yes, d,
-                        count);
+    return solveSystems<kLongKernels>(QrSystems<N>{addressOf(scratch)},
+                                      writesForAll(scratch, N * sizeof(typename D::Element)), one, a, b,
+                                      InPlace::Yes, d, count);
 }
 
 // ---- the exported rows

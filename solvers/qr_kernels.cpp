@@ -130,8 +130,8 @@ void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (&x)[N]) {
     template void qrScales<V, N>(const V(&)[N][N], V(&)[N]);                                                 \
     template void qrSolve<V, V, N>(const V(&)[N][N], const V(&)[N], V(&)[N], V(&)[N]);
 #define ZELM_INSTANTIATE_SHARED(V, N)                                                                        \
-    template void qrSolve<V, Pack<ElementOf<V>>, N>(                                                         \
-        const Pack<ElementOf<V>>(&)[N][N], const Pack<ElementOf<V>>(&)[N], V(&)[N], V(&)[N]);
+    template void qrSolve<V, Pack<ElementOf<V>>, N>(const Pack<ElementOf<V>>(&)[N][N],                       \
+                                                    const Pack<ElementOf<V>>(&)[N], V(&)[N], V(&)[N]);
 #define ZELM_INSTANTIATE_ALONE(T, N) template unsigned qrFactor<T, N>(T(&)[N][N], T(&)[N]);
 #define ZELM_INSTANTIATE_GROUP(V, N) template bool qrFactorGroup<V, N>(V(&)[N][N], V(&)[N]);
 ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)

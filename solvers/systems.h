@@ -1,12 +1,12 @@
 // Many systems A*x = b: with a matrix for each of them, or with one for all, whose factors are held.
 //
 // A method of solving says of systems of order N
-//   Factors<F>                      what it keeps of the matrices: F is a pack, one matrix per lane, or a block
+//   Factors<F>                      what it keeps of the matrices: F is a pack, one matrix per lane, or a
+//   block
 //                                   whose lanes are all alike, one matrix for all
-//   loadGroup(a, b, k, factors, x)  reads matrices and right sides of a group; false where it can't be solved so
-//   hold(a, factors)                reads the one matrix; false likewise
-//   loadRight(b, k, x)              reads the right sides of a group beside held factors
-//   solve(factors, x)               makes solutions of right sides
+//   loadGroup(a, b, k, factors, x)  reads matrices and right sides of a group; false where it can't be solved
+//   so hold(a, factors)                reads the one matrix; false likewise loadRight(b, k, x) reads the
+//   right sides of a group beside held factors solve(factors, x)               makes solutions of right sides
 #pragma once
 
 #include "solvers/groups.h"
@@ -35,13 +35,14 @@ __attribute__((noinline)) void solveHeldGroup(const Method &method, const F &fac
 }
 
 // All systems: one(k) solves system k as the definition has it.
-template <typename Method, typename Memory, typename One, typename A, typename B, typename D>
+template <Grouping grouping, typename Method, typename Memory, typename One, typename A, typename B,
+          typename D>
 ZELM_INLINE ZelmStatus solveSystems(const Method &method, const Memory &buffer, One one, const A &a,
                                     const B &b, InPlace inPlace, const D &d, std::uint32_t count) {
     constexpr unsigned N = Method::order;
     const auto run = [&](auto group) __attribute__((always_inline)) {
-        return forEachInGroups<kLongKernels>(count, buffer, group, one, writes(d, 1, N), reads(a, N, N),
-                                             reads(b, 1, N, inPlace));
+        return forEachInGroups<grouping>(count, buffer, group, one, writes(d, 1, N), reads(a, N, N),
+                                         reads(b, 1, N, inPlace));
     };
     if constexpr (kIsArray<A>) {
         return run([&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
