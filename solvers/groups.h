@@ -56,14 +56,18 @@ ZELM_INLINE auto untested(const Operand &operand) {
         return operand;
 }
 
-// ---- whole matrices. A loop over the rows where elements are gathered one by one: that is long code.
+// ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
+// long code.
 
 template <typename Array>
 constexpr bool kRowsAreAdjacent = decltype(std::declval<const Array &>().object(0))::isDense;
 
+template <typename V, typename Array>
+constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || kLanesOf<V> == 2;
+
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N]) {
-    if constexpr (kRowsAreAdjacent<Array>) {
+    if constexpr (kUnrollsRows<V, Array>) {
 #pragma GCC unroll 6
         for (unsigned i = 0; i < N; ++i)
             loadRow<N>(array, k, i, out[i]);
@@ -76,7 +80,7 @@ ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N])
 
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
-    if constexpr (kRowsAreAdjacent<Array>) {
+    if constexpr (kUnrollsRows<V, Array>) {
 #pragma GCC unroll 6
         for (unsigned i = 0; i < N; ++i)
             storeRow<N>(array, k, i, in[i]);

@@ -143,14 +143,26 @@ struct LuSystems {
     }
 };
 
-// From which order on a group of systems with a matrix each is faster than one after the other: gathering the
-// rows in pivot order costs as much as small systems take, and wide packs gain where rows are adjacent only.
+// How systems with a matrix each are taken in groups, and from which order on that is faster than one after
+// the other: gathering the rows in pivot order costs as much as small systems take, and the more so the more
+// has to be gathered. (By measurement at 1,000 objects: lists gain nothing from 64 bytes, gathered elements
+// nothing from 32.)
 template <typename A>
-constexpr bool kGainsFromWidth = kWidestBytes > kBlockBytes &&kRowsAreAdjacent<A>;
+constexpr bool kIsWideArray = kWidestBytes > kBlockBytes &&kRowsAreAdjacent<A> && !A::isList;
 template <typename A>
-constexpr unsigned kLeastOrderOfOwnGroups = kGainsFromWidth<A>                 ? 3
-                                            : sizeof(typename A::Element) == 4 ? 5
-                                                                               : 7;
+constexpr unsigned kLeastOrderOfOwnGroups = sizeof(typename A::Element) == 4 ? (kIsWideArray<A> ? 4 : 5)
+                                                                             : (kIsWideArray<A> ? 6 : 7);
+template <typename A>
+constexpr Grouping kOwnGrouping = {kIsWideArray<A>       ? kLongKernels.bytes
+                                   : kRowsAreAdjacent<A> ? widestUpTo(32)
+                                                         : kBlockBytes,
+                                   kLongKernels.least, kLongKernels.leastInTables};
+
+template <typename A>
+constexpr Grouping kGroupingOfLu = kLongKernels;
+template <typename A>
+requires kIsArray<A>
+constexpr Grouping kGroupingOfLu<A> = kOwnGrouping<A>;
 
 // The systems of an array, of a fixed size; the elements of each result are distinct.
 template <unsigned N, typename A, typename B, typename D>
@@ -166,9 +178,8 @@ __attribute__((noinline)) ZelmStatus luBackSubstObjects(const A &a, const std::u
     } else {
         const Buffer pivots =
             kIsArray<A> ? readsPerObject(pivotIndex, N * 4) : readsForAll(pivotIndex, N * 4);
-        constexpr Grouping grouping =
-            kIsArray<A> && !kGainsFromWidth<A> ? Grouping{kBlockBytes, 2, 16} : kLongKernels;
-        return solveSystems<grouping>(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No, d, count);
+        return solveSystems<kGroupingOfLu<A>>(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No, d,
+                                              count);
     }
 }
 
