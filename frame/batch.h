@@ -275,7 +275,7 @@ ZELM_INLINE std::uint32_t runGroups(std::uint32_t k, std::uint32_t end, Group gr
 template <typename V, typename Group, typename One, typename... Operands>
 ZELM_INLINE ZelmStatus runObjects(std::uint32_t k, std::uint32_t end, bool grouped, Group group, One one,
                                   const Operands &...operands) {
-    constexpr std::uint32_t least = kLanesOf<Pack<ElementOf<V>>>;
+    constexpr std::uint32_t least = sizeof(V) < kBlockBytes ? 1 : kLanesOf<Pack<ElementOf<V>>>;
     while (k < end) {
         if (grouped)
             k = runGroups<V>(k, end, group);
@@ -320,7 +320,8 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
 template <Grouping grouping, typename Memory, typename GroupStep, typename One, typename D, typename... S>
 ZELM_INLINE ZelmStatus forEachInGroups(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
                                        const Result<D> &d, const Source<S> &...s) {
-    using V = Pack<typename D::Element, grouping.bytes>;
+    using T = typename D::Element;
+    using V = Pack<T, grouping.bytes == 0 ? sizeof(T) : grouping.bytes>;
     if constexpr ((D::isList || ... || S::isList)) {
         return runStretches<V>(count, buffer, group, one, d, s...);
     } else {

@@ -263,7 +263,12 @@ ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane r
 // The first N elements of row i, which has `columns` of them, of each of the objects from k on.
 template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
-    if constexpr (Array::isSideBySide) {
+    if constexpr (kLanesOf<V> == 1) {
+        const auto object = array.object(k);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            out[j] = object.get(i, j, columns);
+    } else if constexpr (Array::isSideBySide) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
             out[j] = loadAs<V>(array.object(k).address(i, j, columns));
@@ -278,7 +283,12 @@ ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out
 
 template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void storeRow(const Array &array, std::uint32_t k, unsigned i, const V *in) {
-    if constexpr (Array::isSideBySide) {
+    if constexpr (kLanesOf<V> == 1) {
+        const auto object = array.object(k);
+#pragma GCC unroll 6
+        for (unsigned j = 0; j < N; ++j)
+            object.set(i, j, columns, in[j]);
+    } else if constexpr (Array::isSideBySide) {
 #pragma GCC unroll 6
         for (unsigned j = 0; j < N; ++j)
             storePack(array.object(k).address(i, j, columns), in[j]);

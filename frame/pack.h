@@ -36,6 +36,11 @@ template <typename T, unsigned Bytes>
 struct PackType {
     typedef T type __attribute__((vector_size(Bytes)));
 };
+// A pack of one lane is an element.
+template <typename T>
+struct PackType<T, sizeof(T)> {
+    using type = T;
+};
 template <typename T, unsigned Bytes = kBlockBytes>
 using Pack = typename PackType<T, Bytes>::type;
 using Floats4 = Pack<float, 16>;
@@ -79,7 +84,10 @@ struct AnywherePack {
 
 template <typename V>
 ZELM_INLINE V loadAs(Address from) {
-    return (V) * reinterpret_cast<const typename AnywherePack<V>::type *>(from);
+    if constexpr (std::is_floating_point_v<V>)
+        return load<V>(from);
+    else
+        return (V) * reinterpret_cast<const typename AnywherePack<V>::type *>(from);
 }
 
 template <typename T>
@@ -89,7 +97,10 @@ ZELM_INLINE Pack<T> loadPack(Address from) {
 
 template <typename V>
 ZELM_INLINE void storePack(Address to, V value) {
-    *reinterpret_cast<typename AnywherePack<V>::type *>(to) = (typename AnywherePack<V>::type)value;
+    if constexpr (std::is_floating_point_v<V>)
+        store(to, value);
+    else
+        *reinterpret_cast<typename AnywherePack<V>::type *>(to) = (typename AnywherePack<V>::type)value;
 }
 
 // ---- one value in all lanes, or in the first

@@ -3,6 +3,8 @@
 
 #include "frame/pack.h"
 
+#include <utility>
+
 namespace zelm::frame {
 
 constexpr unsigned widestUpTo(unsigned bytes) {
@@ -16,6 +18,19 @@ struct Grouping {
     std::uint32_t leastInTables = least; // the same where it looks at a table entry per element
 };
 
+// Objects whose elements would have to be gathered one by one: each by itself, in registers.
+constexpr Grouping kOneAtATime = {0, 8};
+
+template <typename Array>
+constexpr bool kLoadsInGroups =
+    Array::isSideBySide || decltype(std::declval<const Array &>().object(0))::isDense;
+
+// The widths of a class where a group is loaded by rows or planes, one object at a time elsewhere.
+template <typename Array>
+constexpr Grouping groupingOf(Grouping wide) {
+    return kLoadsInGroups<Array> ? wide : kOneAtATime;
+}
+
 // A few operations per element: dot and cross products, norms.
 constexpr Grouping kShortKernels = {kWidestBytes, 8};
 
@@ -27,6 +42,9 @@ constexpr Grouping kProductKernels = {kWidestBytes, 8};
 
 // Runs of adjacent elements: whole arrays, and the elements of one object.
 constexpr unsigned kRunBytes = kWidestBytes, kShortRunBytes = widestUpTo(32);
+
+// Rows inside one object.
+constexpr unsigned kInsideBytes = widestUpTo(32);
 
 // Between rows and planes.
 constexpr unsigned kMoveBytes = kWidestBytes;

@@ -3,8 +3,8 @@
 
 #include "frame/batch.h"
 #include "frame/plainest.h"
-#include "products/accumulate.h"
 #include "products/matrix_rows.h"
+#include "products/run_time.h"
 
 namespace zelm::products {
 
@@ -116,17 +116,26 @@ constexpr InPlaceOf kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, 
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus accumulateSingle(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches) {
-    if constexpr (D::isTable)
+    if constexpr (D::isTable) {
         return accumulateTested(a, b, d, bounds, pitches);
-    accumulateMatrix<false>(a, b, d, bounds, pitches);
-    return ZELM_OK;
+    } else {
+        if (productIsApart(a, b, d, bounds, pitches))
+            multiplyApart(a, b, d, bounds, pitches);
+        else
+            accumulateMatrix<false>(a, b, d, bounds, pitches);
+        return ZELM_OK;
+    }
 }
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus multiplySingle(const A &a, const B &b, const D &d, MatrixSizes sizes) {
     if (ZelmStatus status = checkSingle(isWrongSize<A, B>(sizes), a, b, d); status != kProceed)
         return status;
-    return accumulateSingle(a, b, d, boundsOf(sizes), pitchesOf<A, B>(sizes));
+    return withPlainest(
+        [&](const auto &...plain) __attribute__((always_inline)) {
+            return accumulateSingle(plain..., boundsOf(sizes), pitchesOf<A, B>(sizes));
+        },
+        a, b, d);
 }
 
 template <typename A, typename B, typename D, unsigned N>
@@ -152,12 +161,11 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixS
                        tested(d, Address{sizes.*entries.first} * sizes.*entries.second));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), boundsOf(sizes),
-                                            pitchesOf<A, B>(sizes));
-        return ZELM_OK;
-    };
-    return forEachObject(count, one, a, b, d);
+    return withPlainest(
+        [&](const auto &...plain) __attribute__((always_inline)) {
+            return multiplyRunTime(plain..., boundsOf(sizes), pitchesOf<A, B>(sizes), count);
+        },
+        a, b, d);
 }
 
 // P: the same element of successive objects is adjacent, so that packs of them need no shuffle.

@@ -3,18 +3,23 @@
 
 #include "frame/plainest.h"
 #include "products/vector_groups.h"
+#include "products/vector_run_time.h"
 
 namespace zelm::products {
 
 // ---- single objects
 
 template <typename A, typename X, typename Z, typename D>
-ZELM_INLINE ZelmStatus vectorSingle(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
-                                    std::uint32_t terms, std::uint32_t pitch) {
-    if constexpr (D::isTable)
-        return accumulateVectorTested(a, x, z, d, rows, terms, pitch);
-    accumulateVector<false>(a, x, z, d, rows, terms, pitch);
-    return ZELM_OK;
+ZELM_INLINE ZelmStatus vectorSingle(const A &a, const X &x, const Z &z, const D &d, VectorBounds bounds) {
+    if constexpr (D::isTable) {
+        return accumulateVectorTested(a, x, z, d, bounds.rows, bounds.terms, bounds.pitch);
+    } else {
+        if (vectorProductIsApart(a, x, z, d, bounds))
+            multiplyVectorApart(a, x, z, d, bounds);
+        else
+            accumulateVector<false>(a, x, z, d, bounds.rows, bounds.terms, bounds.pitch);
+        return ZELM_OK;
+    }
 }
 
 template <unsigned N, typename A, typename X, typename Z, typename D>
@@ -29,14 +34,12 @@ ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, con
 // ---- arrays
 
 template <typename A, typename X, typename Z, typename D>
-ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
-                                   std::uint32_t terms, std::uint32_t pitch, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), rows, terms,
-                                            pitch);
-        return ZELM_OK;
-    };
-    return forEachObject(count, one, a, x, z, d);
+ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &d, VectorBounds bounds,
+                                   std::uint32_t count) {
+    return withPlainest(
+        [&](const auto &...plain)
+            __attribute__((always_inline)) { return multiplyVectorsRunTime(plain..., bounds, count); },
+        a, x, z, d);
 }
 
 // How an array of a fixed size is computed.
@@ -48,14 +51,15 @@ enum class Way {
 
 // In the standard and L layouts a row of 4 fills a pack, and 5 and 6 nearly do, so that one matrix for all
 // objects is held by columns in order 4, and in lists, whose addresses are not known ahead, in all; a matrix
-// to each object is faster inside the object. Planes need no shuffle across objects. Strided elements would
-// have to be gathered one by one.
-template <unsigned N, typename A, typename D>
+// to each object is faster inside the object. The sums of the other layouts are chains, which groups form
+// without a shuffle where the data lies in planes or rows; strided objects are groups of one. Only transposed
+// matrices of rows, which a group can't load, are left.
+template <unsigned N, bool isDense, typename A, typename D>
 constexpr Way wayOf() {
-    constexpr bool isDense = decltype(std::declval<const D &>().object(0))::isDense;
-    if (D::isSideBySide)
-        return Way::Groups;
-    if (!isDense || kIsArray<A>)
+    constexpr bool hasRows = decltype(std::declval<const D &>().object(0))::isDense;
+    if (!isDense)
+        return hasRows && kIsArray<A> && kIsTransposed<A> ? Way::OneByOne : Way::Groups;
+    if (kIsArray<A>)
         return Way::OneByOne;
     return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;
 }
@@ -84,10 +88,10 @@ ZELM_INLINE ZelmStatus multiplyByColumns(const A &a, const X &x, const Z &z, con
 // `isDense`: whether the called form is one of the standard and L layouts.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
-    constexpr Way way = wayOf<N, A, D>();
-    if constexpr (way == Way::Groups || (!isDense && decltype(d.object(0))::isDense && !kIsTransposed<A>))
+    constexpr Way way = wayOf<N, isDense, A, D>();
+    if constexpr (way == Way::Groups)
         return multiplyInGroups<N, isDense>(a, x, z, d, count);
-    if constexpr (way == Way::HeldColumns && isDense)
+    if constexpr (way == Way::HeldColumns)
         if (missesInvariant<N>(a, d, count))
             return multiplyByColumns<N>(a, x, z, d, count);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
@@ -108,12 +112,16 @@ ZELM_INLINE ZelmStatus vectorsOf(const A &a, const X &x, const Z &z, const D &d,
 
 // ---- Mul
 
+template <typename A>
+ZELM_INLINE VectorBounds boundsOf(const VectorSizes &sizes) {
+    return {sizes.height, sizes.width, kIsTransposed<A> ? sizes.height : sizes.width};
+}
+
 template <typename A, typename X, typename D>
 ZELM_INLINE ZelmStatus multiplyVector(const A &a, const X &x, const D &d, VectorSizes sizes) {
     if (ZelmStatus status = checkSingle(isWrongSize<A>(sizes), a, x, d); status != kProceed)
         return status;
-    return vectorSingle(a, x, Nothing(), d, sizes.height, sizes.width,
-                        kIsTransposed<A> ? sizes.height : sizes.width);
+    return vectorSingle(a, x, Nothing(), d, boundsOf<A>(sizes));
 }
 
 template <typename A, typename X, typename D, unsigned N>
@@ -132,8 +140,7 @@ ZELM_INLINE ZelmStatus multiplyVectors(const A &a, const X &x, const D &d, Vecto
                        tested(x, sizes.length), tested(d, entries));
         status != kProceed)
         return status;
-    return vectorArray(a, x, Nothing(), d, sizes.height, sizes.width,
-                       kIsTransposed<A> ? sizes.height : sizes.width, count);
+    return vectorArray(a, x, Nothing(), d, boundsOf<A>(sizes), count);
 }
 
 template <typename A, typename X, typename D, unsigned N>
@@ -151,7 +158,7 @@ template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus gaxpy(const A &a, const X &x, const Z &z, const D &d, RunTimeShape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), a, x, z, d); status != kProceed)
         return status;
-    return vectorSingle(a, x, z, d, shape.height, shape.width, shape.width);
+    return vectorSingle(a, x, z, d, VectorBounds{shape.height, shape.width, shape.width});
 }
 
 template <typename A, typename X, typename Z, typename D, unsigned N>
@@ -172,7 +179,7 @@ ZELM_INLINE ZelmStatus gaxpys(const A &a, const X &x, const Z &z, const D &d, Sh
     if constexpr (Shape::isFixed)
         return vectorsOf<Shape::columns()>(a, x, z, d, count);
     else
-        return vectorArray(a, x, z, d, shape.height, shape.width, shape.width, count);
+        return vectorArray(a, x, z, d, VectorBounds{shape.height, shape.width, shape.width}, count);
 }
 
 } // namespace zelm::products

@@ -36,7 +36,7 @@ struct GroupMatrices<N, A> {
         } else {
 #pragma GCC unroll 6
             for (unsigned t = 0; t < N; ++t)
-                row[t] = loadAs<V>(array.object(k).address(t, i, N));
+                row[t] = loadAs<V>(array.object(k).address(t, i, N)); // planes, or a single lane
         }
     }
 };
@@ -90,12 +90,12 @@ ZELM_INLINE ZelmStatus multiplyInGroups(const A &a, const X &x, const Z &z, cons
     };
     constexpr InPlace vector = isDense ? InPlace::Yes : InPlace::No;
     if constexpr (kAdds<Z>)
-        return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, 1, N),
-                                                reads(a, N, N), reads(x, 1, N, vector),
-                                                reads(z, 1, N, vector));
+        return forEachInGroups<groupingOf<D>(kProductKernels)>(count, NoBuffer(), group, one, writes(d, 1, N),
+                                                               reads(a, N, N), reads(x, 1, N, vector),
+                                                               reads(z, 1, N, vector));
     else
-        return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, 1, N),
-                                                reads(a, N, N), reads(x, 1, N, vector));
+        return forEachInGroups<groupingOf<D>(kProductKernels)>(count, NoBuffer(), group, one, writes(d, 1, N),
+                                                               reads(a, N, N), reads(x, 1, N, vector));
 }
 
 } // namespace zelm::products

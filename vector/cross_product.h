@@ -166,7 +166,7 @@ ZELM_INLINE ZelmStatus crossByLines(const A &a, const B &b, const D &d, std::uin
         crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
         return ZELM_OK;
     };
-    if constexpr (D::isList || !kLoadsInGroups<D>) {
+    if constexpr (D::isList && decltype(d.object(0))::isDense) {
         return forEachObject(count, one, a, b, d);
     } else {
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
@@ -177,8 +177,8 @@ ZELM_INLINE ZelmStatus crossByLines(const A &a, const B &b, const D &d, std::uin
             storeRow<3>(d, k, 0, result);
             return true;
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(d, 1, 3), reads(a, 1, 3),
-                                              reads(b, 1, 3));
+        return forEachInGroups<groupingOf<D>(kShortKernels)>(count, NoBuffer(), group, one, writes(d, 1, 3),
+                                                             reads(a, 1, 3), reads(b, 1, 3));
     }
 }
 

@@ -74,7 +74,7 @@ constexpr bool kIsArrayOfRows = kIsArray<S> && decltype(std::declval<const S &>(
 template <unsigned N, typename V, typename A, typename B>
 ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,
                                  V (&products)[N]) {
-    if constexpr (N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
+    if constexpr (kLanesOf<V> > 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
         LaneAddresses<V> first, second;
 #pragma GCC unroll 16
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane) {
@@ -126,7 +126,7 @@ ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, s
     };
     // Of two lists of threes the null tests and the sum cost less than collecting the objects does.
     constexpr bool areListsOfThrees = A::isList && B::isList && Shape::columnsIfFixed == 3;
-    if constexpr (!Shape::isFixed || !kLoadsInGroups<A> || areListsOfThrees) {
+    if constexpr (!Shape::isFixed || areListsOfThrees) {
         return forEachObject(count, one, a, b);
     } else {
         constexpr unsigned N = Shape::columns();
@@ -138,7 +138,7 @@ ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, s
             storePack(results.object(k).start, sumOf<order>(products));
             return true;
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+        return forEachInGroups<groupingOf<A>(kShortKernels)>(count, NoBuffer(), group, one, writes(results, 1, 1),
                                               reads(a, 1, N), reads(b, 1, N));
     }
 }

@@ -272,14 +272,14 @@ ZELM_INLINE ZelmStatus frobeniusByColumns(const S &s, const DenseArray<T> &resul
         results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
         return ZELM_OK;
     };
-    if constexpr (Shape::isFixed && kLoadsInGroups<S>) {
+    if constexpr (Shape::isFixed) {
         constexpr unsigned N = Shape::columns();
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             using V = typename decltype(pack)::Pack;
             storePack(results.object(k).start, squareRoot(squaresOfGroup<N, V>(s, k)));
             return true;
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one, writes(results, 1, 1),
                                               reads(s, N, N));
     } else {
         return forEachObject(count, one, s);

@@ -74,7 +74,7 @@ ZELM_INLINE ZelmStatus lengthsOf(const S &s, T *dst, Shape shape, std::uint32_t 
             results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
         return ZELM_OK;
     };
-    if constexpr (!Shape::isFixed || !kLoadsInGroups<S>) {
+    if constexpr (!Shape::isFixed) {
         return forEachObject(count, one, s);
     } else {
         constexpr unsigned N = Shape::columns();
@@ -90,8 +90,8 @@ ZELM_INLINE ZelmStatus lengthsOf(const S &s, T *dst, Shape shape, std::uint32_t 
             storePack(results.object(k).start, lengthOf<isDense>(sum));
             return true;
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                              reads(s, 1, N));
+        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
+                                                             writes(results, 1, 1), reads(s, 1, N));
     }
 }
 

@@ -18,11 +18,6 @@ ZELM_INLINE DenseArray<T> resultsAt(T *dst) {
     return DenseArray<T>(dst, std::int32_t{sizeof(T)}, 0);
 }
 
-// Layouts in which loading a group costs less than it saves: gathering single elements costs as many steps as
-// the arithmetic of a vector has.
-template <typename D>
-constexpr bool kLoadsInGroups = D::isSideBySide || decltype(std::declval<const D &>().object(0))::isDense;
-
 // The vectors of an array, N packs for a group: one per element.
 template <unsigned N, typename S>
 struct Vectors {

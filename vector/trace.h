@@ -61,17 +61,16 @@ ZELM_INLINE ZelmStatus tracesOf(const S &s, const DenseArray<T> &results, Size s
             traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
     };
-    if constexpr (S::isSideBySide && Size::fixed != 0) {
+    if constexpr (!decltype(s.object(0))::isDense && Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             using V = typename decltype(pack)::Pack;
             storePack(results.object(k).start, tracesOfGroup<N, V>(s, k));
             return true;
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                              reads(s, N, N));
+        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
+                                                             writes(results, 1, 1), reads(s, N, N));
     } else {
-        // A few additions an object: elsewhere collecting them for a group takes longer.
         return forEachObject(count, one, s);
     }
 }
@@ -86,9 +85,10 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
     const DenseArray<T> results = resultsAt(dst);
     // Only planes gain by it: the dense forms begin their sums in another way.
     if constexpr (S::isTable)
-        return withPlainest([&](const auto &plain) __attribute__((
-                                always_inline)) { return tracesOf(plain, results, size, count); },
-                            s);
+        return withPlainest(
+            [&](const auto &plain)
+                __attribute__((always_inline)) { return tracesOf(plain, results, size, count); },
+            s);
     else
         return tracesOf(s, results, size, count);
 }
