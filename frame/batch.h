@@ -118,10 +118,13 @@ ZELM_INLINE Range startsOfStretch(const List &list, std::uint32_t first, std::ui
         lowest = entry < lowest ? entry : lowest;
         highest = entry > highest ? entry : highest;
     }
-    const std::int64_t shift = signedDistance(list.shift), low = rangeFrom(lowest, 0).low + shift;
-    if (lowest == 0 || low <= 0)
+    const std::int64_t shift = signedDistance(list.shift);
+    const std::int64_t low = rangeFrom(lowest, 0).low + shift, high = rangeFrom(highest, 0).low + shift;
+    // An entry that a positive shift brings to null is the highest of all numbers, and negative as a
+    // distance.
+    if (lowest == 0 || low <= 0 || high < low)
         return {-1, -1};
-    return {low, rangeFrom(highest, 0).low + shift};
+    return {low, high};
 }
 
 // The bytes of the objects from first to before last.
