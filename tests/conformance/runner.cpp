@@ -40,8 +40,20 @@ std::string show(std::uint64_t bits, std::size_t size) {
 
 std::optional<Mismatch> Runner::run(const Target &target, std::uint64_t seed, std::uint64_t number,
                                     const Callee &callee) {
+    const auto make = [&](Arena &arena, Case &result) {
+        makeCase(target, seed, number, arena, result);
+        return true;
+    };
+    return run(target, seed, number, make, callee);
+}
+
+std::optional<Mismatch> Runner::run(const Target &target, std::uint64_t seed, std::uint64_t number,
+                                    const std::function<bool(Arena &, Case &)> &make, const Callee &callee) {
     nameRunningCase(target.function->name, seed, number);
-    makeCase(target, seed, number, arena_, case_);
+    if (!make(arena_, case_)) {
+        nameNoCase();
+        return std::nullopt;
+    }
 
     const auto isMapped = [this](zelmref::Address address) {
         std::size_t slab, offset;

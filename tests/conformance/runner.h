@@ -25,6 +25,11 @@ public:
     std::optional<Mismatch> run(const Target &target, std::uint64_t seed, std::uint64_t number,
                                 const Callee &callee);
 
+    // The same for a case that the caller makes: `make` fills in everything and keeps its memory as `before`,
+    // or says that there is no such case.
+    std::optional<Mismatch> run(const Target &target, std::uint64_t seed, std::uint64_t number,
+                                const std::function<bool(Arena &, Case &)> &make, const Callee &callee);
+
     // The case that ran last; its memory lies in the arena as it was before the call.
     const Case &last() const { return case_; }
 
