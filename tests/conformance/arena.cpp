@@ -9,12 +9,18 @@ namespace {
 
 constexpr std::size_t guardSize = 1 << 16; // a stride too far is also caught
 
+#ifdef __x86_64__
+constexpr int place = MAP_32BIT; // so that a 32-bit shift reaches it from a null entry
+#else
+constexpr int place = 0;
+#endif
+
 } // namespace
 
 Arena::Arena() {
     for (std::size_t i = 0; i < slabCount; ++i) {
         void *mapping =
-            mmap(nullptr, slabSize + 2 * guardSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+            mmap(nullptr, slabSize + 2 * guardSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | place, -1, 0);
         if (mapping == MAP_FAILED)
             throw std::runtime_error("mmap");
         mappings_.push_back(mapping);

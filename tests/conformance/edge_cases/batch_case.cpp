@@ -20,7 +20,7 @@ using zelmref::Parameter;
 using zelmref::Passed;
 
 constexpr std::size_t firstTableSlab = 4, pivotSlab = 8;
-constexpr std::int64_t margin = 96, roomBehindTable = 1 << 17;
+constexpr std::int64_t margin = 96, pivotsInMiddle = 1 << 14;
 
 bool isOperand(Kind kind) {
     return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result || kind == Kind::Packed;
@@ -132,9 +132,17 @@ void Batch::pivotsOver(const Placement &o, std::int64_t offset) {
     pivotOffset_ = offset;
 }
 
-void Batch::dstOverPivots(std::int64_t offset) {
-    dst().slab = pivotSlab;
-    dst().origin = 1024 + offset;
+void Batch::besidePivots(Placement &o, std::int64_t offset) {
+    o.slab = pivotSlab;
+    o.origin = pivotsInMiddle + offset;
+}
+
+bool Batch::followsNull(const Placement &o, std::uint32_t entry) const {
+    const zelmref::Family &family = *target_.family;
+    if (family.followsNull && family.followsNull(case_.call, entry))
+        return true;
+    return family.entriesTested && !o.perObject &&
+           entry >= family.entriesTested(case_.call, target_.signature[o.parameter]);
 }
 
 void Batch::drawSizes(bool disagree) {
@@ -347,6 +355,9 @@ void Batch::pass() {
         }
         const std::uint32_t kind = random_.below(3);
         p.shift = kind == 0 ? 0 : static_cast<std::int32_t>(random_.between(-40, 40));
+        for (const Entry &entry : shiftsFromNull_)
+            if (entry.parameter == o.parameter)
+                p.shift = static_cast<std::int32_t>(address(o, o.entries[entry.entry]));
         const std::int64_t at = tableOffset(o);
         addWindow(tableSlab(o), at, at + static_cast<std::int64_t>(o.entries.size() * sizeof(void *)));
         p.base =
@@ -360,7 +371,7 @@ void Batch::pass() {
                 4 * std::int64_t{case_.call.dimension("n")} * (parameter.array ? count_ : 1);
             const bool dstIsHere = dst().slab == pivotSlab;
             std::size_t slab = pivotSlab;
-            std::int64_t at = dstIsHere ? 1024 : static_cast<std::int64_t>(Arena::slabSize) - bytes;
+            std::int64_t at = dstIsHere ? pivotsInMiddle : static_cast<std::int64_t>(Arena::slabSize) - bytes;
             if (pivotsPlaced_) {
                 const Placement *over = placementOf(pivotOperand_);
                 slab = over->slab;
@@ -411,7 +422,6 @@ void Batch::writeNumbers(Placement &o) {
         std::memcpy(reinterpret_cast<void *>(address(o, o.offset(k, i, j))), &bits,
                     static_cast<std::size_t>(size_));
     };
-    const bool isFirst = &o == &case_.operands.front();
     const Content content = target_.family->content;
     const bool wide = size_ == 8;
     std::vector<std::uint64_t> elements;
@@ -428,7 +438,10 @@ void Batch::writeNumbers(Placement &o) {
         else
             for (std::uint32_t e = 0; e < rows * columns; ++e)
                 elements.push_back(drawNumber(random_, Style::Plain, wide));
-        if (isFirst && std::count(zeroObjects_.begin(), zeroObjects_.end(), k))
+        const auto isThis = [&](const Entry &entry) {
+            return entry.parameter == o.parameter && entry.entry == k;
+        };
+        if (std::any_of(zeroObjects_.begin(), zeroObjects_.end(), isThis))
             std::fill(elements.begin(), elements.end(), 0);
         for (std::uint32_t i = 0; i < rows; ++i)
             for (std::uint32_t j = 0; j < columns; ++j)

@@ -43,20 +43,27 @@ public:
     std::int64_t tableOffset(const Placement &o) const;
     std::size_t tableSlab(const Placement &o) const;
 
-    // Asks for numbers all zero, and constants too.
+    // All numbers +0, constants too.
     void zeroEverything() { zeros_ = true; }
-    // Sources above zero.
-    void positiveSources() { positive_ = true; }
-    // Object k of the first source, all its elements zero.
-    void zeroObject(std::uint32_t k) { zeroObjects_.push_back(k); }
+    // No number below +0.
+    void clearSigns() { positive_ = true; }
+    // Object k of a source, all its elements +0.
+    void zeroObject(const Placement &o, std::uint32_t k) { zeroObjects_.push_back({o.parameter, k}); }
     void nullEntry(const Placement &o, std::uint32_t entry) { nulls_.push_back({o.parameter, entry}); }
     // An entry that only its shift brings to null.
     void nullByShift(const Placement &o, std::uint32_t entry) {
         nullsByShift_.push_back({o.parameter, entry});
     }
-    // pivotIndex starts at this offset of a slab's operand.
+    // A null entry that the shift brings to the place where its object lies.
+    void shiftFromNull(const Placement &o, std::uint32_t entry) {
+        shiftsFromNull_.push_back({o.parameter, entry});
+    }
+    bool followsNull(const Placement &o, std::uint32_t entry) const;
+
+    // pivotIndex, its start so many bytes behind an operand's.
     void pivotsOver(const Placement &o, std::int64_t offset);
-    void dstOverPivots(std::int64_t offset);
+    // The operand beside pivotIndex, so many bytes behind its start.
+    void besidePivots(Placement &o, std::int64_t offset);
 
     void drawSizes(bool disagree);
     void drawOperands();
@@ -92,8 +99,7 @@ private:
     bool pivotsPlaced_ = false;
     std::size_t pivotOperand_ = 0;
     std::int64_t pivotOffset_ = 0;
-    std::vector<std::uint32_t> zeroObjects_;
-    std::vector<Entry> nulls_, nullsByShift_;
+    std::vector<Entry> zeroObjects_, nulls_, nullsByShift_, shiftsFromNull_;
     std::vector<bool> tableHasRoom_;
 };
 
