@@ -208,10 +208,9 @@ ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<
     }
 }
 
-// `inPlace` is that of the called form.
+// `inPlace` is that of the called form. One instance serves P, and PS2 where its objects are adjacent.
 template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-ZELM_INLINE ZelmStatus multiplyByPlanes(const A &a, const B &b, const D &d, FixedSizes<N>,
-                                        std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
     const Planes<N, A> first{a};
     const Planes<N, B> second{b};
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
@@ -229,8 +228,7 @@ ZELM_INLINE ZelmStatus multiplyByPlanes(const A &a, const B &b, const D &d, Fixe
 // Inside one object after the other, which is as fast as across where a row fills a pack, and faster where
 // objects would have to be transposed.
 template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, FixedSizes<N>,
-                                        std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyOneByOne(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
     if constexpr (kIsArray<B>) {
         const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
