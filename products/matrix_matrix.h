@@ -228,7 +228,8 @@ __attribute__((noinline)) ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<
 // Inside one object after the other, which is as fast as across where a row fills a pack, and faster where
 // objects would have to be transposed.
 template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-__attribute__((noinline)) ZelmStatus multiplyOneByOne(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
+ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, FixedSizes<N>,
+                                        std::uint32_t count) {
     if constexpr (kIsArray<B>) {
         const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
             multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
