@@ -191,10 +191,11 @@ function indicesOf(member, operand) {
 
 // ---- tables
 
-// The statements that fill an operand's table.
-function tableSetup(member, operand, element) {
+// The statements that fill an operand's table. `transposed`: with the entries of the transposed matrix.
+function tableSetup(member, operand, element, transposed = false) {
     const constant = operand.name === "dst" ? "" : "const ", type = TYPE_NAMES[member.type];
-    const table = `${operand.sample}Table`, listed = element.split(",").map((part) => part.trim()).filter(Boolean);
+    const table = operand.sample + (transposed ? "Transposed" : "Table");
+    const listed = element.split(",").map((part) => part.trim()).filter(Boolean);
     const loop = (index, end) => `for (int ${index} = 0; ${index} < ${end}; ${index}++)`;
     if (operand.layout.startsWith("L")) {
         return [`${constant}${type} *${table}[COUNT];`, loop("k", "COUNT"),
@@ -204,13 +205,19 @@ function tableSetup(member, operand, element) {
         const entries = listed.map((part) => addressOf(at(part, { k: 0, i: 0, j: 0 })));
         return [`${constant}${type} *const ${table}[] = {${entries.join(", ")}};`];
     }
-    const entry = addressOf(at(element, { k: 0 }));
+    const entry = addressOf(at(element, { k: 0 })), place = transposed ? `j * ${operand.rows} + i` : `i * ${operand.columns} + j`;
     if (operand.kind[0] !== "m") {
         return [`${constant}${type} *${table}[${operand.rows}];`, loop("j", operand.rows), `    ${table}[j] = ${entry};`];
     }
     return [`${constant}${type} *${table}[${operand.rows} * ${operand.columns}];`,
-        `${loop("i", operand.rows)}`, `    ${loop("j", operand.columns)}`,
-        `        ${table}[i * ${operand.columns} + j] = ${entry};`];
+        `${loop("i", operand.rows)}`, `    ${loop("j", operand.columns)}`, `        ${table}[${place}] = ${entry};`];
+}
+
+// The statements for the tables that a call names.
+function tablesOf(member, data, elements, call) {
+    return data.operands.flatMap((operand) => ["Table", "Transposed"].flatMap((suffix) =>
+        (new RegExp(`\\b${operand.sample}${suffix}\\b`).test(call)
+            ? tableSetup(member, operand, elements[operand.name] || operand.element, suffix === "Transposed") : [])));
 }
 
 // ---- the call
@@ -288,11 +295,8 @@ function callHead(member) {
 function sample(member, elements = {}, count = "COUNT") {
     const data = sampleData(member);
     const own = data.operands.filter((operand) => !elements[operand.name] || elements[operand.name] === operand.element);
-    const tables = data.operands.filter((operand) =>
-        member.arguments.some((argument) => argument.kind === "table" && argument.operand === operand.name));
-    const setup = tables.flatMap((operand) => tableSetup(member, operand, elements[operand.name] || operand.element));
-    const texts = argumentTexts(member, data, elements, count);
-    const call = [...setup, callText(callHead(member), member, texts)];
+    const text = callText(callHead(member), member, argumentTexts(member, data, elements, count));
+    const call = [...tablesOf(member, data, elements, text), text];
     const declared = [...own.map((operand) => `${operand.declaration};`), ...helperDeclarations(member, data)];
     return { declarations: [...enumeration(member, [...declared, ...call], count), ...declared].join("\n"), call: call.join("\n") };
 }
@@ -303,12 +307,16 @@ function insteadCall(member, elements = {}, count = "COUNT") {
     if (!instead || !instead.arguments) {
         return "";
     }
-    const texts = argumentTexts(member, sampleData(member), elements, count);
+    const data = sampleData(member), texts = argumentTexts(member, data, elements, count);
     const given = Object.fromEntries(member.arguments.map((argument, index) => [argument.name, texts[index]]));
+    for (const operand of data.operands) {
+        given[`${operand.name}Transposed`] = `${operand.sample}Transposed`;
+    }
     const target = FUNCTIONS.get(instead.name);
     const written = instead.arguments.map((text) => text.replace(/\b[a-zA-Z]\w*\b/g, (word) => {
         const value = given[word] ?? word;
         return text === word || /^\w+$/.test(value) ? value : `(${value})`;
     }));
-    return callText(callHead(target), target, written);
+    const text = callText(callHead(target), target, written);
+    return [...tablesOf(member, data, elements, text), text].join("\n");
 }
