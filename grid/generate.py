@@ -18,7 +18,7 @@ from pathlib import Path
 
 from catalogue import (CLASSES, CONSTANTS, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES, KERNEL_ROWS,
                        LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
-from departures import BOUNDS, DEPARTURES, PRODUCT_BOUNDS
+from departures import BOUNDS, CAUTIONS, DEPARTURES, PRODUCT_BOUNDS, RANKS, TESTS_NOTHING
 
 C_TYPE = {"32f": "float", "64f": "double"}
 WIDTH = 116
@@ -232,7 +232,23 @@ def declaration(member, definition=False):
     texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}"
              for a in arguments]
     result = getattr(member, "result", "ZelmStatus")
-    return call_text(("" if definition else "ZELM_API ") + f"{result} {member.name}", texts)
+    if definition:
+        return call_text(f"{result} {member.name}", texts)
+    return warning(member) + call_text(f"ZELM_API {result} {member.name}", texts)
+
+
+def warning(member):
+    """What the compiler says of a call of a member whose values are not those of its formula."""
+    macro, departure = ("ZELM_DEPARTS", DEPARTURES[member.name]) if member.name in DEPARTURES \
+        else ("ZELM_DEPARTS_UNLESS_SQUARE", PRODUCT_BOUNDS.get(member.name))
+    if not departure or departure.rank != "values":
+        return ""
+    note = departure.note.partition(";")[0]
+    when = departure.when + ", " if departure.when.startswith("where") else ""
+    sentence = f"{when}{note}: use {departure.instead.name}, see docs/before-you-choose.md"
+    lines = textwrap.wrap(sentence, WIDTH - 10, break_long_words=False, break_on_hyphens=False)
+    return f"{macro}(" + "\n        ".join(f'"{line} "' for line in lines[:-1]) + "\n        " * (len(lines) > 1) \
+        + f'"{lines[-1]}")\n'
 
 
 def definition(member):
@@ -242,7 +258,7 @@ def definition(member):
     if departure and departure.function:
         function = f"departures::{departure.function}" + "".join(re.findall("<.*>", function))
     body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
-    comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure: {departure.note}.", WIDTH - 7)) \
+    comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure{departure.when and ' ' + departure.when}: {departure.note}.", WIDTH - 7)) \
         if departure else ""
     return f"{declaration(member, definition=True)}\n{{\n{comment}{body}\n}}\n"
 
@@ -253,10 +269,18 @@ KIND_TEXT = {"v": "vector", "va": "array of vectors", "m": "matrix", "ma": "arra
 STATUS_TEXT = {
     "ZELM_OK": "the call completed",
     "ZELM_ERR_NULL_PTR": "a pointer, a table or an entry of a table is null",
-    "ZELM_ERR_SIZE": "a dimension is zero (run-time form)",
+    "ZELM_ERR_SIZE": "a dimension is zero (run-time forms)",
     "ZELM_ERR_DIV_BY_ZERO": "a pivot fails the threshold",
     "ZELM_ERR_NOT_POS_DEF": "a pivot is not positive",
 }
+
+
+def row_formula(row):
+    if row.operation != "Mul" or row.descriptor not in BOUNDS:
+        return row.formula
+    where, otherwise = BOUNDS[row.descriptor]
+    forms = "run-time forms of S2 and P" if row.descriptor == "mmT" else "run-time forms"
+    return f"{row.formula}, in the {forms} only where {where} (docs/before-you-choose.md); otherwise {otherwise}"
 
 
 def row_paragraphs(row):
@@ -287,9 +311,10 @@ def row_paragraphs(row):
         units.append("count in objects")
     units.append("strides and shifts in bytes")
     return [
-        row.formula + ".",
+        row_formula(row) + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
-        "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
+        "Status: " + "; ".join(f"{s}: {(STATUS_TEXT | family.meanings)[s]}" for s in family.statuses
+                               if s not in row.never) + ".",
         "Overlap: " + family.overlap,
     ]
 
@@ -315,14 +340,24 @@ def kernel_declarations(family):
                                             *(declaration(kernel) + ";\n" for kernel in declared)])
 
 
+def departure_text(member):
+    departure = DEPARTURES[member.name]
+    when = f" {departure.when}" if departure.when else ""
+    text = f"Departs from its row ({RANKS[departure.rank]}){when}: {departure.note}."
+    if departure.instead:
+        given = instead_arguments(member, departure.instead)
+        text += f" Instead: {departure.instead.name}({', '.join(given)})" \
+            + (f", {departure.instead.note}." if departure.instead.note else ".")
+    return text
+
+
 def row_declarations(row, row_members):
     out = [block_comment(row_paragraphs(row))]
     regular = next((m for m in row_members if m.name not in DEPARTURES), None)
     # The row's comment documents what follows it, so a regular member comes first.
     for member in sorted(row_members, key=lambda m: m is not regular):
         if member.name in DEPARTURES:
-            out.append(block_comment([f"Departs from its row: {DEPARTURES[member.name].note}.",
-                                      f"@copydoc {regular.name}"]))
+            out.append(block_comment([departure_text(member), f"@copydoc {regular.name}"]))
         out.append(declaration(member) + ";\n")
     return member_group(f"zelm{row.operation}_{row.descriptor}", out)
 
@@ -369,8 +404,17 @@ def argument_list(member):
              **({"unread": True} if a.unread else {})} for a in plan(member)[0]]
 
 
+def statuses(member):
+    """The statuses that a member can return."""
+    if member.name in DEPARTURES and DEPARTURES[member.name].function in TESTS_NOTHING:
+        return ["ZELM_OK"]
+    family = FAMILIES[member.row.family]
+    sized = not member.size or (family.refuses_empty and member.row.is_array)
+    return [s for s in family.statuses if s not in member.row.never and (sized or s != "ZELM_ERR_SIZE")]
+
+
 def departure_entry(member, key, departure):
-    entry = {key: departure.note, "rank": departure.rank}
+    entry = {key: departure.note} | ({"rank": departure.rank} if departure.rank else {})
     if departure.when:
         entry["when"] = departure.when
     if departure.instead:
@@ -385,17 +429,18 @@ def grid_json(all_members):
     lines = []
     for m in all_members:
         family = FAMILIES[m.row.family]
-        fixed = bool(m.size)
         entry = {
             "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
             "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout,
             "formula": m.row.formula,
             "arguments": argument_list(m),
-            "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
+            "statuses": statuses(m),
         }
         for key, table in (("departure", DEPARTURES), ("bounds", PRODUCT_BOUNDS)):
             if m.name in table:
                 entry |= departure_entry(m, key, table[m.name])
+        if m.name in CAUTIONS:
+            entry["caution"] = departure_entry(m, "note", CAUTIONS[m.name])
         lines.append(json.dumps(entry))
     beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
                           "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
