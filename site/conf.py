@@ -17,11 +17,47 @@ smartquotes = False
 highlight_language = "c"
 
 html_theme = "furo"
+html_sidebars = {
+    "**": [
+        "sidebar/brand.html",
+        "sidebar/search.html",
+        "sidebar/scroll-start.html",
+        "finder-link.html",
+        "sidebar/navigation.html",
+        "sidebar/scroll-end.html",
+    ]
+}
+templates_path = ["templates"]
 html_static_path = ["static"]
 html_css_files = ["site.css"]
+html_js_files = [("scripts/gumshoe-patched.js", {"priority": 100})]
 html_copy_source = False
 html_show_copyright = False
-html_theme_options = {"sidebar_hide_name": False}
+# Debian's build of the theme has these colours only for readers who press its button, not for those whose system is dark.
+DARK = {
+    "problematic": "#ee5151",
+    "foreground-primary": "#ffffffcc",
+    "foreground-secondary": "#9ca0a5",
+    "foreground-muted": "#81868d",
+    "foreground-border": "#666666",
+    "background-primary": "#131416",
+    "background-secondary": "#1a1c1e",
+    "background-hover": "#1e2124ff",
+    "background-hover--transparent": "#1e212400",
+    "background-border": "#303335",
+    "background-item": "#444",
+    "brand-primary": "#7db1ff",
+    "brand-content": "#7db1ff",
+    "highlighted-background": "#083563",
+    "highlight-on-target": "#333300",
+    "admonition-background": "#18181a",
+    "card-border": "#1a1c1e",
+    "card-background": "#18181a",
+    "card-marginals-background": "#1e2124ff",
+    "table-header-background": "#1a1c1e",
+    "table-border": "#303335",
+}
+html_theme_options = {"dark_css_variables": {f"color-{name}": value for name, value in DARK.items()}}
 pygments_style = "friendly"
 pygments_dark_style = "native"
 

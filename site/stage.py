@@ -49,10 +49,13 @@ def copy_with_links(page, target, done):
     place = target / page.relative_to(ROOT)
     place.parent.mkdir(parents=True, exist_ok=True)
     shutil.copy(page, place)
-    if page.suffix != ".md":
-        return
-    for link in LINK.findall(page.read_text()):
-        linked = (page.parent / link).resolve()
+    if page.suffix == ".md":
+        copy_linked(page.read_text(), page.parent, target, done)
+
+
+def copy_linked(text, folder, target, done):
+    for link in LINK.findall(text):
+        linked = (folder / link).resolve()
         if "://" not in link and linked.is_file() and linked.is_relative_to(ROOT):
             copy_with_links(linked, target, done)
 
@@ -98,6 +101,7 @@ def main(arguments):
     target = Path(arguments[0]).resolve()
     shutil.rmtree(target, ignore_errors=True)
     parts, done = contents(), set()
+    copy_linked((HERE / "index.md").read_text(), ROOT, target, done)
     for page in [page for pages in parts.values() for page in pages]:
         copy_with_links(page, target, done)
     for page in list(done):

@@ -204,7 +204,7 @@ function warning(member) {
     }
     const [style, title] = RANK_TEXTS[rank] ?? ["note", "Departs from its row"];
     const box = element("div", { class: `warning ${style}`, id: "departure" }, element("h3", {}, `⚠ ${title}`),
-        element("p", {}, `${capital(departure || bounds)}${when ? ` — ${when}` : ""}.`));
+        element("p", {}, `${capital(departure || bounds)}${seenWhere(departure || bounds, when)}.`));
     if (instead) {
         box.append(element("p", {}, "Use instead: ", nameLink(instead.name), instead.note ? ` (${instead.note})` : ""));
         const call = insteadCall(member, state.elements, state.count);
@@ -213,6 +213,11 @@ function warning(member) {
         }
     }
     return box;
+}
+
+// Where a departure is seen, unless its note has said so.
+function seenWhere(note, when) {
+    return when && !note.includes(when.replace(/^\w+ /, "")) ? ` — ${when}` : "";
 }
 
 const capital = (text) => text[0].toUpperCase() + text.slice(1);
