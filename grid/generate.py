@@ -2,6 +2,7 @@
 """Writes what follows from the catalogue.
 
     generate.py headers DIR    the public headers DIR/zelm/<subsystem>.h
+    generate.py page FILE      docs/before-you-choose.md
     generate.py build DIR      into DIR: the exported functions (one unit per family and layout), sources.cmake,
                                exports.txt, zelm-grid.json, grid_table.h and grid_table.cpp (for the tests)
 
@@ -16,6 +17,7 @@ from dataclasses import dataclass
 from itertools import groupby
 from pathlib import Path
 
+import page
 from catalogue import (CLASSES, CONSTANTS, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES, KERNEL_ROWS,
                        LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
 from departures import BOUNDS, CAUTIONS, DEPARTURES, PRODUCT_BOUNDS, RANKS, TESTS_NOTHING
@@ -258,8 +260,10 @@ def definition(member):
     if departure and departure.function:
         function = f"departures::{departure.function}" + "".join(re.findall("<.*>", function))
     body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
-    comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure{departure.when and ' ' + departure.when}: {departure.note}.", WIDTH - 7)) \
-        if departure else ""
+    comment = ""
+    if departure:
+        sentence = f"A departure{departure.when and ' ' + departure.when}: {departure.note}."
+        comment = "".join(f"    // {line}\n" for line in textwrap.wrap(sentence, WIDTH - 7))
     return f"{declaration(member, definition=True)}\n{{\n{comment}{body}\n}}\n"
 
 
@@ -566,12 +570,36 @@ def write_build(directory):
     return files
 
 
+class PageContext:
+    """What the page asks of a member by its name."""
+
+    @staticmethod
+    def departure(name):
+        return DEPARTURES.get(name) or PRODUCT_BOUNDS[name]
+
+    @staticmethod
+    def arguments(name):
+        return [a.name for a in plan(MEMBERS[name])[0]]
+
+    def instead_arguments(self, name):
+        return instead_arguments(MEMBERS[name], self.departure(name).instead)
+
+    @staticmethod
+    def cautioned_arguments(name):
+        instead = CAUTIONS[name].instead
+        return instead_arguments(MEMBERS[name], instead) if instead else None
+
+
+def write_page(path):
+    return {path: page.text(PageContext())}
+
+
 def main(arguments):
-    if len(arguments) != 2 or arguments[0] not in ("headers", "build"):
+    writers = {"headers": write_headers, "page": write_page, "build": write_build}
+    if len(arguments) != 2 or arguments[0] not in writers:
         print(__doc__, file=sys.stderr)
         return 2
-    directory = Path(arguments[1])
-    files = write_headers(directory) if arguments[0] == "headers" else write_build(directory)
+    files = writers[arguments[0]](Path(arguments[1]))
     for path, text in files.items():
         text = re.sub(r"[ \t]+$", "", text, flags=re.M)
         if not path.exists() or path.read_text() != text:
