@@ -67,8 +67,6 @@ def dask_array(arrays):
 
 def through_dask(array, chunk, arrays, options):
     """The call as NumPy's protocol makes it."""
-    if options.get("out") is None:
-        options.pop("out", None)
     names = set(options) - {"axes", "axis", "keepdims"}
     if names:
         raise TypeError(f"{chunk.name}() takes no {', '.join(sorted(names))} with Dask arrays")
@@ -80,16 +78,20 @@ def through_dask(array, chunk, arrays, options):
     )
 
 
-def plain(name, function, arrays, options, signature=None):
+def plain(name, function, arrays, out, options, signature=None):
     """A function that has a result for every object."""
+    if out is not None:
+        options["out"] = out
     lazy = dask_array(arrays)
     if lazy is not None:
         return through_dask(lazy, Chunk(name, signature or function.signature), arrays, options)
     return _core.call(function, *arrays, **options)
 
 
-def refusing(name, function, arrays, options, singular, message=SINGULAR):
+def refusing(name, function, arrays, out, options, singular, message=SINGULAR):
     """A function that may have no result for an object."""
+    if out is not None:
+        options["out"] = out
     if singular not in ("raise", "nan"):
         raise ValueError(f"singular must be 'raise' or 'nan', not {singular!r}")
     lazy = dask_array(arrays)

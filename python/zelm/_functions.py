@@ -26,7 +26,7 @@ def add(x1, x2, /, out=None, **options):
 
     See also: numpy.add. Library: ``zelmAdd_vava``, ``zelmAdd_mama``.
     """
-    return plain("add", _core.add, (x1, x2), {"out": out, **options}, _elementwise_signature(x1, x2))
+    return plain("add", _core.add, (x1, x2), out, options, _elementwise_signature(x1, x2))
 
 
 @universal(_core.subtract)
@@ -41,7 +41,7 @@ def subtract(x1, x2, /, out=None, **options):
 
     See also: numpy.subtract. Library: ``zelmSub_vava``, ``zelmSub_mama``.
     """
-    return plain("subtract", _core.subtract, (x1, x2), {"out": out, **options}, _elementwise_signature(x1, x2))
+    return plain("subtract", _core.subtract, (x1, x2), out, options, _elementwise_signature(x1, x2))
 
 
 @universal(_core.scale)
@@ -57,7 +57,7 @@ def scale(x, factor, /, out=None, **options):
     See also: numpy.multiply. Library: ``zelmMul_vac``, ``zelmMul_mac``.
     """
     core = _ELEMENTWISE[min(2, np.ndim(x))]
-    return plain("scale", _core.scale, (x, factor), {"out": out, **options}, f"{core},()->{core}")
+    return plain("scale", _core.scale, (x, factor), out, options, f"{core},()->{core}")
 
 
 @universal(_core.axpy)
@@ -71,7 +71,7 @@ def axpy(a, x, y, /, out=None, **options):
 
     See also: scipy.linalg.blas.daxpy. Library: ``zelmSaxpy_vava``.
     """
-    return plain("axpy", _core.axpy, (a, x, y), {"out": out, **options})
+    return plain("axpy", _core.axpy, (a, x, y), out, options)
 
 
 @universal(_core.lcomb)
@@ -85,7 +85,7 @@ def lcomb(a, x, b, y, /, out=None, **options):
 
     Library: ``zelmLComb_vava``.
     """
-    return plain("lcomb", _core.lcomb, (a, x, b, y), {"out": out, **options})
+    return plain("lcomb", _core.lcomb, (a, x, b, y), out, options)
 
 
 @universal(_core.transpose)
@@ -101,7 +101,7 @@ def transpose(a, /, out=None, **options):
 
     See also: numpy.swapaxes. Library: ``zelmTranspose_ma``.
     """
-    return plain("transpose", _core.transpose, (a,), {"out": out, **options})
+    return plain("transpose", _core.transpose, (a,), out, options)
 
 
 @universal(_core.matmul)
@@ -119,7 +119,7 @@ def matmul(x1, x2, /, out=None, **options):
     left = "(k)" if np.ndim(x1) == 1 else "(m,k)"
     right = "(k)" if np.ndim(x2) == 1 else "(k,n)"
     core = ",".join("m" * (left == "(m,k)") + "n" * (right == "(k,n)"))
-    return plain("matmul", _core.matmul, (x1, x2), {"out": out, **options}, f"{left},{right}->({core})")
+    return plain("matmul", _core.matmul, (x1, x2), out, options, f"{left},{right}->({core})")
 
 
 @universal(_core.matvec)
@@ -133,7 +133,7 @@ def matvec(a, x, /, out=None, **options):
 
     Library: ``zelmMul_mava``.
     """
-    return plain("matvec", _core.matvec, (a, x), {"out": out, **options})
+    return plain("matvec", _core.matvec, (a, x), out, options)
 
 
 @universal(_core.gaxpy)
@@ -147,7 +147,7 @@ def gaxpy(a, x, z, /, out=None, **options):
 
     Library: ``zelmGaxpy_v``, ``zelmGaxpy_va``.
     """
-    return plain("gaxpy", _core.gaxpy, (a, x, z), {"out": out, **options})
+    return plain("gaxpy", _core.gaxpy, (a, x, z), out, options)
 
 
 @universal(_core.cross)
@@ -161,7 +161,7 @@ def cross(x1, x2, /, out=None, **options):
 
     See also: numpy.cross. Library: ``zelmCrossProduct_vava``.
     """
-    return plain("cross", _core.cross, (x1, x2), {"out": out, **options})
+    return plain("cross", _core.cross, (x1, x2), out, options)
 
 
 @universal(_core.dot)
@@ -175,7 +175,7 @@ def dot(x1, x2, /, out=None, **options):
 
     See also: numpy.dot, which multiplies stacks of matrices. Library: ``zelmDotProduct_vava``.
     """
-    return plain("dot", _core.dot, (x1, x2), {"out": out, **options})
+    return plain("dot", _core.dot, (x1, x2), out, options)
 
 
 @universal(_core.norm)
@@ -189,7 +189,7 @@ def norm(x, /, out=None, **options):
 
     See also: numpy.linalg.norm with axis=-1. Library: ``zelmL2Norm_va``.
     """
-    return plain("norm", _core.norm, (x,), {"out": out, **options})
+    return plain("norm", _core.norm, (x,), out, options)
 
 
 @universal(_core.frobenius)
@@ -203,7 +203,7 @@ def frobenius(a, /, out=None, **options):
 
     See also: numpy.linalg.norm with axis=(-2, -1). Library: ``zelmFrobNorm_ma``.
     """
-    return plain("frobenius", _core.frobenius, (a,), {"out": out, **options})
+    return plain("frobenius", _core.frobenius, (a,), out, options)
 
 
 @universal(_core.trace)
@@ -217,7 +217,7 @@ def trace(a, /, out=None, **options):
 
     See also: numpy.trace with axis1=-2, axis2=-1. Library: ``zelmTrace_ma``.
     """
-    return plain("trace", _core.trace, (a,), {"out": out, **options})
+    return plain("trace", _core.trace, (a,), out, options)
 
 
 @universal(_core.det)
@@ -231,7 +231,7 @@ def det(a, /, out=None, **options):
 
     See also: numpy.linalg.det. Library: ``zelmDet_ma``.
     """
-    return refusing("det", _core.det, (a,), {"out": out, **options}, "nan")
+    return refusing("det", _core.det, (a,), out, options, "nan")
 
 
 @universal(_core.inv)
@@ -251,7 +251,7 @@ def inv(a, /, out=None, *, singular="raise", **options):
 
     See also: numpy.linalg.inv. Library: ``zelmInvert_ma``.
     """
-    return refusing("inv", _core.inv, (a,), {"out": out, **options}, singular)
+    return refusing("inv", _core.inv, (a,), out, options, singular)
 
 
 @universal(_core.solve, _core.solve_vector)
@@ -269,7 +269,7 @@ def solve(a, b, /, out=None, *, singular="raise", **options):
     See also: numpy.linalg.solve. Library: ``zelmLUDecomp_ma``, ``zelmLUBackSubst_mava``.
     """
     function = _core.solve_vector if is_vector(a, b) else _core.solve
-    return refusing("solve", function, (a, b), {"out": out, **options}, singular)
+    return refusing("solve", function, (a, b), out, options, singular)
 
 
 @universal(_core.lu_factor)
@@ -287,7 +287,7 @@ def lu_factor(a, /, out=None, *, singular="raise", **options):
 
     See also: scipy.linalg.lu_factor. Library: ``zelmLUDecomp_ma``.
     """
-    return refusing("lu_factor", _core.lu_factor, (a,), {"out": out, **options}, singular)
+    return refusing("lu_factor", _core.lu_factor, (a,), out, options, singular)
 
 
 def lu_solve(lu_and_piv, b, /, out=None, **options):
@@ -304,7 +304,7 @@ def lu_solve(lu_and_piv, b, /, out=None, **options):
     if getattr(piv, "dtype", None) != np.uint32:
         raise TypeError("lu_solve() takes the factors of zelm.lu_factor, whose piv are uint32")
     function = _core.lu_solve_vector if is_vector(lu, b) else _core.lu_solve
-    x = plain("lu_solve", function, (lu, piv, b), {"out": out, **options})
+    x = plain("lu_solve", function, (lu, piv, b), out, options)
     if dask_array((lu, piv, b)) is None and _core.refused():
         raise ValueError("lu_solve: piv names a row that the matrix doesn't have")
     return x
@@ -323,7 +323,7 @@ def cholesky(a, /, out=None, *, singular="raise", **options):
 
     See also: numpy.linalg.cholesky. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing("cholesky", _core.cholesky, (a,), {"out": out, **options}, singular, NOT_POSITIVE)
+    return refusing("cholesky", _core.cholesky, (a,), out, options, singular, NOT_POSITIVE)
 
 
 @universal(_core.cho_factor)
@@ -338,7 +338,7 @@ def cho_factor(a, /, out=None, *, singular="raise", **options):
 
     See also: scipy.linalg.cho_factor, whose factors are L itself. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing("cho_factor", _core.cho_factor, (a,), {"out": out, **options}, singular, NOT_POSITIVE)
+    return refusing("cho_factor", _core.cho_factor, (a,), out, options, singular, NOT_POSITIVE)
 
 
 @universal(_core.cho_solve, _core.cho_solve_vector)
@@ -355,7 +355,7 @@ def cho_solve(c, b, /, out=None, **options):
     if isinstance(c, tuple):
         raise TypeError("cho_solve() takes the factor of zelm.cho_factor, which is one array")
     function = _core.cho_solve_vector if is_vector(c, b) else _core.cho_solve
-    return plain("cho_solve", function, (c, b), {"out": out, **options})
+    return plain("cho_solve", function, (c, b), out, options)
 
 
 def qr(a, /, mode="reduced"):
@@ -378,7 +378,7 @@ def qr(a, /, mode="reduced"):
     if dask_array((a,)) is not None:
         if mode != "reduced":
             raise ValueError("qr() of Dask arrays has the mode 'reduced' only")
-        return plain("qr", _core.qr, (a,), {}, "(m,n)->(m,n),(n,n)")
+        return plain("qr", _core.qr, (a,), None, {}, "(m,n)->(m,n),(n,n)")
     a = np.asanyarray(a)
     if a.ndim < 2 or a.shape[-2] < a.shape[-1]:
         return np.linalg.qr(a, mode=mode)
@@ -408,4 +408,4 @@ def lstsq(a, b, /, out=None, *, singular="raise", **options):
     See also: numpy.linalg.lstsq. Library: ``zelmQRDecomp_ma``, ``zelmQRBackSubst_mava``.
     """
     function = _core.lstsq_vector if is_vector(a, b) else _core.lstsq
-    return refusing("lstsq", function, (a, b), {"out": out, **options}, singular)
+    return refusing("lstsq", function, (a, b), out, options, singular)

@@ -82,10 +82,16 @@ def cho_factor(at, a, result):
     return refused
 
 
+def _least_squares(a, b):
+    if not (np.isfinite(a).all() and np.isfinite(b).all()):  # a ValueError of LAPACK's, from some versions of NumPy
+        raise linalg.LinAlgError
+    return linalg.lstsq(a, b, rcond=None)[0]
+
+
 def lstsq(at, a, b, result):
     a, b = _chosen(at, a, b)
     shape = (a.shape[0], a.shape[2], *b.shape[2:])
-    x, refused = _one_by_one(lambda a, b: linalg.lstsq(a, b, rcond=None)[0], (a, b), shape, b.dtype)
+    x, refused = _one_by_one(_least_squares, (a, b), shape, b.dtype)
     _fill(at, result, x)
     return refused
 
@@ -114,15 +120,19 @@ def gaxpy(at, a, x, z, result):
     return 0
 
 
+def _dot_in_pieces(x, y, piece=1 << 20):
+    return sum(float(np.dot(x[first : first + piece], y[first : first + piece])) for first in range(0, len(x), piece))
+
+
 def dot(at, x, y, result):
     for k in range(len(x)):
-        result[k] = np.dot(x[k], y[k])
+        result[k] = _dot_in_pieces(x[k], y[k])
     return 0
 
 
 def norm(at, x, result):
     for k in range(len(x)):
-        result[k] = linalg.norm(x[k])
+        result[k] = np.sqrt(_dot_in_pieces(x[k], x[k]))
     return 0
 
 
