@@ -76,8 +76,6 @@ class BuildExt(build_ext):
 
 
 setup(
-    ext_modules=[
-        Extension("zelm._core", SOURCES, include_dirs=["src", numpy.get_include()], extra_compile_args=list(FLAGS))
-    ],
+    ext_modules=[Extension("zelm._core", SOURCES, include_dirs=["src", numpy.get_include()], extra_compile_args=list(FLAGS))],
     cmdclass={"build_ext": BuildExt},
 )

@@ -112,10 +112,7 @@ def header(grid):
     for element in ELEMENT:
         of_type = sorted((f for f in chosen if f["type"] == element), key=row_of)
         out.append(f"\ntemplate <>\nstruct Calls<{ELEMENT[element]}> {{\n")
-        out += [
-            function(list(members))
-            for _, members in groupby(of_type, key=row_of)
-        ]
+        out += [function(list(members)) for _, members in groupby(of_type, key=row_of)]
         out.append("};\n")
     return "".join(out) + "\n} // namespace zelmpy\n"
 

@@ -36,10 +36,11 @@ void inPieces(std::array<Operand, N> operands, std::size_t inputs, npy_intp coun
     }
 }
 
-// A matrix of one row is a vector, and so is a matrix that is longer than the library's dimensions, row by row.
+// A matrix of one row is a vector, and so is a matrix that is longer than the library's dimensions, row by
+// row.
 template <std::size_t N, class Vectors, class Matrices>
-void elementwise(const std::array<Operand, N> &operands, std::size_t inputs, npy_intp count,
-                 Vectors vectors, Matrices matrices) {
+void elementwise(const std::array<Operand, N> &operands, std::size_t inputs, npy_intp count, Vectors vectors,
+                 Matrices matrices) {
     const Operand &result = operands[N - 1];
     if (count == 0 || result.rows == 0 || result.columns == 0) {
         return;
@@ -92,8 +93,8 @@ void subtractLoop(char **data, const npy_intp *dims, const npy_intp *steps, void
 
 // The library takes factors by value: where one varies over the stack, every object is a call.
 template <std::size_t N, class OneCall>
-void withFactors(const std::array<Operand, N> &operands, std::initializer_list<std::size_t> factors, npy_intp count,
-                 OneCall oneCall) {
+void withFactors(const std::array<Operand, N> &operands, std::initializer_list<std::size_t> factors,
+                 npy_intp count, OneCall oneCall) {
     const bool constant = std::all_of(factors.begin(), factors.end(),
                                       [&](std::size_t factor) { return operands[factor].object == 0; });
     if (constant || count <= 1) {
@@ -173,10 +174,9 @@ void transposeLoop(char **data, const npy_intp *dims, const npy_intp *steps, voi
     if (tooLong(height, width)) { // a copy, element by element
         return copyStretch(source, operands[1].transposed(), dims[0]);
     }
-    inStretches(operands, 1, dims[0], longestStretch, InPlace::unsafe,
-                [=](const auto &o, npy_intp count) {
-                    Calls<T>::Transpose_ma(o[0], width, height, o[1], count);
-                });
+    inStretches(operands, 1, dims[0], longestStretch, InPlace::unsafe, [=](const auto &o, npy_intp count) {
+        Calls<T>::Transpose_ma(o[0], width, height, o[1], count);
+    });
 }
 
 } // namespace zelmpy

@@ -36,8 +36,9 @@ namespace {
 
 constexpr char f = NPY_FLOAT, d = NPY_DOUBLE, u = NPY_UINT32;
 
-// Integers become the type of the first loop that holds them. With 64-bit float first all of them become 64-bit, as in
-// numpy.linalg. Functions that take numbers have 32-bit float first, so that a Python number widens no array.
+// Integers become the type of the first loop that holds them. With 64-bit float first all of them become
+// 64-bit, as in numpy.linalg. Functions that take numbers have 32-bit float first, so that a Python number
+// widens no array.
 struct Definition {
     const char *name, *suffix, *signature; // the suffix tells universal functions of one name apart
     int inputs, outputs;
@@ -129,8 +130,8 @@ PyMethodDef functions[] = {
     {"library_version", libraryVersion, METH_NOARGS, "The version of libzelm that is loaded."},
     {nullptr, nullptr, 0, nullptr}};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "zelm._core", nullptr, -1, functions,
-                          nullptr,               nullptr,      nullptr, nullptr};
+PyModuleDef definition = {
+    PyModuleDef_HEAD_INIT, "zelm._core", nullptr, -1, functions, nullptr, nullptr, nullptr, nullptr};
 
 bool fillModule(PyObject *module) {
     PyTypeObject *type = makeUniversalType(module);

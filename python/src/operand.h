@@ -78,8 +78,8 @@ Operand denseMatrices(T *data, npy_intp rows, npy_intp columns) {
             numpyType<T>()};
 }
 
-// Reads a loop's arguments in the order of its signature: for each operand its pointer, its stride from object to
-// object and the strides of its core dimensions.
+// Reads a loop's arguments in the order of its signature: for each operand its pointer, its stride from
+// object to object and the strides of its core dimensions.
 class Arguments {
 public:
     Arguments(char **data, const npy_intp *steps, int operands)

@@ -29,7 +29,8 @@ void multiply(const std::array<Operand, 3> &o, npy_intp count) {
         Calls<T>::Mul_mava(a, inner, height, b.column(0), inner, c.column(0), count);
     } else if (height == 1) { // a row times a matrix: the transposed matrix times a column
         const Operand turned = b.transposed();
-        Calls<T>::Mul_mava(turned, inner, width, a.transposed().column(0), inner, c.transposed().column(0), count);
+        Calls<T>::Mul_mava(turned, inner, width, a.transposed().column(0), inner, c.transposed().column(0),
+                           count);
     } else { // the one form whose bounds are the true product's: src2 transposed, with exchanged strides
         Calls<T>::Mul_mamaT(a, width, height, b.transposed(), width, inner, c, count);
     }
@@ -93,16 +94,17 @@ void gaxpyLoop(char **data, const npy_intp *dims, const npy_intp *steps, void *)
     if (tooLong(height, width)) {
         return handOver("gaxpy", {a, x, z, y}, count);
     }
-    inStretches(std::array{a, x, z, y}, 3, count, longestStretch, InPlace::unsafe,
-                [=](const auto &o, npy_intp objects) {
-                    if (o[0].object == 0) {
-                        Calls<T>::Gaxpy_va(o[0], o[1], o[2], o[3], width, height, objects);
-                        return;
-                    }
-                    for (npy_intp k = 0; k < objects; ++k) { // the library has one matrix for all vectors only
-                        Calls<T>::Gaxpy_v(o[0].from(k), o[1].from(k), o[2].from(k), o[3].from(k), width, height);
-                    }
-                });
+    inStretches(
+        std::array{a, x, z, y}, 3, count, longestStretch, InPlace::unsafe,
+        [=](const auto &o, npy_intp objects) {
+            if (o[0].object == 0) {
+                Calls<T>::Gaxpy_va(o[0], o[1], o[2], o[3], width, height, objects);
+                return;
+            }
+            for (npy_intp k = 0; k < objects; ++k) { // the library has one matrix for all vectors only
+                Calls<T>::Gaxpy_v(o[0].from(k), o[1].from(k), o[2].from(k), o[3].from(k), width, height);
+            }
+        });
 }
 
 template <class T>
@@ -112,8 +114,9 @@ void crossLoop(char **data, const npy_intp *dims, const npy_intp *steps, void *)
     const Operand b = next.vector<T>(3);
     const Operand c = next.vector<T>(3);
     if (dims[0] > 0) {
-        inStretches(std::array{a, b, c}, 2, dims[0], longestStretch, InPlace::unsafe,
-                    [](const auto &o, npy_intp count) { Calls<T>::CrossProduct_vava(o[0], o[1], o[2], count); });
+        inStretches(
+            std::array{a, b, c}, 2, dims[0], longestStretch, InPlace::unsafe,
+            [](const auto &o, npy_intp count) { Calls<T>::CrossProduct_vava(o[0], o[1], o[2], count); });
     }
 }
 
@@ -152,9 +155,10 @@ void dotLoop(char **data, const npy_intp *dims, const npy_intp *steps, void *) {
     if (tooLong(length)) {
         return handOver("dot", {x, y, result}, count);
     }
-    inNumbers<T>(std::array{x, y, result}, count, [=](const auto &o, const Operand &numbers, npy_intp objects) {
-        Calls<T>::DotProduct_vava(o[0], o[1], numbers, length, objects);
-    });
+    inNumbers<T>(std::array{x, y, result}, count,
+                 [=](const auto &o, const Operand &numbers, npy_intp objects) {
+                     Calls<T>::DotProduct_vava(o[0], o[1], numbers, length, objects);
+                 });
 }
 
 template <class T>

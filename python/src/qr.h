@@ -39,8 +39,8 @@ void qrLoop(char **data, const npy_intp *dims, const npy_intp *steps, void *) {
                 [&](const auto &o, npy_intp objects) {
                     const Operand h = o[1].transposed();
                     const auto refused = refusedOf(objects, [&](npy_intp k, npy_intp number) {
-                        return Calls<T>::QRDecomp_ma(o[0].from(k), scratch.elements<T>(height), h.from(k), width,
-                                                     height, number);
+                        return Calls<T>::QRDecomp_ma(o[0].from(k), scratch.elements<T>(height), h.from(k),
+                                                     width, height, number);
                     });
                     findTaus<T>(h, o[2], objects);
                     if (!refused.empty()) {
@@ -93,7 +93,8 @@ void qrFormLoop(char **data, const npy_intp *dims, const npy_intp *steps, void *
     }
 }
 
-// Whether the last diagonal element of R is too small to divide by. The library tests all columns but this one.
+// Whether the last diagonal element of R is too small to divide by. The library tests all columns but this
+// one.
 template <class T>
 bool isLastPivotSmall(const Operand &factors, npy_intp k) {
     constexpr double threshold = 1.1920928955078125e-7; // as the library's test of the other columns
@@ -107,7 +108,8 @@ void lstsqStretch(const std::array<Operand, 3> &o, npy_intp count, Scratch &scra
     const npy_intp height = a.rows, width = a.columns;
     const Operand factors = denseMatrices(scratch.elements<T>(count * height * width), height, width);
     std::vector<npy_intp> refused = refusedOf(count, [&](npy_intp k, npy_intp number) {
-        return Calls<T>::QRDecomp_ma(a.from(k), work.elements<T>(height), factors.from(k), width, height, number);
+        return Calls<T>::QRDecomp_ma(a.from(k), work.elements<T>(height), factors.from(k), width, height,
+                                     number);
     });
     for (npy_intp k = 0; height == width && k < count; ++k) {
         if (isLastPivotSmall<T>(factors, k) && !std::binary_search(refused.begin(), refused.end(), k)) {

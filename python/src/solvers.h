@@ -1,5 +1,6 @@
-// Loops of the families that can refuse an object. The library stops a stack at the first object that it refuses and
-// doesn't say which one that is: the stretch is done again, object by object, and the refused ones go to NumPy.
+// Loops of the families that can refuse an object. The library stops a stack at the first object that it
+// refuses and doesn't say which one that is: the stretch is done again, object by object, and the refused
+// ones go to NumPy.
 #pragma once
 
 #include "calls.h"
@@ -84,8 +85,8 @@ void solveStretch(const std::array<Operand, 3> &o, npy_intp n, npy_intp count, S
     std::vector<npy_intp> refused = decompose<T>(a, pivots, factors, n, systems);
     if (shared && refused.empty()) {
         for (npy_intp j = 0; j < (b.rank == 1 ? 1 : b.columns); ++j) {
-            Calls<T>::LUBackSubst_mva(factors, pivots, b.rank == 1 ? b : b.column(j), x.rank == 1 ? x : x.column(j), n,
-                                      count);
+            Calls<T>::LUBackSubst_mva(factors, pivots, b.rank == 1 ? b : b.column(j),
+                                      x.rank == 1 ? x : x.column(j), n, count);
         }
         return;
     }
@@ -95,12 +96,14 @@ void solveStretch(const std::array<Operand, 3> &o, npy_intp n, npy_intp count, S
     npy_intp first = 0;
     for (const npy_intp k : refused) { // those between the refused ones
         if (k > first) {
-            substitute<T>(factors.from(first), pivots + first * n, b.from(first), x.from(first), n, k - first);
+            substitute<T>(factors.from(first), pivots + first * n, b.from(first), x.from(first), n,
+                          k - first);
         }
         first = k + 1;
     }
     if (count > first) {
-        substitute<T>(factors.from(first), pivots + first * n, b.from(first), x.from(first), n, count - first);
+        substitute<T>(factors.from(first), pivots + first * n, b.from(first), x.from(first), n,
+                      count - first);
     }
     if (!refused.empty()) {
         handOver("solve", {a, b, x}, count, &refused);
@@ -140,8 +143,8 @@ void solveVectorLoop(char **data, const npy_intp *dims, const npy_intp *steps, v
     solveAll<T>({a, b, next.vector<T>(n)}, n, dims[0]);
 }
 
-// An object whose pivots are under the library's absolute threshold, but not zero, is decomposed at another scale. By
-// a power of two, which changes no digit: the multipliers stay, and U is scaled back.
+// An object whose pivots are under the library's absolute threshold, but not zero, is decomposed at another
+// scale. By a power of two, which changes no digit: the multipliers stay, and U is scaled back.
 template <class T>
 bool decomposeScaled(const Operand &a, std::uint32_t *pivots, const Operand &factors, npy_intp n) {
     T largest = 0;
@@ -268,8 +271,8 @@ void clearAbove(const Operand &factors, npy_intp n, npy_intp count) {
     }
 }
 
-// The library stores reciprocals on the diagonal. The factor itself has the roots of the pivots, which are computed
-// here as the library computes them.
+// The library stores reciprocals on the diagonal. The factor itself has the roots of the pivots, which are
+// computed here as the library computes them.
 template <class T>
 void restoreDiagonal(const Operand &a, const Operand &factors, npy_intp n, npy_intp count) {
     for (npy_intp k = 0; k < count; ++k) {
@@ -292,19 +295,21 @@ void choleskyLoop(char **data, const npy_intp *dims, const npy_intp *steps, void
     if (count == 0 || n == 0) {
         return;
     }
-    const npy_intp longest = std::min(retriedStretch, Scratch::objects(n * n * static_cast<npy_intp>(sizeof(T))));
-    inStretches(std::array{a, factors}, 1, count, longest, InPlace::unsafe, [n](const auto &o, npy_intp objects) {
-        const auto refused = refusedOf(objects, [&](npy_intp k, npy_intp number) {
-            return Calls<T>::CholeskyDecomp_ma(o[0].from(k), o[1].from(k), n, number);
-        });
-        clearAbove<T>(o[1], n, objects);
-        if constexpr (!stored) {
-            restoreDiagonal<T>(o[0], o[1], n, objects);
-        }
-        if (!refused.empty()) {
-            handOver(stored ? "cho_factor" : "cholesky", {o[0], o[1]}, objects, &refused);
-        }
-    });
+    const npy_intp longest =
+        std::min(retriedStretch, Scratch::objects(n * n * static_cast<npy_intp>(sizeof(T))));
+    inStretches(std::array{a, factors}, 1, count, longest, InPlace::unsafe,
+                [n](const auto &o, npy_intp objects) {
+                    const auto refused = refusedOf(objects, [&](npy_intp k, npy_intp number) {
+                        return Calls<T>::CholeskyDecomp_ma(o[0].from(k), o[1].from(k), n, number);
+                    });
+                    clearAbove<T>(o[1], n, objects);
+                    if constexpr (!stored) {
+                        restoreDiagonal<T>(o[0], o[1], n, objects);
+                    }
+                    if (!refused.empty()) {
+                        handOver(stored ? "cho_factor" : "cholesky", {o[0], o[1]}, objects, &refused);
+                    }
+                });
 }
 
 template <class T>
@@ -341,8 +346,8 @@ void choSolveVectorLoop(char **data, const npy_intp *dims, const npy_intp *steps
     choSolveAll<T>({factors, b, next.vector<T>(n)}, n, dims[0]);
 }
 
-// Runs a loop and leaves no trace of its arithmetic: like numpy.linalg, these functions report what has no result and
-// don't warn of what happened on the way. A loop must not throw.
+// Runs a loop and leaves no trace of its arithmetic: like numpy.linalg, these functions report what has no
+// result and don't warn of what happened on the way. A loop must not throw.
 template <void (*loop)(char **, const npy_intp *, const npy_intp *, void *)>
 void quietly(char **data, const npy_intp *dims, const npy_intp *steps, void *extra) {
     try {

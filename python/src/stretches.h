@@ -42,8 +42,8 @@ inline void copyStretch(const Operand &from, const Operand &to, npy_intp count) 
     }
 }
 
-// An operand that the library cannot work on where it lies: its strides exceed 32 bits, or it is a result that NumPy
-// has let coincide with a source.
+// An operand that the library cannot work on where it lies: its strides exceed 32 bits, or it is a result
+// that NumPy has let coincide with a source.
 struct Staged {
     std::size_t index;
     std::vector<char> buffer;
@@ -78,8 +78,8 @@ void inStagedStretches(const std::array<Operand, N> &operands, std::size_t input
     }
 }
 
-// Calls work(operands, count) for stretches of at most `longest` objects, whose strides all fit 32 bits and whose
-// results (the operands from number `inputs` on) don't coincide with a source unless that is safe.
+// Calls work(operands, count) for stretches of at most `longest` objects, whose strides all fit 32 bits and
+// whose results (the operands from number `inputs` on) don't coincide with a source unless that is safe.
 template <std::size_t N, class Work>
 void inStretches(const std::array<Operand, N> &operands, std::size_t inputs, npy_intp count, npy_intp longest,
                  InPlace inPlace, Work work) {

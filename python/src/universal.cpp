@@ -1,6 +1,6 @@
-// universal(matrices, vectors=None)(function): the function, with a short cut for the common call. Positional arguments
-// only, all of them plain arrays: the universal function is called at once, without a Python frame in between. Anything
-// else, and any call that doesn't come to a result, is the Python function's.
+// universal(matrices, vectors=None)(function): the function, with a short cut for the common call. Positional
+// arguments only, all of them plain arrays: the universal function is called at once, without a Python frame
+// in between. Anything else, and any call that doesn't come to a result, is the Python function's.
 #include "universal.h"
 
 #include "state.h"
@@ -14,8 +14,7 @@ namespace zelmpy {
 namespace {
 
 struct Universal {
-    PyObject_HEAD
-    vectorcallfunc call;
+    PyObject_HEAD vectorcallfunc call;
     PyObject *matrices; // the universal function
     PyObject *vectors;  // the one for a last operand with one dimension less than the first, or null
     PyObject *function;
@@ -46,14 +45,14 @@ PyObject *shortCut(const Universal &universal, PyObject *const *arguments, Py_ss
     return universal.matrices;
 }
 
-PyObject *vectorCall(PyObject *object, PyObject *const *arguments, std::size_t flaggedCount, PyObject *names) {
+PyObject *vectorCall(PyObject *object, PyObject *const *arguments, std::size_t flaggedCount,
+                     PyObject *names) {
     const Universal &universal = *self(object);
     if (names == nullptr) {
         const Py_ssize_t count = PyVectorcall_NARGS(flaggedCount);
         PyObject *direct = shortCut(universal, arguments, count);
         if (direct != nullptr) {
-            PyObject *result =
-                callUniversal(direct, arguments, static_cast<std::size_t>(count), nullptr);
+            PyObject *result = callUniversal(direct, arguments, static_cast<std::size_t>(count), nullptr);
             if (result != nullptr && state().refused == 0) {
                 return result;
             }
@@ -114,8 +113,8 @@ void dealloc(PyObject *object) {
     Py_DECREF(type);
 }
 
-// As a class's attribute it is a plain callable, like a universal function of NumPy. That it is a descriptor at all makes
-// help() take it for the function that it is.
+// As a class's attribute it is a plain callable, like a universal function of NumPy. That it is a descriptor
+// at all makes help() take it for the function that it is.
 PyObject *get(PyObject *object, PyObject *, PyObject *) {
     return Py_NewRef(object);
 }

@@ -73,9 +73,7 @@ def through_dask(array, chunk, arrays, options):
     dtype = np.result_type(*(getattr(a, "dtype", type(a)) for a in arrays), np.float32)
     dtype = np.dtype(np.float32 if dtype == np.float32 else np.float64)
     dtypes = (dtype, np.dtype(np.uint32)) if chunk.name == "lu_factor" else (dtype,) * chunk.nout
-    return array.__array_ufunc__(
-        chunk, "__call__", *arrays, output_dtypes=dtypes[0] if chunk.nout == 1 else dtypes, **options
-    )
+    return array.__array_ufunc__(chunk, "__call__", *arrays, output_dtypes=dtypes[0] if chunk.nout == 1 else dtypes, **options)
 
 
 def plain(name, function, arrays, out, options, signature=None):
@@ -89,14 +87,15 @@ def plain(name, function, arrays, out, options, signature=None):
 
 
 def refusing(name, function, arrays, out, options, singular, message=SINGULAR):
-    """A function that may have no result for an object."""
+    """A function of square matrices, or one that may have no result for an object (singular is not None)."""
     if out is not None:
         options["out"] = out
-    if singular not in ("raise", "nan"):
+    if singular not in ("raise", "nan", None):
         raise ValueError(f"singular must be 'raise' or 'nan', not {singular!r}")
     lazy = dask_array(arrays)
     if lazy is not None:
-        return through_dask(lazy, Chunk(name, function.signature, {"singular": singular}), arrays, options)
+        chosen = {} if singular is None else {"singular": singular}
+        return through_dask(lazy, Chunk(name, function.signature, chosen), arrays, options)
     try:
         result = _core.call(function, *arrays, **options)
     except ValueError:

@@ -6,12 +6,7 @@ from zelm import _core
 from zelm._call import NOT_POSITIVE, dask_array, is_vector, plain, refusing, universal
 
 # Dask reads signatures without optional dimensions.
-_ELEMENTWISE = {0: "()", 1: "(n)", 2: "(m,n)"}
-
-
-def _elementwise_signature(*arrays):
-    core = _ELEMENTWISE[min(2, *(np.ndim(array) for array in arrays))]
-    return f"{core},{core}->{core}"
+_ELEMENTWISE = "(),()->()"
 
 
 @universal(_core.add)
@@ -26,7 +21,7 @@ def add(x1, x2, /, out=None, **options):
 
     See also: numpy.add. Library: ``zelmAdd_vava``, ``zelmAdd_mama``.
     """
-    return plain("add", _core.add, (x1, x2), out, options, _elementwise_signature(x1, x2))
+    return plain("add", _core.add, (x1, x2), out, options, _ELEMENTWISE)
 
 
 @universal(_core.subtract)
@@ -41,14 +36,14 @@ def subtract(x1, x2, /, out=None, **options):
 
     See also: numpy.subtract. Library: ``zelmSub_vava``, ``zelmSub_mama``.
     """
-    return plain("subtract", _core.subtract, (x1, x2), out, options, _elementwise_signature(x1, x2))
+    return plain("subtract", _core.subtract, (x1, x2), out, options, _ELEMENTWISE)
 
 
 @universal(_core.scale)
 def scale(x, factor, /, out=None, **options):
-    """Vectors or matrices times a number, which may vary over the stack.
+    """Matrices times a number, which may vary over the stack.
 
-    Signature ``(m?,n?),()->(m?,n?)``.
+    Signature ``(m?,n?),()->(m?,n?)``. Vectors with a number each are matrices of one row: ``x[:, np.newaxis, :]``.
 
     >>> zelm.scale([[1.0, 2.0], [3.0, 4.0]], 2.0)
     array([[2., 4.],
@@ -56,7 +51,7 @@ def scale(x, factor, /, out=None, **options):
 
     See also: numpy.multiply. Library: ``zelmMul_vac``, ``zelmMul_mac``.
     """
-    core = _ELEMENTWISE[min(2, np.ndim(x))]
+    core = ("()", "(n)", "(m,n)")[min(2, np.ndim(x))]
     return plain("scale", _core.scale, (x, factor), out, options, f"{core},()->{core}")
 
 
@@ -231,7 +226,7 @@ def det(a, /, out=None, **options):
 
     See also: numpy.linalg.det. Library: ``zelmDet_ma``.
     """
-    return refusing("det", _core.det, (a,), out, options, "nan")
+    return refusing("det", _core.det, (a,), out, options, None)
 
 
 @universal(_core.inv)

@@ -151,9 +151,7 @@ def test_lu(dtype, n):
     same_bits(lu, factors)
     same_bits(piv, pivots)
     for j in range(2):
-        Function("zelmLUBackSubst_mava", dtype, f"{n}x{n}")(
-            factors, Packed(pivots), b[..., j], x[..., j], COUNT
-        )
+        Function("zelmLUBackSubst_mava", dtype, f"{n}x{n}")(factors, Packed(pivots), b[..., j], x[..., j], COUNT)
     same_bits(zelm.lu_solve((lu, piv), b), x)
     same_bits(zelm.lu_solve((lu, piv), b[..., 0]), x[..., 0])
     same_bits(zelm.solve(a, b), x)

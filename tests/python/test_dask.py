@@ -89,13 +89,7 @@ def test_xarray(dask):
     if dims:
         a, b = a.chunk(dims), b.chunk(dims)
     x = xr.apply_ufunc(
-        zelm.solve,
-        a,
-        b,
-        input_core_dims=[["i", "j"], ["j"]],
-        output_core_dims=[["i"]],
-        dask=dask,
-        output_dtypes=[float],
+        zelm.solve, a, b, input_core_dims=[["i", "j"], ["j"]], output_core_dims=[["i"]], dask=dask, output_dtypes=[float]
     )
     assert x.dims == ("time", "i") and (x.chunks is not None) == (dask == "parallelized")
     np.testing.assert_array_equal(x.compute(), zelm.solve(A, V))

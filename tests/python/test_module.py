@@ -78,7 +78,7 @@ def test_threads_give_the_same_bits():
 
 def test_the_interpreters_lock_is_released():
     """Another thread counts while one long call runs, although no thread is ever asked to let go."""
-    a = np.broadcast_to(layouts.regular(1, (6, 6), np.float64), (400000, 6, 6))
+    a = np.broadcast_to(layouts.regular(1, (6, 6), np.float64), (4000000, 6, 6))
     counted, done = [0], threading.Event()
 
     def count():
@@ -92,13 +92,13 @@ def test_the_interpreters_lock_is_released():
     try:
         thread.start()
         before = counted[0]
-        zelm.solve(a, a[:, 0])
+        zelm.det(a)
         during = counted[0] - before
     finally:
         done.set()
         sys.setswitchinterval(old)
         thread.join()
-    assert during > 100
+    assert during > 10
 
 
 def test_memory_does_not_grow():

@@ -33,11 +33,7 @@ FUNCTIONS = {
     ),
     "cholesky": (zelm.cholesky, np.linalg.cholesky, "Matrix is not positive definite"),
     "cho_factor": (zelm.cho_factor, None, "Matrix is not positive definite"),
-    "lu_factor": (
-        lambda a, **options: zelm.lu_factor(a, **options)[0],
-        None,
-        "Singular matrix",
-    ),
+    "lu_factor": (lambda a, **options: zelm.lu_factor(a, **options)[0], None, "Singular matrix"),
 }
 ALL = pytest.mark.parametrize("name", FUNCTIONS)
 
