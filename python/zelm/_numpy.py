@@ -120,8 +120,9 @@ def gaxpy(at, a, x, z, result):
     return 0
 
 
-def _dot_in_pieces(x, y, piece=1 << 20):
-    return sum(float(np.dot(x[first : first + piece], y[first : first + piece])) for first in range(0, len(x), piece))
+def _dot_in_pieces(x, y, length=1 << 16):
+    pieces = (slice(first, first + length) for first in range(0, len(x), length))
+    return sum(float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece]))) for piece in pieces)
 
 
 def dot(at, x, y, result):
