@@ -59,9 +59,7 @@ class BuildExt(build_ext):
         libraries = next(prefix.glob("lib*/**/libzelmx64.so")).parent
         for extension in self.extensions:
             extension.include_dirs.append(str(prefix / "include"))
-            extension.library_dirs.append(str(libraries))
-            extension.libraries.append("zelmx64")
-            extension.extra_link_args.append("-Wl,-rpath,$ORIGIN/lib")
+            extension.extra_link_args += [f"-L{libraries}", "-lzelmx64", "-Wl,-rpath,$ORIGIN/lib"]
         return prefix / "share/zelm/zelm-grid.json", libraries
 
     def carry(self, libraries):

@@ -127,7 +127,7 @@ PyMethodDef functions[] = {
     {"call", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(call)), METH_FASTCALL | METH_KEYWORDS,
      "call(function, *arguments, **options): calls a universal function; raises what its loops have kept."},
     {"refused", refused, METH_NOARGS, "The number of objects without a result in this thread's last call."},
-    {"library_version", libraryVersion, METH_NOARGS, "The version of libzelm that is loaded."},
+    {"libzelm_version", libraryVersion, METH_NOARGS, "The version of libzelm that is loaded."},
     {nullptr, nullptr, 0, nullptr}};
 
 PyModuleDef definition = {

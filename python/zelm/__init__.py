@@ -6,7 +6,7 @@ Arrays may lie as they do: any strides, any broadcasting, nothing is copied.
 
 from numpy.linalg import LinAlgError
 
-from zelm._core import library_version
+from zelm._core import libzelm_version
 from zelm._functions import (
     add,
     axpy,
@@ -50,7 +50,7 @@ __all__ = [
     "gaxpy",
     "inv",
     "lcomb",
-    "library_version",
+    "libzelm_version",
     "lstsq",
     "lu_factor",
     "lu_solve",

@@ -120,7 +120,7 @@ def gaxpy(at, a, x, z, result):
     return 0
 
 
-def _dot_in_pieces(x, y, length=1 << 16):
+def _dot_in_pieces(x, y, length=1 << 13):
     pieces = (slice(first, first + length) for first in range(0, len(x), length))
     return sum(float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece]))) for piece in pieces)
 

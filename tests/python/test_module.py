@@ -17,7 +17,7 @@ import zelm
 import zelm._core
 import zelm._functions
 
-FUNCTIONS = [name for name in zelm.__all__ if name not in ("LinAlgError", "library_version")]
+FUNCTIONS = [name for name in zelm.__all__ if name not in ("LinAlgError", "libzelm_version")]
 
 
 def test_examples_of_the_docstrings():
@@ -46,7 +46,7 @@ def test_type_hints_name_the_same_functions():
 
 
 def test_version():
-    assert zelm.library_version() == "v4.1"
+    assert zelm.libzelm_version() == "v4.1"
 
 
 def test_the_library_is_found_beside_the_module():
