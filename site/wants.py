@@ -155,6 +155,7 @@ GROUPS = {
             "A · x + y",
             "Affine map",
             "gemv, sgemv, dgemv, affine, affine map, rigid motion, rigid body, transform points, point cloud, rotate and translate, state update, control, registration",
+            "One y for all x: its object stride is 0. P has no such stride, PS2 has.",
         ),
         Want(
             "Mul",
@@ -272,6 +273,7 @@ GROUPS = {
             "A = I",
             "Identity matrices",
             "identity, eye, laset, reset, initialise, initialize, unit matrix, ones on the diagonal",
+            "One object per call: the ones run on from object to object, and behind the memory of the later ones.",
         ),
     ),
     "Beside the grid": (

@@ -207,6 +207,9 @@ function warning(member) {
         element("p", {}, `${capital(departure || bounds)}${seenWhere(departure || bounds, when)}.`));
     if (instead) {
         box.append(element("p", {}, "Use instead: ", nameLink(instead.name), instead.note ? ` (${instead.note})` : ""));
+        if (rank === "values") {
+            box.append(element("p", {}, element("a", { href: "docs/before-you-choose.html" }, "Before you choose"), " shows what it does."));
+        }
         const call = insteadCall(member, state.elements, state.count);
         if (call) {
             box.append(code(call, "The call to use instead"));

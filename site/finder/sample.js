@@ -158,11 +158,15 @@ function stride(element, index) {
 // What an element cannot be in its layout, in words; empty where it can.
 function complaint(member, operand, element) {
     const missing = indicesOf(member, operand).filter((index) => !new RegExp(`\\b${index}\\b`).test(element));
+    const texts = { k: "object k", i: "row i", j: "element j" };
     if (element.includes(",") || missing.length === 0) {
         return layoutComplaint(operand, element.trim());
     }
-    const texts = { k: "object k: without it every object is the same one", i: "row i", j: "element j" };
-    return `Write ${missing.map((index) => texts[index]).join(", and ")}.`;
+    if (missing[0] === "k" && missing.length === 1 && operand.name !== "dst") {
+        return operand.layout === "P" ? "P steps on from object to object. One for all objects: choose PS2, whose object stride may be 0."
+            : "One for all objects.";
+    }
+    return `Write ${missing.map((index) => texts[index]).join(" and ")}.`;
 }
 
 function layoutComplaint(operand, element) {
@@ -235,7 +239,7 @@ function argumentTexts(member, data, elements, count) {
             case "rowStride": return stride(element, "i");
             case "elemStride": return stride(element, "j");
             case "dimension": return data.given[argument.name];
-            case "count": return count;
+            case "count": return countFor(member, count);
             default: return argument.name;
         }
     });
@@ -289,6 +293,11 @@ function callHead(member) {
     }
     return member.operation === "GetLibVersion" ? `const ZelmLibVersion *version = ${member.name}`
         : `${member.result} status = ${member.name}`;
+}
+
+// One call for many objects, but for identities, whose ones run on from object to object.
+function countFor(member, count) {
+    return member.operation === "LoadIdentity" ? "1" : count;
 }
 
 // The sample in two parts: the data as this page imagines them, and what the caller writes.

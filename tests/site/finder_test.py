@@ -258,7 +258,7 @@ class Finder(unittest.TestCase):
         for text, complaint in (
             ("p[k].x[j].value", "adjacent"),
             ("list[k]->x[j]", "choose L"),
-            ("p[j]", "object k"),
+            ("p[j]", "One for all"),
             ("p[k][j]", ""),
         ):
             self.fill("src1", text)
