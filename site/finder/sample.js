@@ -102,7 +102,16 @@ const ONE_MATRIX_DATA = {
     P: ["T *NAME[R][C]", "*NAME[i][j]"], PS2: ["T *NAME[R][C]", "*NAME[i][j]"],
 };
 
+// LoadIdentity takes no row stride below the length of a row.
+const IDENTITY_DATA = {
+    S2: ["struct { T value; int other; } NAME[COUNT][R][C]", "NAME[k][i][j].value"],
+    LS2: ["struct { int id; struct { T value; int other; } m[R][C]; } *NAME[COUNT]", "NAME[k]->m[i][j].value"],
+};
+
 function dataTemplate(member, operand) {
+    if (member.operation === "LoadIdentity" && IDENTITY_DATA[operand.layout]) {
+        return IDENTITY_DATA[operand.layout];
+    }
     const many = isArray(member);
     const matrix = operand.kind[0] === "m" || (operand.kind === "packed" && member.descriptor[0] === "m");
     if (operand.kind === "scalar") {
