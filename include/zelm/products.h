@@ -4584,9 +4584,11 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1Ro
 /**
  * @defgroup gaxpy Product of a matrix and a vector, plus a vector
  *
- * src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in
- * ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with the
- * first product and have an order of their own (docs/products.md).
+ * src2 has width elements, src3 and dst have height. In the va forms src3 is an array: one vector for all objects
+ * has an object stride of 0 (standard, S2, PS2; not P), or its address count times in a table (L, LS2). src3 is
+ * added to the finished sum. Sums run from +0 in ascending order, each partial sum stored in dst, but in the
+ * fixed-size standard and L forms, which begin with the first product and have an order of their own
+ * (docs/products.md).
  */
 /** @{ */
 

@@ -48,9 +48,11 @@ typedef int32_t ZelmStatus;
 
 /** The call completed, or there was nothing to do. */
 #define ZELM_OK 0
-/** A dimension is zero, or the dimensions of the operands disagree. */
+/** A dimension is zero; in the products of Mul also: two dimensions that must be equal differ; in Extract,
+ * LoadIdentity, CholeskyDecomp and CholeskyBackSubst also: count is zero. */
 #define ZELM_ERR_SIZE (-6)
-/** A pointer, a table of pointers or an entry of such a table is null. */
+/** A pointer, a table of pointers or an entry of such a table is null. Copy, Extract, LoadIdentity and the
+ * Cholesky families do not test entries. */
 #define ZELM_ERR_NULL_PTR (-8)
 /** A pivot or divisor fails the threshold of its family. */
 #define ZELM_ERR_DIV_BY_ZERO (-10)
