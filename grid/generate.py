@@ -247,7 +247,8 @@ def warning(member):
         return ""
     note = departure.note.partition(";")[0]
     when = departure.when + ", " if departure.when.startswith("where") else ""
-    sentence = f"{when}{note}: use {departure.instead.name}, see docs/before-you-choose.md"
+    form = f"use {departure.instead.name}" if departure.instead.name != member.name else "name other dimensions"
+    sentence = f"{when}{note}: {form}, see docs/before-you-choose.md"
     lines = textwrap.wrap(sentence, WIDTH - 10, break_long_words=False, break_on_hyphens=False)
     return f"{macro}(" + "\n        ".join(f'"{line} "' for line in lines[:-1]) + "\n        " * (len(lines) > 1) \
         + f'"{lines[-1]}")\n'

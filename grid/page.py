@@ -277,7 +277,8 @@ Another form gives the product of every shape, with the same bits, as its sums h
   exchanged, and the strides and dimensions of all three.
 - **Two arrays, `mama` and its transposes**: the bounds of `mamaT` are free in `S2` and `LS2`, as the width of its `src1` is
   used in the size test only. Pass the result's columns as `src1Width` and `src2Width`, its rows as `src1Height`, the number
-  of terms as `src2Height`, and exchange the strides of `src2` where it is not transposed.
+  of terms as `src2Height`, and exchange the strides of `src2` where it is not transposed. This call warns as well, since
+  the compiler cannot know; or multiply a column at a time by `mava`, as [the filter recipe](recipes/kalman.md) does.
 - **In tables (`P`, `PS2`)**: `mm_P`, `mam_P`, `mam_PS2` and the forms with a vector, with a table of the transpose's
   entries, row by row. For two arrays there is none: copy both to `S2`.
 

@@ -2477,7 +2477,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5(const float *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst,
@@ -2544,7 +2544,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
-ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -2622,7 +2622,7 @@ ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are 
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
-ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst,
@@ -2693,7 +2693,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
-ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,

@@ -5,6 +5,7 @@
 """
 
 import json
+import re
 import sys
 import unittest
 from pathlib import Path
@@ -184,6 +185,12 @@ class Sentences(unittest.TestCase):
             for f in self.functions:
                 if f.size <= size:
                     self.assertGreater(self.results[situation][f.name][0], -1000, f"{situation} {f.name}")
+
+    def test_every_name_in_the_documents_is_one_or_begins_one(self):
+        exported = (GENERATED / "exports.txt").read_text().split()
+        for page in [SOURCE / "README.md", *(SOURCE / "docs").rglob("*.md")]:
+            for name in set(re.findall(r"\b(?:zelm[A-Z]|a6_)\w+", page.read_text())):
+                self.assertTrue(any(export.startswith(name.rstrip("_")) for export in exported), f"{page.name}: {name}")
 
     def test_nine_members_fault_where_a_later_object_is_not_aligned(self):
         faulting = {name for name, (status, _) in self.results["mixture"].items() if status < -1000}
