@@ -65,19 +65,6 @@ ZELM_INLINE ZelmStatus single(const A &a, const B &b, const D &d, Shape shape) {
 
 // ---- arrays
 
-// Whether a transposed source lies apart from the results, so that objects may be read ahead of what is
-// written. All other sources are read element by element as the results are written.
-template <typename S, typename D, typename Shape>
-ZELM_INLINE bool mayReadAhead(const S &s, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (!kIsTransposed<S>)
-        return true;
-    else if constexpr (D::isList || !Shape::isFixed)
-        return false;
-    else
-        return count <= kMostObjectsInRange &&
-               isUntouched(s, shape.columns(), shape.rows(), d, shape.rows(), shape.columns(), count);
-}
-
 // One instance serves the standard form and the forms with strides that turn out to be dense. Operands by
 // value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
@@ -108,12 +95,12 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
 }
 
 // The layouts with strides whose operands turn out to be plainer ones: an invariant is read anew in all of
-// them.
+// them. A transposed operand of adjacent elements is gathered as a strided one is, which gains nothing.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus plainestObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (kHavePlainer<D>) {
-        if (isPlainer(a) && isPlainer(b) && isPlainer(d) && mayReadAhead(a, d, shape, count) &&
-            mayReadAhead(b, d, shape, count))
+    constexpr bool gathers = !D::isTable && (kIsTransposed<A> || kIsTransposed<B>);
+    if constexpr (kHavePlainer<D> && !gathers) {
+        if (isPlainer(a) && isPlainer(b) && isPlainer(d))
             return objects<Op, Invariant::ReadAnew>(plainest(a), plainest(b), plainest(d), shape, count);
     }
     return objects<Op, reading>(a, b, d, shape, count);

@@ -34,7 +34,7 @@ ZELM_INLINE Same<T> inputAtEntry(const Constant<T> &constant, Address) {
 // Whether no result of the positions lies in another position of the source. In the same position a run gives
 // what the loop over objects gives, however the two overlap; an invariant is out of reach or not.
 template <typename S, typename T, typename Shape>
-bool isOutOfReachOf(const S &s, const PackedTableArray<T> &d, Shape shape, std::uint32_t count) {
+bool isOutOfReachOf(S s, PackedTableArray<T> d, Shape shape, std::uint32_t count) {
     if constexpr (!S::isTable) {
         return true;
     } else {
@@ -71,10 +71,11 @@ bool isOutOfReachOf(const S &s, const PackedTableArray<T> &d, Shape shape, std::
 constexpr std::uint32_t kPerPositionCount = 16;
 constexpr Address kPerPositionElements = 36;
 
-// False, with nothing written, where the objects are to be done one by one.
+// False, with nothing written, where the objects are to be done one by one. One instance serves P, and PS2
+// where its objects are adjacent.
 template <typename Op, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE bool runPerPosition(const A &a, const B &b, const PackedTableArray<T> &d, Shape shape,
-                                std::uint32_t count) {
+__attribute__((noinline)) bool runPerPosition(A a, B b, PackedTableArray<T> d, Shape shape,
+                                              std::uint32_t count) {
     if (count < kPerPositionCount || count > kMostObjectsInRange || shape.elements() > kPerPositionElements)
         return false;
     if (!positionsAreApart(d.object(0), static_cast<unsigned>(shape.elements()),

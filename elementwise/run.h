@@ -148,14 +148,41 @@ struct TransposedStream {
     static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
+// An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
+template <typename V, typename Input>
+ZELM_INLINE const Input &inRegisters(const Input &input) {
+    return input;
+}
+
+template <typename V, unsigned number>
+struct HeldPacks {
+    V held[number];
+    template <typename>
+    ZELM_INLINE V pack(Address, unsigned p) const {
+        return held[p % number];
+    }
+};
+
+template <typename V, typename T, unsigned N>
+requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE auto inRegisters(const HeldVector<T, N> &input) {
+    constexpr unsigned number = HeldVector<T, N>::template period<V>;
+    HeldPacks<V, number> packs;
+#pragma GCC unroll 3
+    for (unsigned p = 0; p < number; ++p)
+        packs.held[p] = input.template pack<V>(0, p);
+    return packs;
+}
+
 // Whole packs from element i on, the widest first; the number of the first element that is left.
 template <typename Op, typename V, typename A, typename B>
 ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
     constexpr unsigned period = std::lcm(A::template period<V>, B::template period<V>);
     constexpr unsigned round = period < 3 ? 4 : period, lanes = kLanesOf<V>;
+    const auto &first = inRegisters<V>(a);
+    const auto &second = inRegisters<V>(b);
     const auto step = [&](Address at, unsigned p) __attribute__((always_inline)) {
         storePack(dst + at * sizeof(ElementOf<V>),
-                  Op::apply(a.template pack<V>(at, p), b.template pack<V>(at, p)));
+                  Op::apply(first.template pack<V>(at, p), second.template pack<V>(at, p)));
     };
     if (!a.isCloselyBehind(dst, sizeof(V)) && !b.isCloselyBehind(dst, sizeof(V))) {
         for (; length - i >= round * lanes; i += round * lanes) {

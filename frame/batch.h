@@ -26,7 +26,7 @@ enum class InPlace { No, Yes };
 template <typename S>
 struct Source {
     using Operand = S;
-    const S &operand;
+    S operand; // a copy, so that what a real function is handed is not what loops read
     unsigned rows, columns;
     InPlace inPlace;
 };
@@ -39,7 +39,7 @@ ZELM_INLINE Source<S> reads(const S &operand, unsigned rows, unsigned columns,
 template <typename D>
 struct Result {
     using Operand = D;
-    const D &operand;
+    D operand;
     unsigned rows, columns;
 };
 template <typename D>
@@ -148,12 +148,44 @@ ZELM_INLINE Range rangeOfStretch(const Touched &touched, std::uint32_t first, st
     }
 }
 
+// Whether the objects of a list miss a range of bytes: whether all entries lie in a window, the first one
+// deciding whether that is the one above the range or the one below it. No null entry lies in either.
+template <typename S>
+ZELM_INLINE bool listMisses(const Source<S> &s, const Range &target, std::uint32_t first,
+                            std::uint32_t last) {
+    constexpr std::int64_t end = sizeof(Address) == 4 ? std::int64_t{1} << 32 : std::int64_t{1} << 62;
+    const Extent extent = extentOf(s.operand, s.rows, s.columns);
+    const std::int64_t offset = signedDistance(s.operand.shift) + signedDistance(extent.lowest);
+    const std::int64_t bytes = static_cast<std::int64_t>(extent.bytes);
+    const bool above = rangeFrom(addressOf(s.operand.table[first]), 0).low + offset >= target.high;
+    std::int64_t low = (above ? target.high : 1) - offset;
+    const std::int64_t high = (above ? end : target.low) - bytes - offset;
+    low = low < 1 ? 1 : low;
+    if (high < low || high >= end)
+        return false;
+    const Address from = static_cast<Address>(low), width = static_cast<Address>(high - low);
+    bool outside = false;
+    for (std::uint32_t k = first; k < last; ++k)
+        outside |= addressOf(s.operand.table[k]) - from > width;
+    return !outside;
+}
+
+template <typename S>
+ZELM_INLINE bool stretchMisses(const Source<S> &s, const Range &target, std::uint32_t first,
+                               std::uint32_t last) {
+    if constexpr (S::isList) {
+        return listMisses(s, target, first, last);
+    } else {
+        const Range source = rangeOfStretch(s, first, last);
+        return isKnown(source) && areDisjoint(source, target);
+    }
+}
+
 // Whether nothing of the stretch lies in anything that it writes.
 template <typename Memory, typename... S>
 ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const Range &target,
                                 const Memory &buffer, const Source<S> &...s) {
-    const auto misses = [&](const Range &source) { return isKnown(source) && areDisjoint(source, target); };
-    if (!isKnown(target) || !(misses(rangeOfStretch(s, first, last)) && ...))
+    if (!isKnown(target) || !(stretchMisses(s, target, first, last) && ...))
         return false;
     if constexpr (!Memory::isNone) {
         const Range range = buffer.range(first, last);

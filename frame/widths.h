@@ -31,6 +31,10 @@ constexpr Grouping groupingOf(Grouping wide) {
     return kLoadsInGroups<Array> ? wide : kOneAtATime;
 }
 
+// Lists of strided objects: their null tests alone take as long as a group of one gains, if it does little.
+template <typename Array>
+constexpr bool kGainsByGroups = kLoadsInGroups<Array> || !Array::isList;
+
 // A few operations per element: dot and cross products, norms.
 constexpr Grouping kShortKernels = {kWidestBytes, 8};
 

@@ -55,6 +55,10 @@ class Family:
     statuses: tuple
     overlap: str
     notes: str = ""
+    # What a status means here, where it is not what it means in most families.
+    meanings: dict = field(default_factory=dict)
+    # Whether a count of zero is ZELM_ERR_SIZE, in fixed-size forms too.
+    refuses_empty: bool = False
 
 
 @dataclass(frozen=True)
@@ -70,6 +74,8 @@ class Row:
     call: tuple = ()
     # Words that are signed in this row, each with the layouts in which they are.
     signed: dict = field(default_factory=dict)
+    # Statuses of the family that this row never returns.
+    never: tuple = ()
 
     @property
     def is_array(self):
@@ -79,6 +85,14 @@ class Row:
 OK, SIZE, NULL, DIV, POS = (
     "ZELM_OK", "ZELM_ERR_SIZE", "ZELM_ERR_NULL_PTR", "ZELM_ERR_DIV_BY_ZERO", "ZELM_ERR_NOT_POS_DEF")
 PLAIN = (OK, NULL, SIZE)
+UNTESTED_ENTRIES = "a pointer or a table is null (entries of tables are not tested)"
+DISAGREEING = {SIZE: "a dimension is zero, or two that must be equal differ (run-time forms)"}
+
+ROOT_NOTES = (
+    "The 32f forms with a size in the name, in the standard and L layouts, take the root from the processor's approximate "
+    "reciprocal root and one Newton step, without a test: a zero {0} gives NaN, and so does a sum of squares that is "
+    "infinite. All other forms take the correctly rounded root, 0 of a zero {0}: the form with an element stride (S2, LS2) "
+    "serves where zeros can occur. Squares are not scaled against overflow. Orders of sums: docs/vector.md.")
 
 FAMILIES = {family.name: family for family in (
     Family("vector-add-sub", "elementwise", "Addition and subtraction of vectors", "elementwise/elementwise.h", PLAIN,
@@ -96,9 +110,13 @@ FAMILIES = {family.name: family for family in (
     Family("dot-product", "vector", "Dot product", "vector/dot_product.h", PLAIN, "dst is written once per object."),
     Family("cross-product", "vector", "Cross product", "vector/cross_product.h", (OK, NULL),
            "dst may be a source in the standard and L layouts."),
-    Family("l2-norm", "vector", "Euclidean length", "vector/l2_norm.h", PLAIN, "dst is written once per object."),
-    Family("frobenius-norm", "vector", "Frobenius norm", "vector/frobenius_norm.h", PLAIN, "dst is written once per object."),
-    Family("trace", "vector", "Trace", "vector/trace.h", PLAIN, "dst must not lie on the diagonal of src."),
+    Family("l2-norm", "vector", "Euclidean length", "vector/l2_norm.h", PLAIN, "dst is written once per object.",
+           ROOT_NOTES.format("vector")),
+    Family("frobenius-norm", "vector", "Frobenius norm", "vector/frobenius_norm.h", PLAIN,
+           "dst is written once per object.", ROOT_NOTES.format("matrix")),
+    Family("trace", "vector", "Trace", "vector/trace.h", PLAIN, "dst must not lie on the diagonal of src.",
+           "Sums run down the diagonal. All forms but the fixed-size standard ones set dst to 0 and add in place. Arrays in P "
+           "and PS2 test entries 0 to n-1 of srcTable, and read those of the diagonal, i*n + i, without a test."),
     Family("matrix-vector-product", "products", "Product of a matrix and a vector", "products/matrix_vector.h", PLAIN,
            "dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single or "
            "both arrays. Otherwise dst must overlap no source.",
@@ -108,7 +126,8 @@ FAMILIES = {family.name: family for family in (
            "src1Width of src1[i][t] * src2[t], of src1[t][i] * src2[t] where src1 is used transposed. The stored element "
            "(r, c) is at entry r*src1Width + c of a table, r*src1Height + c where it is used transposed. Sums run from "
            "+0 in ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product "
-           "and have an order of their own in the standard and L layouts (docs/products.md)."),
+           "and have an order of their own in the standard and L layouts (docs/products.md).",
+           DISAGREEING),
     Family("matrix-product", "products", "Product of two matrices", "products/matrix_matrix.h", PLAIN,
            "dst must overlap no source in the run-time forms; some fixed-size forms work in place (docs/products.md).",
            "For square matrices the product. In the run-time forms the widths and heights are those of the operands as "
@@ -119,10 +138,13 @@ FAMILIES = {family.name: family for family in (
            "that fit, and the other descriptors that of square ones. The stored element (r, c) of a source is at entry "
            "r*Width + c of its table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of "
            "dstTable as many entries are tested as the product of the two dimensions named first. Sums run from +0 in "
-           "ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product."),
+           "ascending t, each partial sum stored in dst. In the fixed-size forms they begin with the first product.",
+           DISAGREEING),
     Family("gaxpy", "products", "Product of a matrix and a vector, plus a vector", "products/matrix_vector.h", PLAIN,
            "dst must overlap no source.",
-           "src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in "
+           "src2 has width elements, src3 and dst have height. In the va forms src3 is an array: one vector for all objects "
+           "has an object stride of 0 (standard, S2, PS2; not P), or its address count times in a table (L, LS2). src3 is "
+           "added to the finished sum. Sums run from +0 in "
            "ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with "
            "the first product and have an order of their own (docs/products.md)."),
     Family("determinant", "solvers", "Determinant", "solvers/determinant.h", PLAIN,
@@ -140,10 +162,13 @@ FAMILIES = {family.name: family for family in (
            "ZELM_ERR_DIV_BY_ZERO; in a cofactor it makes the element of the inverse zero. 3x3 and 4x4: the adjugate times "
            "the reciprocal of the determinant. 5x5 and 6x6: pivots searched in the first rows and a Schur complement. S2, "
            "P, PS2, LS2: ZELM_ERR_DIV_BY_ZERO if a determinant lies in -b < det < b, b = 1e-7 (32f) or 1e-15 (64f); "
-           "column 5 is never searched. Standard, L: exact tests; reciprocals of 32f are the processor's approximation "
+           "column 5 is never searched. Standard, L: 3x3 and 4x4 test det = 0 exactly, but 64f 3x3, which tests 1 / det = 0: "
+           "there a det of 0 gives infinities and NaN with ZELM_OK. 5x5 and 6x6 test their pivots against the band, and "
+           "what remains exactly (docs/inverse.md). Reciprocals of 32f are the processor's approximation "
            "with one Newton step. A NaN is never singular in the fixed forms. A singular matrix ends the call: earlier "
            "objects are complete, its own dst and later ones are untouched (but for the standard and L forms of 32f 5x5 "
-           "and 6x6, which leave working rows in row 0, in 6x6 rows 0 and 1)."),
+           "and 6x6, which leave working rows in row 0, in 6x6 rows 0 and 1).",
+           {DIV: "a matrix is singular by the test of its form"}),
     Family("lu-decomposition", "solvers", "LU decomposition", "solvers/lu_decomposition.h", PLAIN + (DIV,),
            "dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided "
            "for.",
@@ -169,14 +194,17 @@ FAMILIES = {family.name: family for family in (
            "untouched. The 32f forms compute 1 / sqrt(d) in 64-bit float and round it once, but in P and PS2 in 32-bit "
            "float. In S2 and LS2 element strides are rounded down to whole elements where n is 3 to 6. Table entries "
            "are not tested. A count of zero is ZELM_ERR_SIZE; where count is signed, one below zero does nothing. An "
-           "object of an array whose start comes to null ends the call there with ZELM_ERR_NULL_PTR."),
+           "object of an array whose start comes to null ends the call there with ZELM_ERR_NULL_PTR.",
+           {NULL: "a pointer or a table is null, or an object of an array starts at null (entries of tables are not "
+            "tested)", SIZE: "n or count is zero"}, refuses_empty=True),
     Family("cholesky-back-substitution", "solvers", "Cholesky back substitution",
            "solvers/cholesky_back_substitution.h", PLAIN,
            "dst may be src2 (same start, same strides, same table). It must not overlap src1.",
            "Solves A*x = b by forward and back substitution: src1 is as zelmCholeskyDecomp_* left it, src2 is b and "
            "dst is x. All arithmetic is in the element type, and nothing is divided: the diagonal of src1 holds "
            "reciprocals. It is not tested. Table entries are not tested. A count of zero is ZELM_ERR_SIZE; an n or a "
-           "count below zero does nothing. An object of an array whose start comes to null is passed over."),
+           "count below zero does nothing. An object of an array whose start comes to null is passed over.",
+           {NULL: UNTESTED_ENTRIES, SIZE: "n or count is zero"}, refuses_empty=True),
     Family("qr-decomposition", "solvers", "QR decomposition", "solvers/qr_decomposition.h", PLAIN + (DIV,),
            "dst may be src (same start, same strides, same table). Any other overlap is not provided for.",
            "A = Q*R by Householder reflections (Golub and Van Loan, Matrix Computations, section 5.2), A of height rows "
@@ -185,7 +213,8 @@ FAMILIES = {family.name: family for family in (
            "for its last column. scratch takes height elements, also in array forms; its contents don't matter. A "
            "column whose sum of squares q, from the diagonal down, has not (q >= 2^-23), in both element types, ends the "
            "call with ZELM_ERR_DIV_BY_ZERO: earlier objects are complete, the failing one stands as the earlier "
-           "reflectors left it, later ones are untouched. A width above height always ends so."),
+           "reflectors left it, later ones are untouched. A width above height always ends so.",
+           {DIV: "a column fails the threshold, or width is above height"}),
     Family("qr-back-substitution", "solvers", "QR back substitution", "solvers/qr_back_substitution.h", PLAIN,
            "dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any operand.",
            "Solves A*x = b, for a height above width in the sense of least squares: src1 is as zelmQRDecomp_* left it, "
@@ -201,12 +230,14 @@ FAMILIES = {family.name: family for family in (
     Family("copy", "movement", "Copy between layouts", "movement/copy.h", PLAIN, "src and dst must not overlap partly.",
            "Elements are moved bit for bit. The two letters of the name are the layouts of src and dst: S for S2, P for "
            "PS2, L for LS2. Table entries are not tested, and neither are the width and height of matrices: zero "
-           "copies nothing."),
+           "copies nothing.",
+           {NULL: UNTESTED_ENTRIES, SIZE: "len is zero"}),
     Family("extract", "movement", "Extraction to a packed buffer", "movement/extract.h", PLAIN,
            "src and dst must not overlap.",
            "Elements are moved bit for bit. The packed position of element (i, j) of object k is "
            "k*width*height + i*width + j, in elements; width and height are those of the packed matrices. Table entries "
-           "are not tested. A count of zero is ZELM_ERR_SIZE."),
+           "are not tested. A count of zero is ZELM_ERR_SIZE.",
+           {NULL: UNTESTED_ENTRIES, SIZE: "a dimension or count is zero"}, refuses_empty=True),
     Family("identity", "movement", "Identity matrices", "movement/identity.h", PLAIN, "There is no source.",
            "The letter of the name is the layout of dst: S for S2, P for PS2, L for LS2. The column of the one runs on "
            "from row to row and from object to object: in object k the one of row i stands at column k*height + i, "
@@ -214,7 +245,8 @@ FAMILIES = {family.name: family for family in (
            "set height to fit. An element stride below the size of an element counts as that size, a row stride below "
            "width elements as that, and so does in P an object stride below the size of an element; the strides are "
            "compared as unsigned numbers. width and height are signed, and not tested: below 1 there is no row or "
-           "column, but each row still gets its one. Table entries are not tested. A count of zero is ZELM_ERR_SIZE."),
+           "column, but each row still gets its one. Table entries are not tested. A count of zero is ZELM_ERR_SIZE.",
+           {NULL: UNTESTED_ENTRIES, SIZE: "count is zero"}, refuses_empty=True),
 )}
 
 
@@ -411,7 +443,7 @@ def _movement():
     yield Row("copy", "Copy", "va", "copy", "src:va dst:va len count", "dst[k][j] = src[k][j]",
               ("copyVectors", "{src}", "{dst}", "{size}", "{count}"))
     yield Row("copy", "Copy", "ma", "copy", "src:ma dst:ma width height count", "dst[k][i][j] = src[k][i][j]",
-              ("copyMatrices", "{src}", "{dst}", "{size}", "{count}"))
+              ("copyMatrices", "{src}", "{dst}", "{size}", "{count}"), never=(SIZE,))
     for kind in ("v", "m", "mT", "va", "ma", "maT"):
         array = "a" in kind
         dimensions = "len" if kind[0] == "v" else "width height"

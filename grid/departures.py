@@ -7,7 +7,7 @@ shows what they do, and each names the form to use instead, as data: a layer on 
 
 from dataclasses import dataclass, field
 
-from catalogue import LAYOUTS, MATRIX_SIZES, ROWS, SINGLE_LAYOUTS, TYPES, operand_kinds
+from catalogue import LAYOUTS, MATRIX_SIZES, ROWS, SINGLE_LAYOUTS, TYPES, VECTOR_SIZES, operand_kinds
 
 # What the departure means for a caller who has not read of it, the worst first.
 RANKS = {
@@ -17,6 +17,9 @@ RANKS = {
     "rounds": "adds in another order than its row, so that last bits differ",
     "permits": "differs only where operands overlap, lie at odd addresses or have shapes that its row leaves out",
 }
+
+# The functions of departures that test no argument at all.
+TESTS_NOTHING = ("extractUntested", "extractColumnsUntested")
 
 ELEMENT_BYTES = {"32f": "4", "64f": "8"}
 
@@ -100,16 +103,14 @@ def _added_and_subtracted():
     for row in ("Add_maTm_64f_6x6", "Add_maTmT_64f_6x6", "Add_mamT_64f_6x6", "Sub_maTmT_64f_6x6", "Sub_mamT_64f_6x6",
                 "Sub_mamT_64f_3x3", "Sub_maTma_64f_5x5_L", "Sub_mamaT_64f_4x4_L", "Sub_mama_64f_4x4_L"):
         name = f"zelm{row}"
-        yield name, Departure("alignedStores", "where the operands are multiples of 16 but a later object of dst is not,"
-                              " an alignment fault is raised", "faults",
+        yield name, Departure("alignedStores", "an alignment fault is raised", "faults",
                               "where object 0 of every operand is at a multiple of 16 and a later object of dst is not",
                               strided(name))
 
 
 def held_by_alignment(name, invariant, array):
     return name, Departure(
-        "heldByAlignment", "pairs the invariant with other elements where one of invariant and object is a multiple of 16"
-        " and the other is not", "values",
+        "heldByAlignment", "pairs the elements of the invariant with others", "values",
         f"where {invariant} and {invariant}RowStride are multiples of 16, and an object of {array} or dst or their row"
         " strides are not, or the other way round", strided(name))
 
@@ -172,8 +173,7 @@ def _multiplied():
         for size in MATRIX_SIZES[1:]:
             name = f"zelmMul_{row}_64f_{size}"
             yield name, Departure(
-                "advancingByAlignment", "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16,"
-                " every object is computed from object 0 of src1", "values",
+                "advancingByAlignment", "every object is computed from object 0 of src1", "values",
                 "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16", strided(name))
     for row in ("mam", "maTm", "mamT"):
         for layout in ("P", "PS2"):
@@ -320,8 +320,31 @@ def _products_of_any_shape():
                                       _product_instead(row.descriptor, element_type, layout))
 
 
+# ---- forms that follow their row, of which a caller must know one thing more than the formula
+
+def _cautions():
+    for operation, kinds, sizes in (("L2Norm", ("v", "va"), VECTOR_SIZES), ("FrobNorm", ("m", "ma"), MATRIX_SIZES)):
+        thing = "vector" if operation == "L2Norm" else "matrix"
+        for kind in kinds:
+            for size in sizes[1:]:
+                for name in both(f"zelm{operation}_{kind}_32f_{size}")[:len(kind)]:
+                    yield name, f"the length of a zero {thing} is NaN, not 0, and that of an infinite one too", \
+                        "where src is zero or the sum of its squares is infinite", \
+                        Instead(strided(name).name, {"srcElemStride": "4"})
+    for kind in ("m", "ma"):
+        for name in both(f"zelmInvert_{kind}_64f_3x3")[:len(kind)]:
+            yield name, "a singular matrix gives infinities and NaN with ZELM_OK", "where the determinant is 0", \
+                Instead(strided(name).name, {"srcElemStride": "8", "dstElemStride": "8"})
+    for element_type in TYPES:
+        for layout in ("S", "P", "L"):
+            yield f"zelmLoadIdentity_ma_{element_type}_{layout}", "only object 0 is an identity: the column of the one" \
+                " runs on from object to object, behind the rows of the later ones", "where count is above 1", None
+
+
 DEPARTURES = {name: departure for group in (_added_and_subtracted, _scaled, _vector_algebra, _moved, _multiplied, _solved)
               for name, departure in group()}
 
 # Kept apart from the departures of single members: what holds for the run-time forms of whole rows.
 PRODUCT_BOUNDS = dict(_products_of_any_shape())
+
+CAUTIONS = {name: Departure("", note, "", when, instead) for name, note, when, instead in _cautions()}

@@ -2,6 +2,7 @@
 """Writes what follows from the catalogue.
 
     generate.py headers DIR    the public headers DIR/zelm/<subsystem>.h
+    generate.py page FILE      docs/before-you-choose.md
     generate.py build DIR      into DIR: the exported functions (one unit per family and layout), sources.cmake,
                                exports.txt, zelm-grid.json, grid_table.h and grid_table.cpp (for the tests)
 
@@ -16,9 +17,10 @@ from dataclasses import dataclass
 from itertools import groupby
 from pathlib import Path
 
+import page
 from catalogue import (CLASSES, CONSTANTS, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES, KERNEL_ROWS,
                        LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
-from departures import BOUNDS, DEPARTURES, PRODUCT_BOUNDS
+from departures import BOUNDS, CAUTIONS, DEPARTURES, PRODUCT_BOUNDS, RANKS, TESTS_NOTHING
 
 C_TYPE = {"32f": "float", "64f": "double"}
 WIDTH = 116
@@ -232,7 +234,24 @@ def declaration(member, definition=False):
     texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}"
              for a in arguments]
     result = getattr(member, "result", "ZelmStatus")
-    return call_text(("" if definition else "ZELM_API ") + f"{result} {member.name}", texts)
+    if definition:
+        return call_text(f"{result} {member.name}", texts)
+    return warning(member) + call_text(f"ZELM_API {result} {member.name}", texts)
+
+
+def warning(member):
+    """What the compiler says of a call of a member whose values are not those of its formula."""
+    macro, departure = ("ZELM_DEPARTS", DEPARTURES[member.name]) if member.name in DEPARTURES \
+        else ("ZELM_DEPARTS_UNLESS_SQUARE", PRODUCT_BOUNDS.get(member.name))
+    if not departure or departure.rank != "values":
+        return ""
+    note = departure.note.partition(";")[0]
+    when = departure.when + ", " if departure.when.startswith("where") else ""
+    form = f"use {departure.instead.name}" if departure.instead.name != member.name else "name other dimensions"
+    sentence = f"{when}{note}: {form}, see docs/before-you-choose.md"
+    lines = textwrap.wrap(sentence, WIDTH - 10, break_long_words=False, break_on_hyphens=False)
+    return f"{macro}(" + "\n        ".join(f'"{line} "' for line in lines[:-1]) + "\n        " * (len(lines) > 1) \
+        + f'"{lines[-1]}")\n'
 
 
 def definition(member):
@@ -242,8 +261,10 @@ def definition(member):
     if departure and departure.function:
         function = f"departures::{departure.function}" + "".join(re.findall("<.*>", function))
     body = call_text(f"return {function}", [text.format(**passed) for text in given], "    ") + ";"
-    comment = "".join(f"    // {line}\n" for line in textwrap.wrap(f"A departure: {departure.note}.", WIDTH - 7)) \
-        if departure else ""
+    comment = ""
+    if departure:
+        sentence = f"A departure{departure.when and ' ' + departure.when}: {departure.note}."
+        comment = "".join(f"    // {line}\n" for line in textwrap.wrap(sentence, WIDTH - 7))
     return f"{declaration(member, definition=True)}\n{{\n{comment}{body}\n}}\n"
 
 
@@ -253,10 +274,18 @@ KIND_TEXT = {"v": "vector", "va": "array of vectors", "m": "matrix", "ma": "arra
 STATUS_TEXT = {
     "ZELM_OK": "the call completed",
     "ZELM_ERR_NULL_PTR": "a pointer, a table or an entry of a table is null",
-    "ZELM_ERR_SIZE": "a dimension is zero (run-time form)",
+    "ZELM_ERR_SIZE": "a dimension is zero (run-time forms)",
     "ZELM_ERR_DIV_BY_ZERO": "a pivot fails the threshold",
     "ZELM_ERR_NOT_POS_DEF": "a pivot is not positive",
 }
+
+
+def row_formula(row):
+    if row.operation != "Mul" or row.descriptor not in BOUNDS:
+        return row.formula
+    where, otherwise = BOUNDS[row.descriptor]
+    forms = "run-time forms of S2 and P" if row.descriptor == "mmT" else "run-time forms"
+    return f"{row.formula}, in the {forms} only where {where} (docs/before-you-choose.md); otherwise {otherwise}"
 
 
 def row_paragraphs(row):
@@ -287,9 +316,10 @@ def row_paragraphs(row):
         units.append("count in objects")
     units.append("strides and shifts in bytes")
     return [
-        row.formula + ".",
+        row_formula(row) + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
-        "Status: " + "; ".join(f"{s}: {STATUS_TEXT[s]}" for s in family.statuses) + ".",
+        "Status: " + "; ".join(f"{s}: {(STATUS_TEXT | family.meanings)[s]}" for s in family.statuses
+                               if s not in row.never) + ".",
         "Overlap: " + family.overlap,
     ]
 
@@ -315,14 +345,24 @@ def kernel_declarations(family):
                                             *(declaration(kernel) + ";\n" for kernel in declared)])
 
 
+def departure_text(member):
+    departure = DEPARTURES[member.name]
+    when = f" {departure.when}" if departure.when else ""
+    text = f"Departs from its row ({RANKS[departure.rank]}){when}: {departure.note}."
+    if departure.instead:
+        given = instead_arguments(member, departure.instead)
+        text += f" Instead: {departure.instead.name}({', '.join(given)})" \
+            + (f", {departure.instead.note}." if departure.instead.note else ".")
+    return text
+
+
 def row_declarations(row, row_members):
     out = [block_comment(row_paragraphs(row))]
     regular = next((m for m in row_members if m.name not in DEPARTURES), None)
     # The row's comment documents what follows it, so a regular member comes first.
     for member in sorted(row_members, key=lambda m: m is not regular):
         if member.name in DEPARTURES:
-            out.append(block_comment([f"Departs from its row: {DEPARTURES[member.name].note}.",
-                                      f"@copydoc {regular.name}"]))
+            out.append(block_comment([departure_text(member), f"@copydoc {regular.name}"]))
         out.append(declaration(member) + ";\n")
     return member_group(f"zelm{row.operation}_{row.descriptor}", out)
 
@@ -369,8 +409,17 @@ def argument_list(member):
              **({"unread": True} if a.unread else {})} for a in plan(member)[0]]
 
 
+def statuses(member):
+    """The statuses that a member can return."""
+    if member.name in DEPARTURES and DEPARTURES[member.name].function in TESTS_NOTHING:
+        return ["ZELM_OK"]
+    family = FAMILIES[member.row.family]
+    sized = not member.size or (family.refuses_empty and member.row.is_array)
+    return [s for s in family.statuses if s not in member.row.never and (sized or s != "ZELM_ERR_SIZE")]
+
+
 def departure_entry(member, key, departure):
-    entry = {key: departure.note, "rank": departure.rank}
+    entry = {key: departure.note} | ({"rank": departure.rank} if departure.rank else {})
     if departure.when:
         entry["when"] = departure.when
     if departure.instead:
@@ -385,17 +434,18 @@ def grid_json(all_members):
     lines = []
     for m in all_members:
         family = FAMILIES[m.row.family]
-        fixed = bool(m.size)
         entry = {
             "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
             "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout,
             "formula": m.row.formula,
             "arguments": argument_list(m),
-            "statuses": [s for s in family.statuses if not (fixed and s == "ZELM_ERR_SIZE")],
+            "statuses": statuses(m),
         }
         for key, table in (("departure", DEPARTURES), ("bounds", PRODUCT_BOUNDS)):
             if m.name in table:
                 entry |= departure_entry(m, key, table[m.name])
+        if m.name in CAUTIONS:
+            entry["caution"] = departure_entry(m, "note", CAUTIONS[m.name])
         lines.append(json.dumps(entry))
     beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
                           "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
@@ -521,12 +571,36 @@ def write_build(directory):
     return files
 
 
+class PageContext:
+    """What the page asks of a member by its name."""
+
+    @staticmethod
+    def departure(name):
+        return DEPARTURES.get(name) or PRODUCT_BOUNDS[name]
+
+    @staticmethod
+    def arguments(name):
+        return [a.name for a in plan(MEMBERS[name])[0]]
+
+    def instead_arguments(self, name):
+        return instead_arguments(MEMBERS[name], self.departure(name).instead)
+
+    @staticmethod
+    def cautioned_arguments(name):
+        instead = CAUTIONS[name].instead
+        return instead_arguments(MEMBERS[name], instead) if instead else None
+
+
+def write_page(path):
+    return {path: page.text(PageContext())}
+
+
 def main(arguments):
-    if len(arguments) != 2 or arguments[0] not in ("headers", "build"):
+    writers = {"headers": write_headers, "page": write_page, "build": write_build}
+    if len(arguments) != 2 or arguments[0] not in writers:
         print(__doc__, file=sys.stderr)
         return 2
-    directory = Path(arguments[1])
-    files = write_headers(directory) if arguments[0] == "headers" else write_build(directory)
+    files = writers[arguments[0]](Path(arguments[1]))
     for path, text in files.items():
         text = re.sub(r"[ \t]+$", "", text, flags=re.M)
         if not path.exists() or path.read_text() != text:

@@ -31,7 +31,12 @@
  * @endcode
  *
  * All functions are reentrant, keep nothing between calls, allocate nothing and call nothing. Operands need
- * the alignment of their element and no more. Results are the same bits in every build, on every target.
+ * the alignment of their element and no more, but in nine 64f members of Add and Sub: these fault where
+ * object 0 of every operand is at a multiple of 16 bytes and a later object is not (rank "faults" in
+ * docs/before-you-choose.md). Results are the same bits in every build, on every target.
+ *
+ * Some members give another value than their formula on ordinary data. A call of one warns where it is
+ * compiled; docs/before-you-choose.md has all of them, and the form to use instead.
  */
 /* clang-format on */
 #ifndef ZELM_H

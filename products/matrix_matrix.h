@@ -208,10 +208,9 @@ ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<
     }
 }
 
-// `inPlace` is that of the called form.
+// `inPlace` is that of the called form. One instance serves P, and PS2 where its objects are adjacent.
 template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-ZELM_INLINE ZelmStatus multiplyByPlanes(const A &a, const B &b, const D &d, FixedSizes<N>,
-                                        std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
     const Planes<N, A> first{a};
     const Planes<N, B> second{b};
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {

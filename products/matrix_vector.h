@@ -57,8 +57,10 @@ enum class Way {
 template <unsigned N, bool isDense, typename A, typename D>
 constexpr Way wayOf() {
     constexpr bool hasRows = decltype(std::declval<const D &>().object(0))::isDense;
+    if (!isDense && (!kGainsByGroups<D> || (hasRows && kIsArray<A> && kIsTransposed<A>)))
+        return Way::OneByOne;
     if (!isDense)
-        return hasRows && kIsArray<A> && kIsTransposed<A> ? Way::OneByOne : Way::Groups;
+        return Way::Groups;
     if (kIsArray<A>)
         return Way::OneByOne;
     return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;

@@ -177,9 +177,10 @@ ZELM_INLINE bool productIsApart(const A &a, const B &b, const D &d, const Bounds
 
 // ---- arrays
 
+// One instance serves all forms whose operands turn out to be the same.
 template <typename A, typename B, typename D>
-ZELM_INLINE ZelmStatus multiplyRunTime(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches,
-                                       std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyRunTime(A a, B b, D d, Bounds bounds, Pitches pitches,
+                                                     std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), bounds, pitches);
         return ZELM_OK;

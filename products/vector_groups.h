@@ -72,7 +72,7 @@ ZELM_INLINE void multiplyAcross(const M &m, std::uint32_t k, const V (&x)[N], co
 
 // `isDense`: whether the called form is one of the standard and L layouts.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
-ZELM_INLINE ZelmStatus multiplyInGroups(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyInGroups(A a, X x, Z z, D d, std::uint32_t count) {
     const GroupMatrices<N, A> matrices(a);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));

@@ -88,8 +88,8 @@ ZELM_INLINE bool vectorProductIsApart(const A &a, const X &x, const Z &z, const 
 // ---- arrays
 
 template <typename A, typename X, typename Z, typename D>
-ZELM_INLINE ZelmStatus multiplyVectorsRunTime(const A &a, const X &x, const Z &z, const D &d,
-                                              VectorBounds bounds, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus multiplyVectorsRunTime(A a, X x, Z z, D d, VectorBounds bounds,
+                                                            std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), bounds.rows,
                                             bounds.terms, bounds.pitch);

@@ -166,7 +166,7 @@ ZELM_INLINE ZelmStatus crossByLines(const A &a, const B &b, const D &d, std::uin
         crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
         return ZELM_OK;
     };
-    if constexpr (D::isList && decltype(d.object(0))::isDense) {
+    if constexpr (D::isList) {
         return forEachObject(count, one, a, b, d);
     } else {
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {

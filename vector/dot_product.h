@@ -126,7 +126,7 @@ ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, s
     };
     // Of two lists of threes the null tests and the sum cost less than collecting the objects does.
     constexpr bool areListsOfThrees = A::isList && B::isList && Shape::columnsIfFixed == 3;
-    if constexpr (!Shape::isFixed || areListsOfThrees) {
+    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || areListsOfThrees) {
         return forEachObject(count, one, a, b);
     } else {
         constexpr unsigned N = Shape::columns();

@@ -272,7 +272,7 @@ ZELM_INLINE ZelmStatus frobeniusByColumns(const S &s, const DenseArray<T> &resul
         results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
         return ZELM_OK;
     };
-    if constexpr (Shape::isFixed) {
+    if constexpr (Shape::isFixed && kGainsByGroups<S>) {
         constexpr unsigned N = Shape::columns();
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             using V = typename decltype(pack)::Pack;

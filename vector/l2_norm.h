@@ -74,7 +74,7 @@ ZELM_INLINE ZelmStatus lengthsOf(const S &s, T *dst, Shape shape, std::uint32_t 
             results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
         return ZELM_OK;
     };
-    if constexpr (!Shape::isFixed) {
+    if constexpr (!Shape::isFixed || !kGainsByGroups<S>) {
         return forEachObject(count, one, s);
     } else {
         constexpr unsigned N = Shape::columns();

@@ -61,7 +61,7 @@ ZELM_INLINE ZelmStatus tracesOf(const S &s, const DenseArray<T> &results, Size s
             traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
     };
-    if constexpr (!decltype(s.object(0))::isDense && Size::fixed != 0) {
+    if constexpr (!decltype(s.object(0))::isDense && kGainsByGroups<S> && Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
         const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             using V = typename decltype(pack)::Pack;

@@ -124,7 +124,7 @@ void GridHeader::failForMemory() const {
     throw InputError(file_, std::max(rows_->line, columns_->line), text);
 }
 
-Grid GridHeader::grid(std::size_t line) const {
+Grid GridHeader::grid(std::size_t line, std::size_t mostValues) const {
     const auto require = [&](const std::optional<Field> &wanted, const char *name) {
         if (!wanted) {
             throw InputError(file_, line,
@@ -152,7 +152,7 @@ Grid GridHeader::grid(std::size_t line) const {
     grid.south = south_->value - (southIsCentre_ ? grid.cellHeight / 2 : 0);
     grid.noData = noData_ ? noData_->value : defaultNoData;
     try {
-        grid.elevation.reserve(grid.rows * grid.columns);
+        grid.elevation.reserve(std::min(grid.rows * grid.columns, mostValues));
     } catch (const std::bad_alloc &) {
         failForMemory();
     }

@@ -22,8 +22,9 @@ public:
     void take(std::string_view text, std::size_t line);
 
     // The grid that the header describes, without its values. Throws InputError if a field is missing or the
-    // grid can't be held in memory; `line` is where the rows of values should start.
-    Grid grid(std::size_t line) const;
+    // grid can't be held in memory; `line` is where the rows of values should start, and the file holds at
+    // most `mostValues` of them, whatever the header claims.
+    Grid grid(std::size_t line, std::size_t mostValues) const;
 
     // The line of NODATA_value, or of the first row if the header leaves it out.
     std::size_t noDataLine(std::size_t firstRow) const;

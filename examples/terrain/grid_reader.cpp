@@ -90,7 +90,7 @@ Grid readGrid(const std::string &file, Progress &progress) {
         header.take(text, reader.number());
     }
     const std::size_t firstRow = reader.number();
-    Grid grid = header.grid(firstRow);
+    Grid grid = header.grid(firstRow, reader.mostWords());
 
     const std::size_t limit = std::max(longestLine, grid.columns * longestValue);
     for (std::size_t row = 0; row < grid.rows; ++row) {

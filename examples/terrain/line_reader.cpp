@@ -2,7 +2,9 @@
 
 #include "input_error.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
@@ -19,6 +21,13 @@ LineReader::LineReader(const std::string &file) : file_(file) {
     if (!stream_) {
         throw InputError(file, std::string("expected a file that can be read: ") + std::strerror(errno));
     }
+}
+
+std::size_t LineReader::mostWords() const {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file_, error);
+    // A pipe or a device has no size.
+    return error ? SIZE_MAX : static_cast<std::size_t>(std::min<std::uintmax_t>(size / 2 + 1, SIZE_MAX));
 }
 
 bool LineReader::next(std::string &line, std::size_t limit) {

@@ -16,6 +16,9 @@ public:
     // line is longer than `limit`, so that a file without lines doesn't fill the memory.
     bool next(std::string &line, std::size_t limit);
 
+    // How many words the file can hold at most, by its size.
+    std::size_t mostWords() const;
+
     // The number of the line that next() gave last; behind the last line, the number that one more would
     // have.
     std::size_t number() const { return number_; }

@@ -29,7 +29,7 @@ extern "C" {
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -95,7 +95,7 @@ ZELM_API ZelmStatus zelmAdd_vv_64f_6x1_P(const double *const *src1Table, int32_t
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -161,7 +161,7 @@ ZELM_API ZelmStatus zelmAdd_vc_64f_6x1_P(const double *const *srcTable, int32_t 
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -251,7 +251,8 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmAdd_vav_32f
  */
@@ -296,7 +297,8 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_4x1_L(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmAdd_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmAdd_vav_32f
  */
@@ -343,7 +345,7 @@ ZELM_API ZelmStatus zelmAdd_vav_64f_6x1_LS2(const double *const *src1Table, int3
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -479,7 +481,7 @@ ZELM_API ZelmStatus zelmAdd_vac_64f_6x1_LS2(const double *const *srcTable, int32
  * the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -657,7 +659,7 @@ ZELM_API ZelmStatus zelmAdd_vava_64f_6x1_LS2(const double *const *src1Table, int
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -723,7 +725,7 @@ ZELM_API ZelmStatus zelmSub_vv_64f_6x1_P(const double *const *src1Table, int32_t
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -789,7 +791,7 @@ ZELM_API ZelmStatus zelmSub_vc_64f_6x1_P(const double *const *srcTable, int32_t 
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -855,7 +857,7 @@ ZELM_API ZelmStatus zelmSub_cv_64f_6x1_P(const double *const *srcTable, int32_t 
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -945,7 +947,8 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1(const double *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1(const double *src1, int32_t src1ObjStride, const double *src2, double *dst,
         int32_t dstObjStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_vav_32f
  */
@@ -990,7 +993,8 @@ ZELM_API ZelmStatus zelmSub_vav_64f_4x1_L(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmSub_vav_64f_5x1_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_vav_32f
  */
@@ -1037,7 +1041,7 @@ ZELM_API ZelmStatus zelmSub_vav_64f_6x1_LS2(const double *const *src1Table, int3
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -1173,7 +1177,7 @@ ZELM_API ZelmStatus zelmSub_vac_64f_6x1_LS2(const double *const *srcTable, int32
  * the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -1351,7 +1355,7 @@ ZELM_API ZelmStatus zelmSub_vava_64f_6x1_LS2(const double *const *src1Table, int
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -1441,7 +1445,8 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1(const double *src1, const double *src2, 
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1(const double *src1, const double *src2, int32_t src2ObjStride, double *dst,
         int32_t dstObjStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_vva_32f
  */
@@ -1486,7 +1491,8 @@ ZELM_API ZelmStatus zelmSub_vva_64f_4x1_L(const double *src1, const double *cons
 ZELM_API ZelmStatus zelmSub_vva_64f_5x1_L(const double *src1, const double *const *src2Table, int32_t src2Shift,
         double *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_vva_32f
  */
@@ -1533,7 +1539,7 @@ ZELM_API ZelmStatus zelmSub_vva_64f_6x1_LS2(const double *src1, int32_t src1Elem
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source (same start, same strides). Any other overlap gives what the loop over objects, and
  * inside it over elements, gives in ascending order.
@@ -1676,7 +1682,7 @@ ZELM_API ZelmStatus zelmSub_cva_64f_6x1_LS2(const double *const *srcTable, int32
  * them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -1763,7 +1769,7 @@ ZELM_API ZelmStatus zelmAdd_mm_64f_6x6_P(const double *const *src1Table, int32_t
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -1793,7 +1799,10 @@ ZELM_API ZelmStatus zelmAdd_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStr
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_mamT_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mmT_32f
  */
@@ -1834,7 +1843,10 @@ ZELM_API ZelmStatus zelmAdd_mmT_64f_6x6_S2(const double *src1, int32_t src1RowSt
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_mamT_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mmT_32f
  */
@@ -1860,7 +1872,7 @@ ZELM_API ZelmStatus zelmAdd_mmT_64f_6x6_P(const double *const *src1Table, int32_
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -1890,7 +1902,10 @@ ZELM_API ZelmStatus zelmAdd_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStr
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_maTm_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mTm_32f
  */
@@ -1931,7 +1946,10 @@ ZELM_API ZelmStatus zelmAdd_mTm_64f_6x6_S2(const double *src1, int32_t src1RowSt
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_maTm_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mTm_32f
  */
@@ -1957,7 +1975,7 @@ ZELM_API ZelmStatus zelmAdd_mTm_64f_6x6_P(const double *const *src1Table, int32_
  * (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -1987,7 +2005,10 @@ ZELM_API ZelmStatus zelmAdd_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowSt
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_maTmT_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mTmT_32f
  */
@@ -2028,7 +2049,10 @@ ZELM_API ZelmStatus zelmAdd_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowS
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmAdd_maTmT_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmAdd_mTmT_32f
  */
@@ -2054,7 +2078,7 @@ ZELM_API ZelmStatus zelmAdd_mTmT_64f_6x6_P(const double *const *src1Table, int32
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -2062,7 +2086,10 @@ ZELM_API ZelmStatus zelmAdd_mam_32f(const float *src1, int32_t src1ObjStride, in
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where count
+ * is 0, or dst overlaps a later object of src1: reads object k+1 before it stores object k; a count of 0 counts as
+ * 1. Instead: zelmAdd_mam_32f_3x3_S2(src1, src1ObjStride, src1RowStride, 4, src2, src2RowStride, 4, dst,
+ * dstObjStride, dstRowStride, 4, count).
  *
  * @copydoc zelmAdd_mam_32f
  */
@@ -2109,7 +2136,10 @@ ZELM_API ZelmStatus zelmAdd_mam_32f_L(const float *const *src1Table, int32_t src
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where count
+ * is 0, or dst overlaps a later object of src1: reads object k+1 before it stores object k; a count of 0 counts as
+ * 1. Instead: zelmAdd_mam_32f_3x3_LS2(src1Table, src1Shift, src1RowStride, 4, src2, src2RowStride, 4, dstTable,
+ * dstShift, dstRowStride, 4, count).
  *
  * @copydoc zelmAdd_mam_32f
  */
@@ -2166,10 +2196,14 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_4x4(const double *src1, int32_t src1ObjStrid
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmAdd_mam_64f_5x5_S2(src1, src1ObjStride,
+ * src1RowStride, 8, src2, src2RowStride, 8, dst, dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mam_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmAdd_mam_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2211,11 +2245,16 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_L(const double *const *src1Table, int32_t sr
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2 and src2RowStride are
+ * multiples of 16, and an object of src1 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmAdd_mam_64f_3x3_LS2(src1Table, src1Shift, src1RowStride, 8,
+ * src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mam_32f
  */
+ZELM_DEPARTS("where src2 and src2RowStride are multiples of 16, and an object of src1 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use zelmAdd_mam_64f_3x3_LS2, "
+        "see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mam_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2223,10 +2262,14 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_4x4_L(const double *const *src1Table, int32_
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmAdd_mam_64f_5x5_LS2(src1Table, src1Shift,
+ * src1RowStride, 8, src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mam_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmAdd_mam_64f_5x5_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mam_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2280,7 +2323,7 @@ ZELM_API ZelmStatus zelmAdd_mam_64f_6x6_LS2(const double *const *src1Table, int3
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -2288,11 +2331,15 @@ ZELM_API ZelmStatus zelmAdd_mamT_32f(const float *src1, int32_t src1ObjStride, i
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
- * stores object k; a count of 0 counts as 1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2RowStride differs from
+ * src1RowStride: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it stores
+ * object k; a count of 0 counts as 1. Instead: zelmAdd_mamT_32f_3x3_S2(src1, src1ObjStride, src1RowStride, 4, src2,
+ * src2RowStride, 4, dst, dstObjStride, dstRowStride, 4, count).
  *
  * @copydoc zelmAdd_mamT_32f
  */
+ZELM_DEPARTS("where src2RowStride differs from src1RowStride, src2RowStride is not read, rows of src2 lie at "
+        "src1RowStride: use zelmAdd_mamT_32f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -2336,11 +2383,15 @@ ZELM_API ZelmStatus zelmAdd_mamT_32f_L(const float *const *src1Table, int32_t sr
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
- * stores object k; a count of 0 counts as 1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2RowStride differs from
+ * src1RowStride: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it stores
+ * object k; a count of 0 counts as 1. Instead: zelmAdd_mamT_32f_3x3_LS2(src1Table, src1Shift, src1RowStride, 4,
+ * src2, src2RowStride, 4, dstTable, dstShift, dstRowStride, 4, count).
  *
  * @copydoc zelmAdd_mamT_32f
  */
+ZELM_DEPARTS("where src2RowStride differs from src1RowStride, src2RowStride is not read, rows of src2 lie at "
+        "src1RowStride: use zelmAdd_mamT_32f_3x3_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mamT_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2401,8 +2452,10 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_5x5(const double *src1, int32_t src1ObjStri
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmAdd_mamT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mamT_32f
  */
@@ -2444,11 +2497,16 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_L(const double *const *src1Table, int32_t s
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2 and src2RowStride are
+ * multiples of 16, and an object of src1 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmAdd_mamT_64f_3x3_LS2(src1Table, src1Shift, src1RowStride, 8,
+ * src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mamT_32f
  */
+ZELM_DEPARTS("where src2 and src2RowStride are multiples of 16, and an object of src1 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use "
+        "zelmAdd_mamT_64f_3x3_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mamT_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -2507,7 +2565,7 @@ ZELM_API ZelmStatus zelmAdd_mamT_64f_6x6_LS2(const double *const *src1Table, int
  * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -2617,10 +2675,14 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_4x4(const double *src1, int32_t src1ObjStri
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmAdd_mama_64f_5x5_S2(src1, src1ObjStride,
+ * src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst, dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mama_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmAdd_mama_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -2672,10 +2734,14 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_4x4_L(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmAdd_mama_64f_5x5_LS2(src1Table, src1Shift,
+ * src1RowStride, 8, src2Table, src2Shift, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_mama_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmAdd_mama_64f_5x5_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmAdd_mama_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2728,7 +2794,7 @@ ZELM_API ZelmStatus zelmAdd_mama_64f_6x6_LS2(const double *const *src1Table, int
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -2940,7 +3006,7 @@ ZELM_API ZelmStatus zelmAdd_mamaT_64f_6x6_LS2(const double *const *src1Table, in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3049,8 +3115,10 @@ ZELM_API ZelmStatus zelmAdd_maTm_64f_5x5(const double *src1, int32_t src1ObjStri
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmAdd_maTm_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_maTm_32f
  */
@@ -3150,7 +3218,7 @@ ZELM_API ZelmStatus zelmAdd_maTm_64f_6x6_LS2(const double *const *src1Table, int
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3250,7 +3318,8 @@ ZELM_API ZelmStatus zelmAdd_maTmT_64f(const double *src1, int32_t src1ObjStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmAdd_maTmT_32f
  */
@@ -3264,8 +3333,10 @@ ZELM_API ZelmStatus zelmAdd_maTmT_64f_5x5(const double *src1, int32_t src1ObjStr
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmAdd_maTmT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmAdd_maTmT_32f
  */
@@ -3364,7 +3435,7 @@ ZELM_API ZelmStatus zelmAdd_maTmT_64f_6x6_LS2(const double *const *src1Table, in
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3576,7 +3647,7 @@ ZELM_API ZelmStatus zelmAdd_maTma_64f_6x6_LS2(const double *const *src1Table, in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3787,7 +3858,7 @@ ZELM_API ZelmStatus zelmAdd_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
  * them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3874,7 +3945,7 @@ ZELM_API ZelmStatus zelmSub_mm_64f_6x6_P(const double *const *src1Table, int32_t
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -3904,7 +3975,10 @@ ZELM_API ZelmStatus zelmSub_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStr
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_mamT_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mmT_32f
  */
@@ -3945,7 +4019,10 @@ ZELM_API ZelmStatus zelmSub_mmT_64f_6x6_S2(const double *src1, int32_t src1RowSt
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_mamT_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mmT_32f
  */
@@ -3971,7 +4048,7 @@ ZELM_API ZelmStatus zelmSub_mmT_64f_6x6_P(const double *const *src1Table, int32_
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -4001,7 +4078,10 @@ ZELM_API ZelmStatus zelmSub_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStr
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_maTm_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mTm_32f
  */
@@ -4039,15 +4119,23 @@ ZELM_API ZelmStatus zelmSub_mTm_64f_5x5_S2(const double *src1, int32_t src1RowSt
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: src2ElemStride is not read, elements of src2 lie at src1ElemStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2ElemStride differs from
+ * src1ElemStride: src2ElemStride is not read, elements of src2 lie at src1ElemStride. Instead:
+ * zelmSub_mTm_64f_S2(src1, src1RowStride, src1ElemStride, src2, src2RowStride, src2ElemStride, dst, dstRowStride,
+ * dstElemStride, 6, 6).
  *
  * @copydoc zelmSub_mTm_32f
  */
+ZELM_DEPARTS("where src2ElemStride differs from src1ElemStride, src2ElemStride is not read, elements of src2 lie at "
+        "src1ElemStride: use zelmSub_mTm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_maTm_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mTm_32f
  */
@@ -4073,7 +4161,7 @@ ZELM_API ZelmStatus zelmSub_mTm_64f_6x6_P(const double *const *src1Table, int32_
  * (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -4086,10 +4174,12 @@ ZELM_API ZelmStatus zelmSub_mTmT_32f_4x4(const float *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmSub_mTmT_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 /**
- * Departs from its row: row 3 of dst receives the values of row 2.
+ * Departs from its row (gives other values than its formula on ordinary data): row 3 of dst receives the values of
+ * row 2. Instead: zelmSub_mTmT_32f_6x6_S2(src1, src1RowStride, 4, src2, src2RowStride, 4, dst, dstRowStride, 4).
  *
  * @copydoc zelmSub_mTmT_32f
  */
+ZELM_DEPARTS("row 3 of dst receives the values of row 2: use zelmSub_mTmT_32f_6x6_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmSub_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
@@ -4108,7 +4198,10 @@ ZELM_API ZelmStatus zelmSub_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowSt
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_maTmT_32f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mTmT_32f
  */
@@ -4149,7 +4242,10 @@ ZELM_API ZelmStatus zelmSub_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowS
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
 /**
- * Departs from its row: tests entry i*height + j of a transposed operand and reads j*height + i.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where width
+ * is less than height: entries behind the table are tested: tests entry i*height + j of a transposed operand and
+ * reads j*height + i. Instead: zelmSub_maTmT_64f_P(src1Table, src1Shift, src2Table, src2Shift, dstTable, dstShift,
+ * width, height, 1).
  *
  * @copydoc zelmSub_mTmT_32f
  */
@@ -4175,7 +4271,7 @@ ZELM_API ZelmStatus zelmSub_mTmT_64f_6x6_P(const double *const *src1Table, int32
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -4183,7 +4279,10 @@ ZELM_API ZelmStatus zelmSub_mam_32f(const float *src1, int32_t src1ObjStride, in
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where count
+ * is 0, or dst overlaps a later object of src1: reads object k+1 before it stores object k; a count of 0 counts as
+ * 1. Instead: zelmSub_mam_32f_3x3_S2(src1, src1ObjStride, src1RowStride, 4, src2, src2RowStride, 4, dst,
+ * dstObjStride, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_mam_32f
  */
@@ -4230,7 +4329,10 @@ ZELM_API ZelmStatus zelmSub_mam_32f_L(const float *const *src1Table, int32_t src
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: reads object k+1 before it stores object k; a count of 0 counts as 1.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where count
+ * is 0, or dst overlaps a later object of src1: reads object k+1 before it stores object k; a count of 0 counts as
+ * 1. Instead: zelmSub_mam_32f_3x3_LS2(src1Table, src1Shift, src1RowStride, 4, src2, src2RowStride, 4, dstTable,
+ * dstShift, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_mam_32f
  */
@@ -4287,10 +4389,14 @@ ZELM_API ZelmStatus zelmSub_mam_64f_4x4(const double *src1, int32_t src1ObjStrid
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmSub_mam_64f_5x5_S2(src1, src1ObjStride,
+ * src1RowStride, 8, src2, src2RowStride, 8, dst, dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mam_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmSub_mam_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mam_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -4332,11 +4438,16 @@ ZELM_API ZelmStatus zelmSub_mam_64f_L(const double *const *src1Table, int32_t sr
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2 and src2RowStride are
+ * multiples of 16, and an object of src1 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmSub_mam_64f_3x3_LS2(src1Table, src1Shift, src1RowStride, 8,
+ * src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mam_32f
  */
+ZELM_DEPARTS("where src2 and src2RowStride are multiples of 16, and an object of src1 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use zelmSub_mam_64f_3x3_LS2, "
+        "see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mam_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4344,10 +4455,14 @@ ZELM_API ZelmStatus zelmSub_mam_64f_4x4_L(const double *const *src1Table, int32_
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmSub_mam_64f_5x5_LS2(src1Table, src1Shift,
+ * src1RowStride, 8, src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mam_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmSub_mam_64f_5x5_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mam_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4401,7 +4516,7 @@ ZELM_API ZelmStatus zelmSub_mam_64f_6x6_LS2(const double *const *src1Table, int3
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -4409,11 +4524,15 @@ ZELM_API ZelmStatus zelmSub_mamT_32f(const float *src1, int32_t src1ObjStride, i
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
- * stores object k; a count of 0 counts as 1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2RowStride differs from
+ * src1RowStride: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it stores
+ * object k; a count of 0 counts as 1. Instead: zelmSub_mamT_32f_3x3_S2(src1, src1ObjStride, src1RowStride, 4, src2,
+ * src2RowStride, 4, dst, dstObjStride, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_mamT_32f
  */
+ZELM_DEPARTS("where src2RowStride differs from src1RowStride, src2RowStride is not read, rows of src2 lie at "
+        "src1RowStride: use zelmSub_mamT_32f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mamT_32f_3x3(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
@@ -4457,11 +4576,15 @@ ZELM_API ZelmStatus zelmSub_mamT_32f_L(const float *const *src1Table, int32_t sr
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it
- * stores object k; a count of 0 counts as 1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2RowStride differs from
+ * src1RowStride: src2RowStride is not read, rows of src2 lie at src1RowStride; reads object k+1 before it stores
+ * object k; a count of 0 counts as 1. Instead: zelmSub_mamT_32f_3x3_LS2(src1Table, src1Shift, src1RowStride, 4,
+ * src2, src2RowStride, 4, dstTable, dstShift, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_mamT_32f
  */
+ZELM_DEPARTS("where src2RowStride differs from src1RowStride, src2RowStride is not read, rows of src2 lie at "
+        "src1RowStride: use zelmSub_mamT_32f_3x3_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mamT_32f_3x3_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4513,8 +4636,10 @@ ZELM_API ZelmStatus zelmSub_mamT_64f(const double *src1, int32_t src1ObjStride, 
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_mamT_64f_3x3_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mamT_32f
  */
@@ -4528,8 +4653,10 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_5x5(const double *src1, int32_t src1ObjStri
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_mamT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mamT_32f
  */
@@ -4571,11 +4698,16 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_L(const double *const *src1Table, int32_t s
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2 and src2RowStride are
+ * multiples of 16, and an object of src1 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmSub_mamT_64f_3x3_LS2(src1Table, src1Shift, src1RowStride, 8,
+ * src2, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mamT_32f
  */
+ZELM_DEPARTS("where src2 and src2RowStride are multiples of 16, and an object of src1 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use "
+        "zelmSub_mamT_64f_3x3_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mamT_64f_3x3_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -4634,7 +4766,7 @@ ZELM_API ZelmStatus zelmSub_mamT_64f_6x6_LS2(const double *const *src1Table, int
  * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -4744,10 +4876,14 @@ ZELM_API ZelmStatus zelmSub_mama_64f_4x4(const double *src1, int32_t src1ObjStri
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmSub_mama_64f_5x5_S2(src1, src1ObjStride,
+ * src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst, dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mama_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmSub_mama_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -4796,8 +4932,10 @@ ZELM_API ZelmStatus zelmSub_mama_64f_3x3_L(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_mama_64f_4x4_LS2(src1Table, src1Shift, src1RowStride, 8, src2Table, src2Shift, src2RowStride, 8,
+ * dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mama_32f
  */
@@ -4805,10 +4943,14 @@ ZELM_API ZelmStatus zelmSub_mama_64f_4x4_L(const double *const *src1Table, int32
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads column 4 of src1 at src2RowStride.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1RowStride differs from
+ * src2RowStride: reads column 4 of src1 at src2RowStride. Instead: zelmSub_mama_64f_5x5_LS2(src1Table, src1Shift,
+ * src1RowStride, 8, src2Table, src2Shift, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mama_32f
  */
+ZELM_DEPARTS("where src1RowStride differs from src2RowStride, reads column 4 of src1 at src2RowStride: use "
+        "zelmSub_mama_64f_5x5_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mama_64f_5x5_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -4861,7 +5003,7 @@ ZELM_API ZelmStatus zelmSub_mama_64f_6x6_LS2(const double *const *src1Table, int
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5018,8 +5160,10 @@ ZELM_API ZelmStatus zelmSub_mamaT_64f_3x3_L(const double *const *src1Table, int3
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_mamaT_64f_4x4_LS2(src1Table, src1Shift, src1RowStride, 8, src2Table, src2Shift, src2RowStride,
+ * 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mamaT_32f
  */
@@ -5079,7 +5223,7 @@ ZELM_API ZelmStatus zelmSub_mamaT_64f_6x6_LS2(const double *const *src1Table, in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5283,7 +5427,7 @@ ZELM_API ZelmStatus zelmSub_maTm_64f_6x6_LS2(const double *const *src1Table, int
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5392,8 +5536,10 @@ ZELM_API ZelmStatus zelmSub_maTmT_64f_5x5(const double *src1, int32_t src1ObjStr
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_maTmT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_maTmT_32f
  */
@@ -5492,7 +5638,7 @@ ZELM_API ZelmStatus zelmSub_maTmT_64f_6x6_LS2(const double *const *src1Table, in
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5652,8 +5798,10 @@ ZELM_API ZelmStatus zelmSub_maTma_64f_4x4_L(const double *const *src1Table, int3
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where the operands are multiples of 16 but a later object of dst is not, an alignment fault
- * is raised.
+ * Departs from its row (accesses memory that its arguments do not name, or raises an alignment fault) where object
+ * 0 of every operand is at a multiple of 16 and a later object of dst is not: an alignment fault is raised.
+ * Instead: zelmSub_maTma_64f_5x5_LS2(src1Table, src1Shift, src1RowStride, 8, src2Table, src2Shift, src2RowStride,
+ * 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_maTma_32f
  */
@@ -5710,7 +5858,7 @@ ZELM_API ZelmStatus zelmSub_maTma_64f_6x6_LS2(const double *const *src1Table, in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5727,10 +5875,14 @@ ZELM_API ZelmStatus zelmSub_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStr
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: takes its elements from the stored places that a table names.
+ * Departs from its row (gives other values than its formula on ordinary data): takes its elements from the stored
+ * places that a table names. Instead: zelmSub_maTmaT_32f_6x6_S2(src1, src1ObjStride, src1RowStride, 4, src2,
+ * src2ObjStride, src2RowStride, 4, dst, dstObjStride, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_maTmaT_32f
  */
+ZELM_DEPARTS("takes its elements from the stored places that a table names: use zelmSub_maTmaT_32f_6x6_S2, see "
+        "docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
@@ -5778,10 +5930,14 @@ ZELM_API ZelmStatus zelmSub_maTmaT_32f_5x5_L(const float *const *src1Table, int3
         int32_t src1RowStride, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: takes its elements from the stored places that a table names.
+ * Departs from its row (gives other values than its formula on ordinary data): takes its elements from the stored
+ * places that a table names. Instead: zelmSub_maTmaT_32f_6x6_LS2(src1Table, src1Shift, src1RowStride, 4, src2Table,
+ * src2Shift, src2RowStride, 4, dstTable, dstShift, dstRowStride, 4, count).
  *
  * @copydoc zelmSub_maTmaT_32f
  */
+ZELM_DEPARTS("takes its elements from the stored places that a table names: use zelmSub_maTmaT_32f_6x6_LS2, see "
+        "docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_maTmaT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -5931,7 +6087,7 @@ ZELM_API ZelmStatus zelmSub_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -5948,7 +6104,8 @@ ZELM_API ZelmStatus zelmSub_mma_32f_5x5(const float *src1, int32_t src1RowStride
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mma_32f
  */
@@ -5995,7 +6152,8 @@ ZELM_API ZelmStatus zelmSub_mma_32f_5x5_L(const float *src1, int32_t src1RowStri
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mma_32f
  */
@@ -6046,7 +6204,8 @@ ZELM_API ZelmStatus zelmSub_mma_64f_5x5(const double *src1, int32_t src1RowStrid
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mma_32f
  */
@@ -6088,11 +6247,16 @@ ZELM_API ZelmStatus zelmSub_mma_64f_L(const double *src1, int32_t src1RowStride,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1 and src1RowStride are
+ * multiples of 16, and an object of src2 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmSub_mma_64f_3x3_LS2(src1, src1RowStride, 8, src2Table,
+ * src2Shift, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mma_32f
  */
+ZELM_DEPARTS("where src1 and src1RowStride are multiples of 16, and an object of src2 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use zelmSub_mma_64f_3x3_LS2, "
+        "see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mma_64f_3x3_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
@@ -6103,7 +6267,8 @@ ZELM_API ZelmStatus zelmSub_mma_64f_5x5_L(const double *src1, int32_t src1RowStr
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mma_32f
  */
@@ -6153,7 +6318,7 @@ ZELM_API ZelmStatus zelmSub_mma_64f_6x6_LS2(const double *src1, int32_t src1RowS
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -6170,7 +6335,8 @@ ZELM_API ZelmStatus zelmSub_mmaT_32f_5x5(const float *src1, int32_t src1RowStrid
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mmaT_32f
  */
@@ -6217,7 +6383,8 @@ ZELM_API ZelmStatus zelmSub_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStr
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mmaT_32f
  */
@@ -6268,7 +6435,8 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_5x5(const double *src1, int32_t src1RowStri
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mmaT_32f
  */
@@ -6319,7 +6487,8 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_5x5_L(const double *src1, int32_t src1RowSt
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mmaT_32f
  */
@@ -6369,7 +6538,7 @@ ZELM_API ZelmStatus zelmSub_mmaT_64f_6x6_LS2(const double *src1, int32_t src1Row
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -6474,7 +6643,8 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_5x5(const double *src1, int32_t src1RowStri
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mTma_32f
  */
@@ -6516,11 +6686,16 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_L(const double *src1, int32_t src1RowStride
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: pairs the invariant with other elements where one of invariant and object is a multiple of
- * 16 and the other is not.
+ * Departs from its row (gives other values than its formula on ordinary data) where src1 and src1RowStride are
+ * multiples of 16, and an object of src2 or dst or their row strides are not, or the other way round: pairs the
+ * elements of the invariant with others. Instead: zelmSub_mTma_64f_3x3_LS2(src1, src1RowStride, 8, src2Table,
+ * src2Shift, src2RowStride, 8, dstTable, dstShift, dstRowStride, 8, count).
  *
  * @copydoc zelmSub_mTma_32f
  */
+ZELM_DEPARTS("where src1 and src1RowStride are multiples of 16, and an object of src2 or dst or their row strides are "
+        "not, or the other way round, pairs the elements of the invariant with others: use "
+        "zelmSub_mTma_64f_3x3_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmSub_mTma_64f_3x3_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -6531,7 +6706,8 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_5x5_L(const double *src1, int32_t src1RowSt
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mTma_32f
  */
@@ -6581,7 +6757,7 @@ ZELM_API ZelmStatus zelmSub_mTma_64f_6x6_LS2(const double *src1, int32_t src1Row
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source of the same addressing, for rows without T.
  */
@@ -6686,7 +6862,8 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_5x5(const double *src1, int32_t src1RowStr
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mTmaT_32f
  */
@@ -6737,7 +6914,8 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowS
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the invariant operand anew for every object.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst overlaps the invariant operand: reads the invariant operand anew for every object.
  *
  * @copydoc zelmSub_mTmaT_32f
  */
@@ -6793,7 +6971,7 @@ ZELM_API ZelmStatus zelmSub_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1Ro
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -6858,7 +7036,7 @@ ZELM_API ZelmStatus zelmMul_vc_64f_6x1_P(const double *const *srcTable, int32_t 
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -6993,7 +7171,7 @@ ZELM_API ZelmStatus zelmMul_vac_64f_6x1_LS2(const double *const *srcTable, int32
  * them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -7068,7 +7246,7 @@ ZELM_API ZelmStatus zelmMul_mc_64f_6x6_P(const double *const *srcTable, int32_t 
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -7077,7 +7255,8 @@ ZELM_API ZelmStatus zelmMul_mTc_32f(const float *src, int32_t srcRowStride, floa
 ZELM_API ZelmStatus zelmMul_mTc_32f_3x3(const float *src, int32_t srcRowStride, float val, float *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: reads the whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads the whole matrix first: dst may be src.
  *
  * @copydoc zelmMul_mTc_32f
  */
@@ -7112,7 +7291,8 @@ ZELM_API ZelmStatus zelmMul_mTc_64f(const double *src, int32_t srcRowStride, dou
 ZELM_API ZelmStatus zelmMul_mTc_64f_3x3(const double *src, int32_t srcRowStride, double val, double *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: reads the whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads the whole matrix first: dst may be src.
  *
  * @copydoc zelmMul_mTc_32f
  */
@@ -7153,7 +7333,7 @@ ZELM_API ZelmStatus zelmMul_mTc_64f_6x6_P(const double *const *srcTable, int32_t
  * in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -7312,7 +7492,7 @@ ZELM_API ZelmStatus zelmMul_mac_64f_6x6_LS2(const double *const *srcTable, int32
  * elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src of the same addressing, for rows without T.
  */
@@ -7321,7 +7501,8 @@ ZELM_API ZelmStatus zelmMul_maTc_32f(const float *src, int32_t srcObjStride, int
 ZELM_API ZelmStatus zelmMul_maTc_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride, float val,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads the whole matrix first: dst may be src.
  *
  * @copydoc zelmMul_maTc_32f
  */
@@ -7362,7 +7543,8 @@ ZELM_API ZelmStatus zelmMul_maTc_32f_L(const float *const *srcTable, int32_t src
 ZELM_API ZelmStatus zelmMul_maTc_32f_3x3_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         float val, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads the whole matrix first: dst may be src.
  *
  * @copydoc zelmMul_maTc_32f
  */
@@ -7403,7 +7585,8 @@ ZELM_API ZelmStatus zelmMul_maTc_64f(const double *src, int32_t srcObjStride, in
 ZELM_API ZelmStatus zelmMul_maTc_64f_3x3(const double *src, int32_t srcObjStride, int32_t srcRowStride, double val,
         double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads the whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads the whole matrix first: dst may be src.
  *
  * @copydoc zelmMul_maTc_32f
  */
@@ -7493,7 +7676,7 @@ ZELM_API ZelmStatus zelmMul_maTc_64f_6x6_LS2(const double *const *srcTable, int3
  * stands for it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -7559,7 +7742,7 @@ ZELM_API ZelmStatus zelmSaxpy_vv_64f_6x1_P(const double *const *src1Table, int32
  * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -7730,7 +7913,7 @@ ZELM_API ZelmStatus zelmSaxpy_vav_64f_6x1_LS2(const double *const *src1Table, in
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -7908,7 +8091,7 @@ ZELM_API ZelmStatus zelmSaxpy_vava_64f_6x1_LS2(const double *const *src1Table, i
  * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -8079,7 +8262,7 @@ ZELM_API ZelmStatus zelmSaxpy_vva_64f_6x1_LS2(const double *src1, int32_t src1El
  * name stands for it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -8157,7 +8340,7 @@ ZELM_API ZelmStatus zelmLComb_vv_64f_6x1_P(const double *const *src1Table, int32
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */
@@ -8332,7 +8515,7 @@ ZELM_API ZelmStatus zelmLComb_vav_64f_6x1_LS2(const double *const *src1Table, in
  * len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be a source; partial overlap gives what the ascending loop gives.
  */

@@ -30,7 +30,7 @@ extern "C" {
  * and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must not overlap src.
  */
@@ -39,7 +39,8 @@ ZELM_API ZelmStatus zelmTranspose_m_32f(const float *src, int32_t srcRowStride, 
 ZELM_API ZelmStatus zelmTranspose_m_32f_3x3(const float *src, int32_t srcRowStride, float *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: reads a whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads a whole matrix first: dst may be src.
  *
  * @copydoc zelmTranspose_m_32f
  */
@@ -60,11 +61,15 @@ ZELM_API ZelmStatus zelmTranspose_m_32f_5x5_S2(const float *src, int32_t srcRowS
 ZELM_API ZelmStatus zelmTranspose_m_32f_6x6_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_32f_PP(srcTable, srcShift, 0, dstTransposed, dstShift, 0, width, height, 1), dstTransposed:
+ * a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_m_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_32f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_m_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmTranspose_m_32f_3x3_P(const float *const *srcTable, int32_t srcShift,
@@ -80,7 +85,8 @@ ZELM_API ZelmStatus zelmTranspose_m_64f(const double *src, int32_t srcRowStride,
 ZELM_API ZelmStatus zelmTranspose_m_64f_3x3(const double *src, int32_t srcRowStride, double *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: reads a whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads a whole matrix first: dst may be src.
  *
  * @copydoc zelmTranspose_m_32f
  */
@@ -101,11 +107,15 @@ ZELM_API ZelmStatus zelmTranspose_m_64f_5x5_S2(const double *src, int32_t srcRow
 ZELM_API ZelmStatus zelmTranspose_m_64f_6x6_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_64f_PP(srcTable, srcShift, 0, dstTransposed, dstShift, 0, width, height, 1), dstTransposed:
+ * a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_m_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_64f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_m_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, double *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmTranspose_m_64f_3x3_P(const double *const *srcTable, int32_t srcShift,
@@ -127,7 +137,7 @@ ZELM_API ZelmStatus zelmTranspose_m_64f_6x6_P(const double *const *srcTable, int
  * stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must not overlap src.
  */
@@ -136,7 +146,8 @@ ZELM_API ZelmStatus zelmTranspose_ma_32f(const float *src, int32_t srcObjStride,
 ZELM_API ZelmStatus zelmTranspose_ma_32f_3x3(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: reads a whole matrix first: dst may be src.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where dst is src: reads a whole matrix first: dst may be src.
  *
  * @copydoc zelmTranspose_ma_32f
  */
@@ -162,11 +173,15 @@ ZELM_API ZelmStatus zelmTranspose_ma_32f_6x6_S2(const float *src, int32_t srcObj
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_32f_PP(srcTable, srcShift, 4, dstTransposed, dstShift, 4, width, height, count),
+ * dstTransposed: a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_ma_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_32f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_ma_32f_P(const float *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_32f_3x3_P(const float *const *srcTable, int32_t srcShift,
@@ -189,11 +204,15 @@ ZELM_API ZelmStatus zelmTranspose_ma_32f_5x5_L(const float *const *srcTable, int
 ZELM_API ZelmStatus zelmTranspose_ma_32f_6x6_L(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_32f_PP(srcTable, srcShift, srcObjStride, dstTransposed, dstShift, dstObjStride, width,
+ * height, count), dstTransposed: a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_ma_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_32f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_ma_32f_PS2(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         uint32_t width, uint32_t height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
@@ -246,11 +265,15 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_S2(const double *src, int32_t srcOb
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_64f_PP(srcTable, srcShift, 8, dstTransposed, dstShift, 8, width, height, count),
+ * dstTransposed: a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_ma_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_64f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_ma_64f_P(const double *const *srcTable, int32_t srcShift, uint32_t width,
         uint32_t height, double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmTranspose_ma_64f_3x3_P(const double *const *srcTable, int32_t srcShift,
@@ -273,11 +296,15 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_5x5_L(const double *const *srcTable, in
 ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_L(const double *const *srcTable, int32_t srcShift,
         int32_t srcRowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: the tables are numbered with the row length of the other operand: element (i, j) of src is
- * at srcTable[i*height + j].
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height: the
+ * tables are numbered with the row length of the other operand: element (i, j) of src is at srcTable[i*height + j].
+ * Instead: zelmCopy_ma_64f_PP(srcTable, srcShift, srcObjStride, dstTransposed, dstShift, dstObjStride, width,
+ * height, count), dstTransposed: a table with the entries of dstTable in the order of src's elements.
  *
  * @copydoc zelmTranspose_ma_32f
  */
+ZELM_DEPARTS("where width differs from height, the tables are numbered with the row length of the other operand: element "
+        "(i, j) of src is at srcTable[i*height + j]: use zelmCopy_ma_64f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmTranspose_ma_64f_PS2(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         uint32_t width, uint32_t height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
@@ -324,8 +351,8 @@ ZELM_API ZelmStatus zelmTranspose_ma_64f_6x6_LS2(const double *const *srcTable, 
  * Shapes: src: array of vectors; dst: array of vectors. Units: len in elements (a size in the name stands for it);
  * count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: len is zero.
  *
  * Overlap: src and dst must not overlap partly.
  */
@@ -338,10 +365,13 @@ ZELM_API ZelmStatus zelmCopy_va_32f_SL(const float *src, int32_t srcObjStride, i
 ZELM_API ZelmStatus zelmCopy_va_32f_PS(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
 /**
- * Departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read.
+ * Departs from its row (gives other values than its formula on ordinary data): takes the pointers of both sides
+ * from dstTable; srcTable is tested and otherwise not read. Instead: zelmCopy_ma_32f_PP(srcTable, srcShift,
+ * srcObjStride, dstTable, dstShift, dstObjStride, len, 1, count).
  *
  * @copydoc zelmCopy_va_32f_SS
  */
+ZELM_DEPARTS("takes the pointers of both sides from dstTable: use zelmCopy_ma_32f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmCopy_va_32f_PP(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_32f_PL(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
@@ -361,10 +391,13 @@ ZELM_API ZelmStatus zelmCopy_va_64f_SL(const double *src, int32_t srcObjStride, 
 ZELM_API ZelmStatus zelmCopy_va_64f_PS(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t len, uint32_t count);
 /**
- * Departs from its row: takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read.
+ * Departs from its row (gives other values than its formula on ordinary data): takes the pointers of both sides
+ * from dstTable; srcTable is tested and otherwise not read. Instead: zelmCopy_ma_64f_PP(srcTable, srcShift,
+ * srcObjStride, dstTable, dstShift, dstObjStride, len, 1, count).
  *
  * @copydoc zelmCopy_va_32f_SS
  */
+ZELM_DEPARTS("takes the pointers of both sides from dstTable: use zelmCopy_ma_64f_PP, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmCopy_va_64f_PP(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t len, uint32_t count);
 ZELM_API ZelmStatus zelmCopy_va_64f_PL(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
@@ -385,8 +418,8 @@ ZELM_API ZelmStatus zelmCopy_va_64f_LL(const double *const *srcTable, int32_t sr
  * Shapes: src: array of matrices; dst: array of matrices. Units: width, height in elements (a size in the name
  * stands for them); count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested).
  *
  * Overlap: src and dst must not overlap partly.
  */
@@ -465,8 +498,8 @@ ZELM_API ZelmStatus zelmCopy_ma_64f_LL(const double *const *srcTable, int32_t sr
  * Shapes: src: vector; dst: a packed buffer. Units: len in elements (a size in the name stands for it); strides and
  * shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
@@ -474,7 +507,8 @@ ZELM_API ZelmStatus zelmExtract_v_32f_S2(const float *src, int32_t srcElemStride
 ZELM_API ZelmStatus zelmExtract_v_32f_P(const float *const *srcTable, int32_t srcShift, float *dst, uint32_t len);
 ZELM_API ZelmStatus zelmExtract_v_64f_S2(const double *src, int32_t srcElemStride, double *dst, uint32_t len);
 /**
- * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ * Departs from its row (tests less than its row, or at another time): tests nothing; a dimension of zero moves
+ * nothing.
  *
  * @copydoc zelmExtract_v_32f_S2
  */
@@ -489,15 +523,16 @@ ZELM_API ZelmStatus zelmExtract_v_64f_P(const double *const *srcTable, int32_t s
  * Shapes: src: matrix; dst: a packed buffer. Units: width, height in elements (a size in the name stands for them);
  * strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
         uint32_t width, uint32_t height);
 /**
- * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ * Departs from its row (tests less than its row, or at another time): tests nothing; a dimension of zero moves
+ * nothing.
  *
  * @copydoc zelmExtract_m_32f_S2
  */
@@ -506,7 +541,8 @@ ZELM_API ZelmStatus zelmExtract_m_32f_P(const float *const *srcTable, int32_t sr
 ZELM_API ZelmStatus zelmExtract_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, uint32_t width, uint32_t height);
 /**
- * Departs from its row: tests nothing; a dimension of zero moves nothing.
+ * Departs from its row (tests less than its row, or at another time): tests nothing; a dimension of zero moves
+ * nothing.
  *
  * @copydoc zelmExtract_m_32f_S2
  */
@@ -522,29 +558,37 @@ ZELM_API ZelmStatus zelmExtract_m_64f_P(const double *const *srcTable, int32_t s
  * Shapes: src: matrix used transposed; dst: a packed buffer. Units: width, height in elements (a size in the name
  * stands for them); strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_mT_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride, float *dst,
         uint32_t width, uint32_t height);
 /**
- * Departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and
- * packs width rows of height elements.
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height, or
+ * srcShift is not 0: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and packs
+ * width rows of height elements. Instead: zelmCopy_ma_32f_PS(srcTable, srcShift, 0, dst, width * height * 4, 4,
+ * width * 4, height, width, 1).
  *
  * @copydoc zelmExtract_mT_32f_S2
  */
+ZELM_DEPARTS("where width differs from height, or srcShift is not 0, tests nothing: use zelmCopy_ma_32f_PS, see "
+        "docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmExtract_mT_32f_P(const float *const *srcTable, int32_t srcShift, float *dst, uint32_t width,
         uint32_t height);
 ZELM_API ZelmStatus zelmExtract_mT_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, uint32_t width, uint32_t height);
 /**
- * Departs from its row: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and
- * packs width rows of height elements.
+ * Departs from its row (gives other values than its formula on ordinary data) where width differs from height, or
+ * srcShift is not 0: tests nothing; srcShift is not read; takes srcTable as height rows of width entries and packs
+ * width rows of height elements. Instead: zelmCopy_ma_64f_PS(srcTable, srcShift, 0, dst, width * height * 8, 8,
+ * width * 8, height, width, 1).
  *
  * @copydoc zelmExtract_mT_32f_S2
  */
+ZELM_DEPARTS("where width differs from height, or srcShift is not 0, tests nothing: use zelmCopy_ma_64f_PS, see "
+        "docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmExtract_mT_64f_P(const double *const *srcTable, int32_t srcShift, double *dst,
         uint32_t width, uint32_t height);
 /** @} */
@@ -557,8 +601,8 @@ ZELM_API ZelmStatus zelmExtract_mT_64f_P(const double *const *srcTable, int32_t 
  * Shapes: src: array of vectors; dst: a packed buffer. Units: len in elements (a size in the name stands for it);
  * count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
@@ -584,8 +628,8 @@ ZELM_API ZelmStatus zelmExtract_va_64f_LS2(const double *const *srcTable, int32_
  * Shapes: src: array of matrices; dst: a packed buffer. Units: width, height in elements (a size in the name stands
  * for them); count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
@@ -611,18 +655,21 @@ ZELM_API ZelmStatus zelmExtract_ma_64f_LS2(const double *const *srcTable, int32_
  * Shapes: src: array of matrices used transposed; dst: a packed buffer. Units: width, height in elements (a size in
  * the name stands for them); count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: a dimension or count is zero.
  *
  * Overlap: src and dst must not overlap.
  */
 ZELM_API ZelmStatus zelmExtract_maT_32f_S2(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, float *dst, uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: does not transpose.
+ * Departs from its row (gives other values than its formula on ordinary data): does not transpose. Instead:
+ * zelmCopy_ma_32f_PS(srcTable, srcShift, srcObjStride, dst, width * height * 4, 4, width * 4, height, width,
+ * count).
  *
  * @copydoc zelmExtract_maT_32f_S2
  */
+ZELM_DEPARTS("does not transpose: use zelmCopy_ma_32f_PS, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmExtract_maT_32f_PS2(const float *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         float *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_maT_32f_LS2(const float *const *srcTable, int32_t srcShift, int32_t srcRowStride,
@@ -630,10 +677,13 @@ ZELM_API ZelmStatus zelmExtract_maT_32f_LS2(const float *const *srcTable, int32_
 ZELM_API ZelmStatus zelmExtract_maT_64f_S2(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         int32_t srcElemStride, double *dst, uint32_t width, uint32_t height, uint32_t count);
 /**
- * Departs from its row: does not transpose.
+ * Departs from its row (gives other values than its formula on ordinary data): does not transpose. Instead:
+ * zelmCopy_ma_64f_PS(srcTable, srcShift, srcObjStride, dst, width * height * 8, 8, width * 8, height, width,
+ * count).
  *
  * @copydoc zelmExtract_maT_32f_S2
  */
+ZELM_DEPARTS("does not transpose: use zelmCopy_ma_64f_PS, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmExtract_maT_64f_PS2(const double *const *srcTable, int32_t srcShift, int32_t srcObjStride,
         double *dst, uint32_t width, uint32_t height, uint32_t count);
 ZELM_API ZelmStatus zelmExtract_maT_64f_LS2(const double *const *srcTable, int32_t srcShift, int32_t srcRowStride,
@@ -663,8 +713,8 @@ ZELM_API ZelmStatus zelmExtract_maT_64f_LS2(const double *const *srcTable, int32
  * Shapes: dst: array of matrices. Units: width, height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: count is zero.
  *
  * Overlap: There is no source.
  */

@@ -33,7 +33,7 @@ extern "C" {
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
@@ -99,23 +99,26 @@ ZELM_API ZelmStatus zelmMul_mv_64f_6x6_P(const double *const *src1Table, int32_t
 /** @name zelmMul_mTv */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height elements, and each sum src1Width terms, so that as many elements of src2 are read.
  *
  * Shapes: src1: matrix used transposed; src2: vector; dst: vector. Units: src1Width, src1Height, src2Len in
  * elements (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst);
 ZELM_API ZelmStatus zelmMul_mTv_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
 ZELM_API ZelmStatus zelmMul_mTv_32f_4x4(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
 ZELM_API ZelmStatus zelmMul_mTv_32f_5x5(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
 ZELM_API ZelmStatus zelmMul_mTv_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2, float *dst);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ElemStride, uint32_t src2Len,
         float *dst, int32_t dstElemStride);
@@ -127,6 +130,7 @@ ZELM_API ZelmStatus zelmMul_mTv_32f_5x5_S2(const float *src1, int32_t src1RowStr
         const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmMul_mTv_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ElemStride, float *dst, int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift);
@@ -138,12 +142,14 @@ ZELM_API ZelmStatus zelmMul_mTv_32f_5x5_P(const float *const *src1Table, int32_t
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTv_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, uint32_t src2Len, double *dst);
 ZELM_API ZelmStatus zelmMul_mTv_64f_3x3(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
 ZELM_API ZelmStatus zelmMul_mTv_64f_4x4(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
 ZELM_API ZelmStatus zelmMul_mTv_64f_5x5(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
 ZELM_API ZelmStatus zelmMul_mTv_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2, double *dst);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ElemStride, uint32_t src2Len,
         double *dst, int32_t dstElemStride);
@@ -155,6 +161,7 @@ ZELM_API ZelmStatus zelmMul_mTv_64f_5x5_S2(const double *src1, int32_t src1RowSt
         const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
 ZELM_API ZelmStatus zelmMul_mTv_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ElemStride, double *dst, int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mv_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTv_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         double *const *dstTable, int32_t dstShift);
@@ -178,7 +185,7 @@ ZELM_API ZelmStatus zelmMul_mTv_64f_6x6_P(const double *const *src1Table, int32_
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
@@ -350,18 +357,20 @@ ZELM_API ZelmStatus zelmMul_mva_64f_6x6_LS2(const double *src1, int32_t src1RowS
 /** @name zelmMul_mTva */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height elements, and each sum src1Width terms, so that as many elements of src2 are read.
  *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of vectors; dst: array of vectors.
  * Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides
  * and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len, float *dst,
         int32_t dstObjStride, uint32_t count);
@@ -373,6 +382,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5(const float *src1, int32_t src1RowStrid
         int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride,
         uint32_t src2Len, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
@@ -388,6 +398,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -399,6 +410,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -410,6 +422,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5_L(const float *src1, int32_t src1RowStr
         int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f_PS2(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Len, float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -425,6 +438,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, uint32_t src2Len, float *const *dstTable, int32_t dstShift, int32_t dstElemStride,
@@ -441,6 +455,7 @@ ZELM_API ZelmStatus zelmMul_mTva_32f_5x5_LS2(const float *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTva_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ElemStride, float *const *dstTable,
         int32_t dstShift, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2ObjStride, uint32_t src2Len, double *dst,
         int32_t dstObjStride, uint32_t count);
@@ -452,6 +467,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5(const double *src1, int32_t src1RowStri
         int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride,
         uint32_t src2Len, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
@@ -467,6 +483,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -482,6 +499,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -497,6 +515,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5_L(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f_PS2(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Len, double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -512,6 +531,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mva_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTva_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, uint32_t src2Len, double *const *dstTable, int32_t dstShift, int32_t dstElemStride,
@@ -540,7 +560,7 @@ ZELM_API ZelmStatus zelmMul_mTva_64f_6x6_LS2(const double *src1, int32_t src1Row
  * shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
@@ -710,18 +730,20 @@ ZELM_API ZelmStatus zelmMul_mav_64f_6x6_LS2(const double *const *src1Table, int3
 /** @name zelmMul_maTv */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height elements, and each sum src1Width terms, so that as many elements of src2 are read.
  *
  * Shapes: src1: array of matrices used transposed; src2: vector, the same for every object; dst: array of vectors.
  * Units: src1Width, src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides
  * and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, uint32_t src2Len, float *dst,
         int32_t dstObjStride, uint32_t count);
@@ -733,6 +755,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5(const float *src1, int32_t src1ObjStrid
         const float *src2, float *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, float *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ElemStride,
         uint32_t src2Len, float *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
@@ -748,6 +771,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5_S2(const float *src1, int32_t src1ObjSt
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2ElemStride, float *dst, int32_t dstObjStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -759,6 +783,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, uint32_t src2Len, float *const *dstTable,
         int32_t dstShift, uint32_t count);
@@ -770,6 +795,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5_L(const float *const *src1Table, int32_
         const float *src2, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -785,6 +811,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ElemStride,
         uint32_t src2Len, float *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -800,6 +827,7 @@ ZELM_API ZelmStatus zelmMul_maTv_32f_5x5_LS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTv_32f_6x6_LS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, uint32_t src2Len, double *dst,
         int32_t dstObjStride, uint32_t count);
@@ -811,6 +839,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5(const double *src1, int32_t src1ObjStri
         const double *src2, double *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, double *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ElemStride,
         uint32_t src2Len, double *dst, int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
@@ -826,6 +855,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5_S2(const double *src1, int32_t src1ObjS
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const double *src2, int32_t src2ElemStride, double *dst, int32_t dstObjStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -841,6 +871,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, uint32_t src2Len, double *const *dstTable,
         int32_t dstShift, uint32_t count);
@@ -852,6 +883,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5_L(const double *const *src1Table, int32
         const double *src2, double *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, double *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         uint32_t src2Len, double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
@@ -867,6 +899,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mav_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTv_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ElemStride,
         uint32_t src2Len, double *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
@@ -893,7 +926,7 @@ ZELM_API ZelmStatus zelmMul_maTv_64f_6x6_LS2(const double *const *src1Table, int
  * src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
@@ -1073,18 +1106,20 @@ ZELM_API ZelmStatus zelmMul_mava_64f_6x6_LS2(const double *const *src1Table, int
 /** @name zelmMul_maTva */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height elements, and each sum src1Width terms, so that as many elements of src2 are read.
  *
  * Shapes: src1: array of matrices used transposed; src2: array of vectors; dst: array of vectors. Units: src1Width,
  * src1Height, src2Len in elements (a size in the name stands for them); count in objects; strides and shifts in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides) in the fixed-size standard and L forms where both are single
  * or both arrays. Otherwise dst must overlap no source.
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, uint32_t src2Len,
         float *dst, int32_t dstObjStride, uint32_t count);
@@ -1096,6 +1131,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5(const float *src1, int32_t src1ObjStri
         const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, float *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2ElemStride, uint32_t src2Len, float *dst, int32_t dstObjStride, int32_t dstElemStride,
@@ -1112,6 +1148,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5_S2(const float *src1, int32_t src1ObjS
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -1123,6 +1160,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5_P(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -1134,6 +1172,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5_L(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Len, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -1150,6 +1189,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len, float *const *dstTable, int32_t dstShift,
@@ -1166,6 +1206,7 @@ ZELM_API ZelmStatus zelmMul_maTva_32f_5x5_LS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTva_32f_6x6_LS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, int32_t src1ElemStride, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, uint32_t src2Len,
         double *dst, int32_t dstObjStride, uint32_t count);
@@ -1177,6 +1218,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5(const double *src1, int32_t src1ObjStr
         const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, double *dst, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2ElemStride, uint32_t src2Len, double *dst, int32_t dstObjStride, int32_t dstElemStride,
@@ -1193,6 +1235,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5_S2(const double *src1, int32_t src1Obj
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Len,
         double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -1208,6 +1251,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5_P(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         uint32_t src2Len, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -1223,6 +1267,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5_L(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, double *const *dstTable,
         int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Len, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -1239,6 +1284,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mava_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTva_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2ElemStride, uint32_t src2Len, double *const *dstTable, int32_t dstShift,
@@ -1283,7 +1329,7 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_LS2(const double *const *src1Table, in
  * (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
@@ -1367,13 +1413,15 @@ ZELM_API ZelmStatus zelmMul_mm_64f_6x6_P(const double *const *src1Table, int32_t
 /** @name zelmMul_mmT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms of S2 and P only where src2 is square (docs/before-you-choose.md);
+ * otherwise dst has src2Width columns, each sum src2Height terms, and src2 is read as src2Width rows of src2Height
+ * elements.
  *
  * Shapes: src1: matrix; src2: matrix used transposed; dst: matrix. Units: src1Width, src1Height, src2Width,
  * src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
@@ -1381,8 +1429,9 @@ ZELM_API ZelmStatus zelmMul_mm_64f_6x6_P(const double *const *src1Table, int32_t
 ZELM_API ZelmStatus zelmMul_mmT_32f_3x3(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 /**
- * Departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the
- * transpose of src2.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where src2 is not square: dst has src2Height columns, and the sums have src2Width terms: the true
+ * product by the transpose of src2.
  *
  * @copydoc zelmMul_mmT_32f_3x3
  */
@@ -1395,6 +1444,7 @@ ZELM_API ZelmStatus zelmMul_mmT_32f_5x5(const float *src1, int32_t src1RowStride
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mm_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1410,6 +1460,7 @@ ZELM_API ZelmStatus zelmMul_mmT_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mm_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift);
@@ -1422,8 +1473,9 @@ ZELM_API ZelmStatus zelmMul_mmT_32f_5x5_P(const float *const *src1Table, int32_t
 ZELM_API ZelmStatus zelmMul_mmT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
 /**
- * Departs from its row: dst has src2Height columns, and the sums have src2Width terms: the true product by the
- * transpose of src2.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where src2 is not square: dst has src2Height columns, and the sums have src2Width terms: the true
+ * product by the transpose of src2.
  *
  * @copydoc zelmMul_mmT_32f_3x3
  */
@@ -1438,6 +1490,7 @@ ZELM_API ZelmStatus zelmMul_mmT_64f_5x5(const double *src1, int32_t src1RowStrid
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1453,6 +1506,7 @@ ZELM_API ZelmStatus zelmMul_mmT_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mm_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift);
@@ -1469,17 +1523,19 @@ ZELM_API ZelmStatus zelmMul_mmT_64f_6x6_P(const double *const *src1Table, int32_
 /** @name zelmMul_mTm */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height rows, and src1 is read as a square of that order.
  *
  * Shapes: src1: matrix used transposed; src2: matrix; dst: matrix. Units: src1Width, src1Height, src2Width,
  * src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         float *dst, int32_t dstRowStride);
@@ -1491,6 +1547,7 @@ ZELM_API ZelmStatus zelmMul_mTm_32f_5x5(const float *src1, int32_t src1RowStride
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTm_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1506,6 +1563,7 @@ ZELM_API ZelmStatus zelmMul_mTm_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mTm_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift);
@@ -1517,6 +1575,7 @@ ZELM_API ZelmStatus zelmMul_mTm_32f_5x5_P(const float *const *src1Table, int32_t
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTm_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         double *dst, int32_t dstRowStride);
@@ -1528,6 +1587,7 @@ ZELM_API ZelmStatus zelmMul_mTm_64f_5x5(const double *src1, int32_t src1RowStrid
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTm_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1543,6 +1603,7 @@ ZELM_API ZelmStatus zelmMul_mTm_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTm_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mm_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTm_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift);
@@ -1559,17 +1620,19 @@ ZELM_API ZelmStatus zelmMul_mTm_64f_6x6_P(const double *const *src1Table, int32_
 /** @name zelmMul_mTmT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 and src2 are square (docs/before-you-choose.md);
+ * otherwise dst is a square of order src1Height = src2Width, and each sum has src2Height terms.
  *
  * Shapes: src1: matrix used transposed; src2: matrix used transposed; dst: matrix. Units: src1Width, src1Height,
  * src2Width, src2Height in elements (a size in the name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         float *dst, int32_t dstRowStride);
@@ -1581,6 +1644,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_32f_5x5(const float *src1, int32_t src1RowStrid
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTmT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2RowStride, float *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1596,6 +1660,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTmT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift);
@@ -1607,6 +1672,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
 ZELM_API ZelmStatus zelmMul_mTmT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height,
         double *dst, int32_t dstRowStride);
@@ -1618,6 +1684,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_64f_5x5(const double *src1, int32_t src1RowStri
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
 ZELM_API ZelmStatus zelmMul_mTmT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2RowStride, double *dst, int32_t dstRowStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, int32_t src2ElemStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -1633,6 +1700,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTmT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst, int32_t dstRowStride,
         int32_t dstElemStride);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mm_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift);
@@ -1656,7 +1724,7 @@ ZELM_API ZelmStatus zelmMul_mTmT_64f_6x6_P(const double *const *src1Table, int32
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
@@ -1696,7 +1764,8 @@ ZELM_API ZelmStatus zelmMul_mam_32f_P(const float *const *src1Table, int32_t src
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_mam_32f
  */
@@ -1728,7 +1797,8 @@ ZELM_API ZelmStatus zelmMul_mam_32f_PS2(const float *const *src1Table, int32_t s
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_mam_32f
  */
@@ -1749,7 +1819,7 @@ ZELM_API ZelmStatus zelmMul_mam_32f_LS2(const float *const *src1Table, int32_t s
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 /**
- * Departs from its row: tests no entry of src1Table or dstTable.
+ * Departs from its row (tests less than its row, or at another time): tests no entry of src1Table or dstTable.
  *
  * @copydoc zelmMul_mam_32f
  */
@@ -1867,18 +1937,20 @@ ZELM_API ZelmStatus zelmMul_mam_64f_6x6_LS2(const double *const *src1Table, int3
 /** @name zelmMul_mamT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src2 is square (docs/before-you-choose.md); otherwise dst has
+ * src2Width columns, each sum src2Height terms, and src2 is read as src2Width rows of src2Height elements.
  *
  * Shapes: src1: array of matrices; src2: matrix, the same for every object used transposed; dst: array of matrices.
  * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -1894,6 +1966,7 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_5x5(const float *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmMul_mamT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -1910,11 +1983,13 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_5x5_S2(const float *src1, int32_t src1ObjSt
 ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_mamT_32f
  */
@@ -1926,6 +2001,7 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -1941,12 +2017,14 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_5x5_L(const float *const *src1Table, int32_
 ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_mamT_32f
  */
@@ -1962,12 +2040,13 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 /**
- * Departs from its row: tests no entry of src1Table or dstTable.
+ * Departs from its row (tests less than its row, or at another time): tests no entry of src1Table or dstTable.
  *
  * @copydoc zelmMul_mamT_32f
  */
@@ -1987,6 +2066,7 @@ ZELM_API ZelmStatus zelmMul_mamT_32f_6x6_LS2(const float *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -2002,6 +2082,7 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_5x5(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_mamT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -2018,6 +2099,7 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_5x5_S2(const double *src1, int32_t src1ObjS
 ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2033,6 +2115,7 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2048,6 +2131,7 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_5x5_L(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -2064,6 +2148,7 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamT_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2089,18 +2174,21 @@ ZELM_API ZelmStatus zelmMul_mamT_64f_6x6_LS2(const double *const *src1Table, int
 /** @name zelmMul_mama */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1Width = src2Height (docs/before-you-choose.md); otherwise
+ * src1Height = src2Width is asked for, so that only square results can be had, and each sum has src2Height terms,
+ * whatever src1Width is.
  *
  * Shapes: src1: array of matrices; src2: array of matrices; dst: array of matrices. Units: src1Width, src1Height,
  * src2Width, src2Height in elements (a size in the name stands for them); count in objects; strides and shifts in
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride,
@@ -2117,6 +2205,7 @@ ZELM_API ZelmStatus zelmMul_mama_32f_5x5(const float *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmMul_mama_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst,
@@ -2137,6 +2226,7 @@ ZELM_API ZelmStatus zelmMul_mama_32f_6x6_S2(const float *src1, int32_t src1ObjSt
         int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2148,6 +2238,7 @@ ZELM_API ZelmStatus zelmMul_mama_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mama_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -2164,6 +2255,7 @@ ZELM_API ZelmStatus zelmMul_mama_32f_5x5_L(const float *const *src1Table, int32_
 ZELM_API ZelmStatus zelmMul_mama_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, float *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -2180,6 +2272,7 @@ ZELM_API ZelmStatus zelmMul_mama_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mama_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -2200,46 +2293,64 @@ ZELM_API ZelmStatus zelmMul_mama_32f_6x6_LS2(const float *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mama_64f_3x3_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mama_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mama_64f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mama_64f_4x4_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mama_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mama_64f_4x4_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mama_64f_5x5_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mama_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mama_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mama_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mama_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mama_64f_6x6_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst,
@@ -2260,6 +2371,7 @@ ZELM_API ZelmStatus zelmMul_mama_64f_6x6_S2(const double *src1, int32_t src1ObjS
         int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2275,6 +2387,7 @@ ZELM_API ZelmStatus zelmMul_mama_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mama_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2291,6 +2404,7 @@ ZELM_API ZelmStatus zelmMul_mama_64f_5x5_L(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mama_64f_6x6_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2307,6 +2421,7 @@ ZELM_API ZelmStatus zelmMul_mama_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mama_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mama_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -2332,18 +2447,20 @@ ZELM_API ZelmStatus zelmMul_mama_64f_6x6_LS2(const double *const *src1Table, int
 /** @name zelmMul_mamaT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src2 is square (docs/before-you-choose.md); otherwise dst has
+ * src2Width columns, each sum src2Height terms, and src2 is read as src2Width rows of src2Height elements.
  *
  * Shapes: src1: array of matrices; src2: array of matrices used transposed; dst: array of matrices. Units:
  * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride,
@@ -2360,6 +2477,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5(const float *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst,
@@ -2380,6 +2498,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_S2(const float *src1, int32_t src1ObjS
         int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2391,6 +2510,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5_P(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -2407,6 +2527,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5_L(const float *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, float *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -2423,6 +2544,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -2443,46 +2565,64 @@ ZELM_API ZelmStatus zelmMul_mamaT_32f_6x6_LS2(const float *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mamaT_64f_3x3_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mamaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mamaT_64f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mamaT_64f_4x4_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mamaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mamaT_64f_4x4_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mamaT_64f_5x5_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mamaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mamaT_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_mamaT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_mamaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_mamaT_64f_6x6_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst,
@@ -2503,6 +2643,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_S2(const double *src1, int32_t src1Obj
         int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2518,6 +2659,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5_P(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2534,6 +2676,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5_L(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2550,6 +2693,7 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: name other dimensions, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mamaT_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -2575,18 +2719,20 @@ ZELM_API ZelmStatus zelmMul_mamaT_64f_6x6_LS2(const double *const *src1Table, in
 /** @name zelmMul_maTm */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height rows, and src1 is read as a square of that order.
  *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object; dst: array of matrices.
  * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -2602,6 +2748,7 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_5x5(const float *src1, int32_t src1ObjStrid
 ZELM_API ZelmStatus zelmMul_maTm_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -2618,11 +2765,13 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_5x5_S2(const float *src1, int32_t src1ObjSt
 ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_maTm_32f
  */
@@ -2634,6 +2783,7 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2649,12 +2799,14 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_5x5_L(const float *const *src1Table, int32_
 ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
         uint32_t count);
 /**
- * Departs from its row: tests no table entry; src2 may be read also where count is 0.
+ * Departs from its row (tests less than its row, or at another time): tests no table entry; src2 may be read also
+ * where count is 0.
  *
  * @copydoc zelmMul_maTm_32f
  */
@@ -2670,12 +2822,13 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 /**
- * Departs from its row: tests no entry of src1Table or dstTable.
+ * Departs from its row (tests less than its row, or at another time): tests no entry of src1Table or dstTable.
  *
  * @copydoc zelmMul_maTm_32f
  */
@@ -2695,6 +2848,7 @@ ZELM_API ZelmStatus zelmMul_maTm_32f_6x6_LS2(const float *const *src1Table, int3
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -2710,6 +2864,7 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_5x5(const double *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_maTm_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -2726,6 +2881,7 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_5x5_S2(const double *src1, int32_t src1ObjS
 ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2741,6 +2897,7 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2756,6 +2913,7 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_5x5_L(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -2772,6 +2930,7 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTm_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -2797,18 +2956,20 @@ ZELM_API ZelmStatus zelmMul_maTm_64f_6x6_LS2(const double *const *src1Table, int
 /** @name zelmMul_maTmT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 and src2 are square (docs/before-you-choose.md);
+ * otherwise dst is a square of order src1Height = src2Width, and each sum has src2Height terms.
  *
  * Shapes: src1: array of matrices used transposed; src2: matrix, the same for every object used transposed; dst:
  * array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for
  * them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -2824,6 +2985,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_5x5(const float *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -2840,6 +3002,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_5x5_S2(const float *src1, int32_t src1ObjS
 ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const float *src2, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2851,6 +3014,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_5x5_P(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2866,6 +3030,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_5x5_L(const float *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *src2, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -2882,12 +3047,13 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
 /**
- * Departs from its row: tests no entry of src1Table or dstTable.
+ * Departs from its row (tests less than its row, or at another time): tests no entry of src1Table or dstTable.
  *
  * @copydoc zelmMul_maTmT_32f
  */
@@ -2907,6 +3073,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_32f_6x6_LS2(const float *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const float *src2, int32_t src2RowStride,
         int32_t src2ElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -2922,6 +3089,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_5x5(const double *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -2938,6 +3106,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_5x5_S2(const double *src1, int32_t src1Obj
 ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, const double *src2, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -2953,6 +3122,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_5x5_P(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
@@ -2968,6 +3138,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_5x5_L(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *src2, int32_t src2RowStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -2984,6 +3155,7 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmT_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -3009,18 +3181,20 @@ ZELM_API ZelmStatus zelmMul_maTmT_64f_6x6_LS2(const double *const *src1Table, in
 /** @name zelmMul_maTma */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height rows, and src1 is read as a square of that order.
  *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices; dst: array of matrices. Units:
  * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride,
@@ -3037,6 +3211,7 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_5x5(const float *src1, int32_t src1ObjStri
 ZELM_API ZelmStatus zelmMul_maTma_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst,
@@ -3057,6 +3232,7 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_6x6_S2(const float *src1, int32_t src1ObjS
         int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3068,6 +3244,7 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_5x5_P(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTma_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -3084,6 +3261,7 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_5x5_L(const float *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_maTma_32f_6x6_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, float *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -3100,6 +3278,7 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTma_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3120,46 +3299,64 @@ ZELM_API ZelmStatus zelmMul_maTma_32f_6x6_LS2(const float *const *src1Table, int
         int32_t src1RowStride, int32_t src1ElemStride, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTma_64f_3x3_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTma_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTma_64f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTma_64f_4x4_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTma_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTma_64f_4x4_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTma_64f_5x5_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTma_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTma_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTma_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTma_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTma_64f_6x6_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst,
@@ -3180,6 +3377,7 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_S2(const double *src1, int32_t src1Obj
         int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3195,6 +3393,7 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_5x5_P(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -3211,6 +3410,7 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_5x5_L(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -3227,6 +3427,7 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTma_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3252,18 +3453,20 @@ ZELM_API ZelmStatus zelmMul_maTma_64f_6x6_LS2(const double *const *src1Table, in
 /** @name zelmMul_maTmaT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 and src2 are square (docs/before-you-choose.md);
+ * otherwise dst is a square of order src1Height = src2Width, and each sum has src2Height terms.
  *
  * Shapes: src1: array of matrices used transposed; src2: array of matrices used transposed; dst: array of matrices.
  * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride,
@@ -3280,6 +3483,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_5x5(const float *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_S2(const float *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst,
@@ -3300,6 +3504,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6_S2(const float *src1, int32_t src1Obj
         int32_t src1ElemStride, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3311,6 +3516,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_5x5_P(const float *const *src1Table, int3
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_L(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -3327,6 +3533,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_5x5_L(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6_L(const float *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_PS2(const float *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift,
@@ -3343,6 +3550,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_5x5_PS2(const float *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_32f_LS2(const float *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3363,46 +3571,64 @@ ZELM_API ZelmStatus zelmMul_maTmaT_32f_6x6_LS2(const float *const *src1Table, in
         int32_t src1RowStride, int32_t src1ElemStride, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, float *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTmaT_64f_3x3_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTmaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTmaT_64f_3x3_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_3x3(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTmaT_64f_4x4_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTmaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTmaT_64f_4x4_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_4x4(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTmaT_64f_5x5_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTmaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTmaT_64f_5x5_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_5x5(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
 /**
- * Departs from its row: where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every
- * object is computed from object 0 of src1.
+ * Departs from its row (gives other values than its formula on ordinary data) where src2, src2RowStride, dst,
+ * dstObjStride and dstRowStride are multiples of 16: every object is computed from object 0 of src1. Instead:
+ * zelmMul_maTmaT_64f_6x6_S2(src1, src1ObjStride, src1RowStride, 8, src2, src2ObjStride, src2RowStride, 8, dst,
+ * dstObjStride, dstRowStride, 8, count).
  *
  * @copydoc zelmMul_maTmaT_32f
  */
+ZELM_DEPARTS("where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16, every object is "
+        "computed from object 0 of src1: use zelmMul_maTmaT_64f_6x6_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride,
         int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_S2(const double *src1, int32_t src1ObjStride, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst,
@@ -3423,6 +3649,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_S2(const double *src1, int32_t src1Ob
         int32_t src1ElemStride, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3438,6 +3665,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_5x5_P(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_L(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -3454,6 +3682,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_5x5_L(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_L(const double *const *src1Table, int32_t src1Shift,
         int32_t src1RowStride, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         double *const *dstTable, int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_PS2(const double *const *src1Table, int32_t src1Shift, int32_t src1ObjStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2ObjStride, uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift,
@@ -3470,6 +3699,7 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_5x5_PS2(const double *const *src1Table, i
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         int32_t src1ObjStride, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mamaT_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_maTmaT_64f_LS2(const double *const *src1Table, int32_t src1Shift, int32_t src1RowStride,
         int32_t src1ElemStride, uint32_t src1Width, uint32_t src1Height, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3495,18 +3725,21 @@ ZELM_API ZelmStatus zelmMul_maTmaT_64f_6x6_LS2(const double *const *src1Table, i
 /** @name zelmMul_mma */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1Width = src2Height (docs/before-you-choose.md); otherwise
+ * src1Height = src2Width is asked for, so that only square results can be had, and each sum has src2Height terms,
+ * whatever src1Width is.
  *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices; dst: array of matrices. Units:
  * src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in objects;
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -3522,6 +3755,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5(const float *src1, int32_t src1RowStride
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -3538,6 +3772,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5_S2(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3549,6 +3784,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5_P(const float *const *src1Table, int32_t
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -3565,6 +3801,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5_L(const float *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f_PS2(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -3581,6 +3818,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5_PS2(const float *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3597,6 +3835,7 @@ ZELM_API ZelmStatus zelmMul_mma_32f_5x5_LS2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -3612,6 +3851,7 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5(const double *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -3628,6 +3868,7 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5_S2(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3643,6 +3884,7 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5_P(const double *const *src1Table, int32_
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -3659,6 +3901,7 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5_L(const double *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6_L(const double *src1, int32_t src1RowStride, const double *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f_PS2(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -3675,6 +3918,7 @@ ZELM_API ZelmStatus zelmMul_mma_64f_5x5_PS2(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mma_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1Width = src2Height: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3696,18 +3940,20 @@ ZELM_API ZelmStatus zelmMul_mma_64f_6x6_LS2(const double *src1, int32_t src1RowS
 /** @name zelmMul_mmaT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src2 is square (docs/before-you-choose.md); otherwise dst has
+ * src2Width columns, each sum src2Height terms, and src2 is read as src2Width rows of src2Height elements.
  *
  * Shapes: src1: matrix, the same for every object; src2: array of matrices used transposed; dst: array of matrices.
  * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -3723,6 +3969,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5(const float *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -3739,6 +3986,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3750,6 +3998,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -3766,6 +4015,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5_L(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f_PS2(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -3782,6 +4032,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3798,6 +4049,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_32f_5x5_LS2(const float *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -3813,6 +4065,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5(const double *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -3829,6 +4082,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3844,6 +4098,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -3860,6 +4115,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5_L(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f_PS2(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -3876,6 +4132,7 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src2 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3897,18 +4154,20 @@ ZELM_API ZelmStatus zelmMul_mmaT_64f_6x6_LS2(const double *src1, int32_t src1Row
 /** @name zelmMul_mTma */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 is square (docs/before-you-choose.md); otherwise dst has
+ * src1Height rows, and src1 is read as a square of that order.
  *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices; dst: array of matrices.
  * Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for them); count in
  * objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -3924,6 +4183,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5(const float *src1, int32_t src1RowStrid
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -3940,6 +4200,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5_S2(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -3951,6 +4212,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5_P(const float *const *src1Table, int32_
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -3967,6 +4229,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5_L(const float *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f_PS2(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -3983,6 +4246,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5_PS2(const float *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -3999,6 +4263,7 @@ ZELM_API ZelmStatus zelmMul_mTma_32f_5x5_LS2(const float *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTma_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -4014,6 +4279,7 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5(const double *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -4030,6 +4296,7 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5_S2(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -4045,6 +4312,7 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5_P(const double *const *src1Table, int32
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -4061,6 +4329,7 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5_L(const double *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f_PS2(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -4077,6 +4346,7 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_5x5_PS2(const double *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 is square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTma_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -4098,18 +4368,20 @@ ZELM_API ZelmStatus zelmMul_mTma_64f_6x6_LS2(const double *src1, int32_t src1Row
 /** @name zelmMul_mTmaT */
 /** @{ */
 /**
- * dst = src1 * src2.
+ * dst = src1 * src2, in the run-time forms only where src1 and src2 are square (docs/before-you-choose.md);
+ * otherwise dst is a square of order src1Height = src2Width, and each sum has src2Height terms.
  *
  * Shapes: src1: matrix, the same for every object used transposed; src2: array of matrices used transposed; dst:
  * array of matrices. Units: src1Width, src1Height, src2Width, src2Height in elements (a size in the name stands for
  * them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero, or two that must be equal differ (run-time forms).
  *
  * Overlap: dst must overlap no source in the run-time forms; some fixed-size forms work in place
  * (docs/products.md).
  */
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, float *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -4125,6 +4397,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5(const float *src1, int32_t src1RowStri
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6(const float *src1, int32_t src1RowStride, const float *src2,
         int32_t src2ObjStride, int32_t src2RowStride, float *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, float *dst, int32_t dstObjStride,
@@ -4141,6 +4414,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5_S2(const float *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6_S2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, float *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_P(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, float *const *dstTable, int32_t dstShift, uint32_t count);
@@ -4152,6 +4426,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5_P(const float *const *src1Table, int32
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6_P(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, float *const *dstTable, int32_t dstShift, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_L(const float *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -4168,6 +4443,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5_L(const float *src1, int32_t src1RowSt
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6_L(const float *src1, int32_t src1RowStride, const float *const *src2Table,
         int32_t src2Shift, int32_t src2RowStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_PS2(const float *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, float *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -4184,6 +4460,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5_PS2(const float *const *src1Table, int
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6_PS2(const float *const *src1Table, int32_t src1Shift,
         const float *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, float *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_32f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const float *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -4200,6 +4477,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_32f_5x5_LS2(const float *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmMul_mTmaT_32f_6x6_LS2(const float *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const float *const *src2Table, int32_t src2Shift, int32_t src2RowStride, int32_t src2ElemStride,
         float *const *dstTable, int32_t dstShift, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride, uint32_t src2Width,
         uint32_t src2Height, double *dst, int32_t dstObjStride, int32_t dstRowStride, uint32_t count);
@@ -4215,6 +4493,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5(const double *src1, int32_t src1RowStr
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6(const double *src1, int32_t src1RowStride, const double *src2,
         int32_t src2ObjStride, int32_t src2RowStride, double *dst, int32_t dstObjStride, int32_t dstRowStride,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_S2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *src2, int32_t src2ObjStride, int32_t src2RowStride,
         int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height, double *dst, int32_t dstObjStride,
@@ -4231,6 +4510,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5_S2(const double *src1, int32_t src1Row
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_S2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         const double *src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double *dst,
         int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_P, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_P(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, uint32_t src2Width,
         uint32_t src2Height, double *const *dstTable, int32_t dstShift, uint32_t count);
@@ -4246,6 +4526,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5_P(const double *const *src1Table, int3
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_P(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, double *const *dstTable, int32_t dstShift,
         uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_L(const double *src1, int32_t src1RowStride, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstRowStride,
@@ -4262,6 +4543,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5_L(const double *src1, int32_t src1RowS
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_L(const double *src1, int32_t src1RowStride,
         const double *const *src2Table, int32_t src2Shift, int32_t src2RowStride, double *const *dstTable,
         int32_t dstShift, int32_t dstRowStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_PS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_PS2(const double *const *src1Table, int32_t src1Shift, uint32_t src1Width,
         uint32_t src1Height, const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride,
         uint32_t src2Width, uint32_t src2Height, double *const *dstTable, int32_t dstShift, int32_t dstObjStride,
@@ -4278,6 +4560,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_5x5_PS2(const double *const *src1Table, in
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_PS2(const double *const *src1Table, int32_t src1Shift,
         const double *const *src2Table, int32_t src2Shift, int32_t src2ObjStride, double *const *dstTable,
         int32_t dstShift, int32_t dstObjStride, uint32_t count);
+ZELM_DEPARTS_UNLESS_SQUARE("the product only where src1 and src2 are square: use zelmMul_mam_64f_LS2, see docs/before-you-choose.md")
 ZELM_API ZelmStatus zelmMul_mTmaT_64f_LS2(const double *src1, int32_t src1RowStride, int32_t src1ElemStride,
         uint32_t src1Width, uint32_t src1Height, const double *const *src2Table, int32_t src2Shift,
         int32_t src2RowStride, int32_t src2ElemStride, uint32_t src2Width, uint32_t src2Height,
@@ -4301,9 +4584,11 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1Ro
 /**
  * @defgroup gaxpy Product of a matrix and a vector, plus a vector
  *
- * src2 has width elements, src3 and dst have height. src3 is added to the finished sum. Sums run from +0 in
- * ascending order, each partial sum stored in dst, but in the fixed-size standard and L forms, which begin with the
- * first product and have an order of their own (docs/products.md).
+ * src2 has width elements, src3 and dst have height. In the va forms src3 is an array: one vector for all objects
+ * has an object stride of 0 (standard, S2, PS2; not P), or its address count times in a table (L, LS2). src3 is
+ * added to the finished sum. Sums run from +0 in ascending order, each partial sum stored in dst, but in the
+ * fixed-size standard and L forms, which begin with the first product and have an order of their own
+ * (docs/products.md).
  */
 /** @{ */
 
@@ -4316,7 +4601,7 @@ ZELM_API ZelmStatus zelmMul_mTmaT_64f_6x6_LS2(const double *src1, int32_t src1Ro
  * name stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must overlap no source.
  */
@@ -4412,7 +4697,7 @@ ZELM_API ZelmStatus zelmGaxpy_v_64f_6x6_P(const double *const *src1Table, int32_
  * shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must overlap no source.
  */

@@ -82,7 +82,7 @@ ZELM_API int32_t a6_Det_ma_64f_6x6_L(const double *const *srcTable, int32_t srcS
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must overlap neither src nor scratch.
  */
@@ -135,7 +135,7 @@ ZELM_API ZelmStatus zelmDet_m_64f_6x6_P(const double *const *srcTable, int32_t s
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must overlap neither src nor scratch.
  */
@@ -268,10 +268,12 @@ ZELM_API ZelmStatus zelmDet_ma_64f_6x6_LS2(const double *const *srcTable, int32_
  * cofactor it makes the element of the inverse zero. 3x3 and 4x4: the adjugate times the reciprocal of the
  * determinant. 5x5 and 6x6: pivots searched in the first rows and a Schur complement. S2, P, PS2, LS2:
  * ZELM_ERR_DIV_BY_ZERO if a determinant lies in -b < det < b, b = 1e-7 (32f) or 1e-15 (64f); column 5 is never
- * searched. Standard, L: exact tests; reciprocals of 32f are the processor's approximation with one Newton step. A
- * NaN is never singular in the fixed forms. A singular matrix ends the call: earlier objects are complete, its own
- * dst and later ones are untouched (but for the standard and L forms of 32f 5x5 and 6x6, which leave working rows
- * in row 0, in 6x6 rows 0 and 1).
+ * searched. Standard, L: 3x3 and 4x4 test det = 0 exactly, but 64f 3x3, which tests 1 / det = 0: there a det of 0
+ * gives infinities and NaN with ZELM_OK. 5x5 and 6x6 test their pivots against the band, and what remains exactly
+ * (docs/inverse.md). Reciprocals of 32f are the processor's approximation with one Newton step. A NaN is never
+ * singular in the fixed forms. A singular matrix ends the call: earlier objects are complete, its own dst and later
+ * ones are untouched (but for the standard and L forms of 32f 5x5 and 6x6, which leave working rows in row 0, in
+ * 6x6 rows 0 and 1).
  */
 /** @{ */
 
@@ -284,7 +286,8 @@ ZELM_API ZelmStatus zelmDet_ma_64f_6x6_LS2(const double *const *srcTable, int32_
  * bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a matrix is singular by the test of
+ * its form.
  *
  * Overlap: dst must not overlap src.
  */
@@ -351,7 +354,8 @@ ZELM_API ZelmStatus zelmInvert_m_64f_6x6_P(const double *const *srcTable, int32_
  * count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a matrix is singular by the test of
+ * its form.
  *
  * Overlap: dst must not overlap src.
  */
@@ -520,7 +524,7 @@ ZELM_API ZelmStatus zelmInvert_ma_64f_6x6_LS2(const double *const *srcTable, int
  * it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
  *
  * Overlap: dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided
  * for.
@@ -596,7 +600,7 @@ ZELM_API ZelmStatus zelmLUDecomp_m_64f_6x6_P(const double *const *srcTable, int3
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
  *
  * Overlap: dst may be src (same start, same strides, same table). Partial overlap of src and dst is not provided
  * for.
@@ -775,7 +779,7 @@ ZELM_API ZelmStatus zelmLUDecomp_ma_64f_6x6_LS2(const double *const *srcTable, i
  * name stands for it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 only where pivotIndex is the identity.
  */
@@ -862,7 +866,7 @@ ZELM_API ZelmStatus zelmLUBackSubst_mv_64f_6x6_P(const double *const *src1Table,
  * numbers. Units: n in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 only where pivotIndex is the identity.
  */
@@ -1064,7 +1068,7 @@ ZELM_API ZelmStatus zelmLUBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t 
  * object. Units: n in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 only where pivotIndex is the identity.
  */
@@ -1291,8 +1295,9 @@ ZELM_API ZelmStatus zelmLUBackSubst_mava_64f_6x6_LS2(const double *const *src1Ta
  * Shapes: src: matrix; dst: matrix. Units: n in elements (a size in the name stands for it); strides and shifts in
  * bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_NOT_POS_DEF: a pivot is not positive.
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null, or an object of an array
+ * starts at null (entries of tables are not tested); ZELM_ERR_SIZE: n or count is zero; ZELM_ERR_NOT_POS_DEF: a
+ * pivot is not positive.
  *
  * Overlap: dst may be src (same start, same strides, same table). Any other overlap is not provided for.
  */
@@ -1307,35 +1312,45 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_5x5(const float *src, int32_t srcRo
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_6x6(const float *src, int32_t srcRowStride, float *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t n);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_3x3_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_4x4_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_32f_5x5_S2(const float *src, int32_t srcRowStride, int32_t srcElemStride,
         float *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
@@ -1362,35 +1377,45 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_5x5(const double *src, int32_t srcR
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_6x6(const double *src, int32_t srcRowStride, double *dst,
         int32_t dstRowStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride, uint32_t n);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_3x3_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_4x4_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
 ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_5x5_S2(const double *src, int32_t srcRowStride, int32_t srcElemStride,
         double *dst, int32_t dstRowStride, int32_t dstElemStride);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_m_32f
  */
@@ -1416,8 +1441,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_m_64f_6x6_P(const double *const *srcTable
  * Shapes: src: array of matrices; dst: array of matrices. Units: n in elements (a size in the name stands for it);
  * count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_NOT_POS_DEF: a pivot is not positive.
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null, or an object of an array
+ * starts at null (entries of tables are not tested); ZELM_ERR_SIZE: n or count is zero; ZELM_ERR_NOT_POS_DEF: a
+ * pivot is not positive.
  *
  * Overlap: dst may be src (same start, same strides, same table). Any other overlap is not provided for.
  */
@@ -1432,7 +1458,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5(const float *src, int32_t srcO
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6(const float *src, int32_t srcObjStride, int32_t srcRowStride,
         float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1440,7 +1468,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_S2(const float *src, int32_t srcOb
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t n, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1448,7 +1478,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_3x3_S2(const float *src, int32_t s
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1456,7 +1488,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_4x4_S2(const float *src, int32_t s
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1464,7 +1498,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_S2(const float *src, int32_t s
         int32_t srcElemStride, float *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1504,7 +1540,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_PS2(const float *const *srcTab
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_6x6_PS2(const float *const *srcTable, int32_t srcShift,
         int32_t srcObjStride, float *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1512,7 +1550,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_LS2(const float *const *srcTable, 
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, uint32_t n, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1520,7 +1560,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_3x3_LS2(const float *const *srcTab
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1528,7 +1570,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_4x4_LS2(const float *const *srcTab
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1536,7 +1580,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_32f_5x5_LS2(const float *const *srcTab
         int32_t srcRowStride, int32_t srcElemStride, float *const *dstTable, int32_t dstShift, int32_t dstRowStride,
         int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1554,7 +1600,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5(const double *src, int32_t src
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6(const double *src, int32_t srcObjStride, int32_t srcRowStride,
         double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1562,7 +1610,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_S2(const double *src, int32_t srcO
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         uint32_t n, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1570,7 +1620,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_3x3_S2(const double *src, int32_t 
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1578,7 +1630,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_4x4_S2(const double *src, int32_t 
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1586,7 +1640,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_S2(const double *src, int32_t 
         int32_t srcElemStride, double *dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride,
         int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1626,7 +1682,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_PS2(const double *const *srcTa
 ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6_PS2(const double *const *srcTable, int32_t srcShift,
         int32_t srcObjStride, double *const *dstTable, int32_t dstShift, int32_t dstObjStride, uint32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements, where n is 3 to 6.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements, where n is 3 to 6.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1634,7 +1692,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_LS2(const double *const *srcTable,
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, uint32_t n, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1642,7 +1702,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_3x3_LS2(const double *const *srcTa
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1650,7 +1712,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_4x4_LS2(const double *const *srcTa
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1658,7 +1722,9 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_5x5_LS2(const double *const *srcTa
         int32_t srcRowStride, int32_t srcElemStride, double *const *dstTable, int32_t dstShift,
         int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 /**
- * Departs from its row: element strides are rounded down to whole elements.
+ * Departs from its row (differs only where operands overlap, lie at odd addresses or have shapes that its row
+ * leaves out) where an element stride is not a multiple of the element's size: element strides are rounded down to
+ * whole elements.
  *
  * @copydoc zelmCholeskyDecomp_ma_32f
  */
@@ -1687,8 +1753,8 @@ ZELM_API ZelmStatus zelmCholeskyDecomp_ma_64f_6x6_LS2(const double *const *srcTa
  * Shapes: src1: matrix; src2: vector; dst: vector. Units: n in elements (a size in the name stands for it); strides
  * and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: n or count is zero.
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1.
  */
@@ -1764,8 +1830,8 @@ ZELM_API ZelmStatus zelmCholeskyBackSubst_mv_64f_6x6_P(const double *const *src1
  * Shapes: src1: matrix, the same for every object; src2: array of vectors; dst: array of vectors. Units: n in
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: n or count is zero.
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1.
  */
@@ -1933,8 +1999,8 @@ ZELM_API ZelmStatus zelmCholeskyBackSubst_mva_64f_6x6_LS2(const double *src1, in
  * Shapes: src1: array of matrices; src2: array of vectors; dst: array of vectors. Units: n in elements (a size in
  * the name stands for it); count in objects; strides and shifts in bytes.
  *
- * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer or a table is null (entries of tables are not
+ * tested); ZELM_ERR_SIZE: n or count is zero.
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1.
  */
@@ -2136,7 +2202,8 @@ ZELM_API ZelmStatus zelmCholeskyBackSubst_mava_64f_6x6_LS2(const double *const *
  * and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a column fails the threshold, or width
+ * is above height.
  *
  * Overlap: dst may be src (same start, same strides, same table). Any other overlap is not provided for.
  */
@@ -2211,7 +2278,8 @@ ZELM_API ZelmStatus zelmQRDecomp_m_64f_6x6_P(const double *const *srcTable, int3
  * stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form); ZELM_ERR_DIV_BY_ZERO: a pivot fails the threshold.
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms); ZELM_ERR_DIV_BY_ZERO: a column fails the threshold, or width
+ * is above height.
  *
  * Overlap: dst may be src (same start, same strides, same table). Any other overlap is not provided for.
  */
@@ -2393,7 +2461,7 @@ ZELM_API ZelmStatus zelmQRDecomp_ma_64f_6x6_LS2(const double *const *srcTable, i
  * them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any
  * operand.
@@ -2473,7 +2541,7 @@ ZELM_API ZelmStatus zelmQRBackSubst_mv_64f_6x6_P(const double *const *src1Table,
  * height in elements (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any
  * operand.
@@ -2667,7 +2735,7 @@ ZELM_API ZelmStatus zelmQRBackSubst_mva_64f_6x6_LS2(const double *src1, int32_t 
  * (a size in the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst may be src2 (same start, same strides, same table). It must not overlap src1, nor scratch any
  * operand.

@@ -25,7 +25,7 @@ extern "C" {
  * name stands for it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -90,7 +90,7 @@ ZELM_API ZelmStatus zelmDotProduct_vv_64f_6x1_P(const double *const *src1Table, 
  * Units: len in elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -99,7 +99,7 @@ ZELM_API ZelmStatus zelmDotProduct_vav_32f(const float *src1, int32_t src1ObjStr
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_3x1(const float *src1, int32_t src1ObjStride, const float *src2,
         float *dst, uint32_t count);
 /**
- * Departs from its row: sums the products in pairs.
+ * Departs from its row (adds in another order than its row, so that last bits differ): sums the products in pairs.
  *
  * @copydoc zelmDotProduct_vav_32f
  */
@@ -132,14 +132,15 @@ ZELM_API ZelmStatus zelmDotProduct_vav_32f_6x1_P(const float *const *src1Table, 
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_L(const float *const *src1Table, int32_t src1Shift, const float *src2,
         float *dst, uint32_t len, uint32_t count);
 /**
- * Departs from its row: no entry of src1Table is tested.
+ * Departs from its row (tests less than its row, or at another time): no entry of src1Table is tested.
  *
  * @copydoc zelmDotProduct_vav_32f
  */
 ZELM_API ZelmStatus zelmDotProduct_vav_32f_3x1_L(const float *const *src1Table, int32_t src1Shift,
         const float *src2, float *dst, uint32_t count);
 /**
- * Departs from its row: sums the products in pairs; no entry of src1Table is tested.
+ * Departs from its row (tests less than its row, or at another time): sums the products in pairs; no entry of
+ * src1Table is tested.
  *
  * @copydoc zelmDotProduct_vav_32f
  */
@@ -203,7 +204,8 @@ ZELM_API ZelmStatus zelmDotProduct_vav_64f_6x1_P(const double *const *src1Table,
 ZELM_API ZelmStatus zelmDotProduct_vav_64f_L(const double *const *src1Table, int32_t src1Shift, const double *src2,
         double *dst, uint32_t len, uint32_t count);
 /**
- * Departs from its row: tests all entries of src1Table before it writes anything.
+ * Departs from its row (tests less than its row, or at another time): tests all entries of src1Table before it
+ * writes anything.
  *
  * @copydoc zelmDotProduct_vav_32f
  */
@@ -248,7 +250,7 @@ ZELM_API ZelmStatus zelmDotProduct_vav_64f_6x1_LS2(const double *const *src1Tabl
  * elements (a size in the name stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -569,6 +571,12 @@ ZELM_API ZelmStatus zelmCrossProduct_vva_64f_3x1_LS2(const double *src1, int32_t
 
 /**
  * @defgroup l2_norm Euclidean length
+ *
+ * The 32f forms with a size in the name, in the standard and L layouts, take the root from the processor's
+ * approximate reciprocal root and one Newton step, without a test: a zero vector gives NaN, and so does a sum of
+ * squares that is infinite. All other forms take the correctly rounded root, 0 of a zero vector: the form with an
+ * element stride (S2, LS2) serves where zeros can occur. Squares are not scaled against overflow. Orders of sums:
+ * docs/vector.md.
  */
 /** @{ */
 
@@ -581,7 +589,7 @@ ZELM_API ZelmStatus zelmCrossProduct_vva_64f_3x1_LS2(const double *src1, int32_t
  * it); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -626,7 +634,7 @@ ZELM_API ZelmStatus zelmL2Norm_v_64f_6x1_P(const double *const *srcTable, int32_
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -661,7 +669,7 @@ ZELM_API ZelmStatus zelmL2Norm_va_32f_L(const float *const *srcTable, int32_t sr
 ZELM_API ZelmStatus zelmL2Norm_va_32f_3x1_L(const float *const *srcTable, int32_t srcShift, float *dst,
         uint32_t count);
 /**
- * Departs from its row: no entry of srcTable is tested.
+ * Departs from its row (tests less than its row, or at another time): no entry of srcTable is tested.
  *
  * @copydoc zelmL2Norm_va_32f
  */
@@ -753,6 +761,12 @@ ZELM_API ZelmStatus zelmL2Norm_va_64f_6x1_LS2(const double *const *srcTable, int
 
 /**
  * @defgroup frobenius_norm Frobenius norm
+ *
+ * The 32f forms with a size in the name, in the standard and L layouts, take the root from the processor's
+ * approximate reciprocal root and one Newton step, without a test: a zero matrix gives NaN, and so does a sum of
+ * squares that is infinite. All other forms take the correctly rounded root, 0 of a zero matrix: the form with an
+ * element stride (S2, LS2) serves where zeros can occur. Squares are not scaled against overflow. Orders of sums:
+ * docs/vector.md.
  */
 /** @{ */
 
@@ -765,7 +779,7 @@ ZELM_API ZelmStatus zelmL2Norm_va_64f_6x1_LS2(const double *const *srcTable, int
  * stands for them); strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -824,7 +838,7 @@ ZELM_API ZelmStatus zelmFrobNorm_m_64f_6x6_P(const double *const *srcTable, int3
  * the name stands for them); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst is written once per object.
  */
@@ -954,6 +968,9 @@ ZELM_API ZelmStatus zelmFrobNorm_ma_64f_6x6_LS2(const double *const *srcTable, i
 
 /**
  * @defgroup trace Trace
+ *
+ * Sums run down the diagonal. All forms but the fixed-size standard ones set dst to 0 and add in place. Arrays in P
+ * and PS2 test entries 0 to n-1 of srcTable, and read those of the diagonal, i*n + i, without a test.
  */
 /** @{ */
 
@@ -966,7 +983,7 @@ ZELM_API ZelmStatus zelmFrobNorm_ma_64f_6x6_LS2(const double *const *srcTable, i
  * strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must not lie on the diagonal of src.
  */
@@ -1021,7 +1038,7 @@ ZELM_API ZelmStatus zelmTrace_m_64f_6x6_P(const double *const *srcTable, int32_t
  * stands for it); count in objects; strides and shifts in bytes.
  *
  * Status: ZELM_OK: the call completed; ZELM_ERR_NULL_PTR: a pointer, a table or an entry of a table is null;
- * ZELM_ERR_SIZE: a dimension is zero (run-time form).
+ * ZELM_ERR_SIZE: a dimension is zero (run-time forms).
  *
  * Overlap: dst must not lie on the diagonal of src.
  */

@@ -1,0 +1,79 @@
+"""Builds the extension module, and the library unless the system's is to be used (see README.md)."""
+
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+import numpy
+from setuptools import Extension, setup
+from setuptools.command.build_ext import build_ext
+
+HERE = Path(__file__).resolve().parent
+ROOT = HERE.parent
+SYSTEM = os.environ.get("ZELM_LIBRARY", "bundled") == "system"
+SOURCES = ["src/module.cpp", "src/universal.cpp", "src/hand_over.cpp"]
+# As in the library: every operation is rounded, none is fused.
+FLAGS = ["-std=c++20", "-O3", "-ffp-contract=off", "-fvisibility=hidden", "-Wall", "-Wextra", "-Wpedantic"]
+
+
+class BuildExt(build_ext):
+    def run(self):
+        work = Path(self.build_temp).resolve()
+        work.mkdir(parents=True, exist_ok=True)
+        grid, library = self.system() if SYSTEM else self.bundled(work)
+        subprocess.run([sys.executable, HERE / "src/calls.py", grid, work / "calls.h"], check=True)
+        for extension in self.extensions:
+            extension.include_dirs.append(str(work))
+        super().run()
+        if library:
+            self.carry(library)
+
+    def system(self):
+        """The library, headers and catalogue that are installed."""
+        prefix = subprocess.run(
+            ["pkg-config", "--variable=prefix", "zelm-x64"], capture_output=True, text=True, check=True
+        ).stdout.strip()
+        flags = subprocess.run(
+            ["pkg-config", "--cflags", "--libs", "zelm-x64"], capture_output=True, text=True, check=True
+        ).stdout.split()
+        for extension in self.extensions:
+            extension.extra_compile_args += [flag for flag in flags if flag.startswith("-I")]
+            extension.extra_link_args += [flag for flag in flags if not flag.startswith("-I")]
+        return Path(prefix) / "share/zelm/zelm-grid.json", None
+
+    def bundled(self, work):
+        """A build of the library from the tree that this folder is part of, installed into the build folder."""
+        prefix = work / "zelm"
+        tree = work / "zelm-build"
+        options = ["-DCMAKE_BUILD_TYPE=Release", "-DZELM_TARGET=x64", "-DZELM_BUILD_TESTS=OFF"]
+        ready = os.environ.get("ZELM_BUILD")  # a build tree of the library that is there already
+        if ready:
+            tree = ROOT / ready
+        else:
+            subprocess.run(["cmake", "-S", ROOT, "-B", tree, "-G", "Ninja", *options], check=True)
+            subprocess.run(["cmake", "--build", tree, "--target", "zelm"], check=True)
+        shutil.rmtree(prefix, ignore_errors=True)
+        subprocess.run(["cmake", "--install", tree, "--prefix", prefix, "--component", "zelm"], check=True)
+        libraries = next(prefix.glob("lib*/**/libzelmx64.so")).parent
+        for extension in self.extensions:
+            extension.include_dirs.append(str(prefix / "include"))
+            extension.extra_link_args += [f"-L{libraries}", "-lzelmx64", "-Wl,-rpath,$ORIGIN/lib"]
+        return prefix / "share/zelm/zelm-grid.json", libraries
+
+    def carry(self, libraries):
+        """Puts the library, and its builds for wider processors, into the package."""
+        package = Path(self.get_ext_fullpath("zelm._core")).parent
+        names = {path.name for path in libraries.glob("libzelmx64.so*")}
+        soname = "libzelmx64.so.4" if "libzelmx64.so.4" in names else "libzelmx64.so"
+        for path in libraries.rglob(soname):
+            target = package / "lib" / path.relative_to(libraries)
+            target.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(path, target)
+
+
+setup(
+    ext_modules=[Extension("zelm._core", SOURCES, include_dirs=["src", numpy.get_include()], extra_compile_args=list(FLAGS))],
+    cmdclass={"build_ext": BuildExt},
+)
