@@ -213,6 +213,29 @@ ZELM_INLINE bool missesInvariants(const Range &target, const Memory &buffer, con
     return (misses(s) && ...);
 }
 
+// The entries of a list are read when their objects' turn comes, so nothing that is written may lie over
+// them.
+template <typename Operand>
+ZELM_INLINE bool entriesMiss(const Operand &operand, const Range &written, std::uint32_t first,
+                             std::uint32_t last) {
+    if constexpr (Operand::isList) {
+        const std::int64_t bytes = std::int64_t{last - first} * std::int64_t{sizeof(Address)};
+        return areDisjoint(rangeFrom(addressOf(operand.table + first), bytes), written);
+    } else {
+        return true;
+    }
+}
+
+template <typename Memory, typename... Operands>
+ZELM_INLINE bool tablesAreApart(std::uint32_t first, std::uint32_t last, const Range &target,
+                                const Memory &buffer, const Operands &...operands) {
+    if (!isKnown(target) || !(entriesMiss(operands, target, first, last) && ...))
+        return false;
+    if constexpr (!Memory::isNone)
+        return !buffer.isWritten || (entriesMiss(operands, buffer.range(first, last), first, last) && ...);
+    return true;
+}
+
 // Whether the results of a stretch lie behind each other, as most lists have them: then no group compares its
 // own.
 template <typename D>
@@ -276,10 +299,29 @@ ZELM_INLINE bool groupMissesBuffer(const Buffer &buffer, const Touched &touched,
     return apart;
 }
 
+// Whether a group writes over none of its own entries in an operand's table.
+template <unsigned lanes, typename Memory, typename Operand, typename D>
+ZELM_INLINE bool groupMissesEntries(const Operand &operand, const Memory &buffer, const Result<D> &d,
+                                    std::uint32_t k) {
+    bool apart = true;
+    if constexpr (Operand::isList) {
+        const Extent written = extentOf(d.operand, d.rows, d.columns);
+        const Lowest<lanes> target = lowestOf<lanes>(d.operand, written, k);
+        const Address entries = addressOf(operand.table + k);
+        for (unsigned lane = 0; lane < lanes; ++lane)
+            apart &= areDisjoint(target.at[lane], written.bytes, entries, lanes * sizeof(Address));
+        if constexpr (!Memory::isNone)
+            apart &= !buffer.isWritten || entriesMiss(operand, buffer.range(k, k + lanes), k, k + lanes);
+    }
+    return apart;
+}
+
 template <unsigned lanes, typename Memory, typename D, typename... S>
 __attribute__((noinline)) bool groupIsApart(std::uint32_t k, const Memory &buffer, const Result<D> &d,
                                             const Source<S> &...s) {
-    if (anyObjectIsNull(d.operand, k, lanes) || !(groupMayRead<lanes>(s, d, k) && ...))
+    if (anyObjectIsNull(d.operand, k, lanes) || !(groupMayRead<lanes>(s, d, k) && ...) ||
+        !groupMissesEntries<lanes>(d.operand, buffer, d, k) ||
+        !(groupMissesEntries<lanes>(s.operand, buffer, d, k) && ...))
         return false;
     if constexpr (!Memory::isNone)
         return groupMissesBuffer<lanes>(buffer, d, k) &&
@@ -336,8 +378,9 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
         const std::uint32_t last = count - first > kStretch ? first + kStretch : count;
         const Range target = rangeOfStretch(d, first, last);
         grouped = grouped && missesInvariants(target, buffer, s...);
-        const bool apart = grouped && stretchIsApart(first, last, target, buffer, s...);
-        const bool ascend = isKnown(target) && resultsAscend(d, first, last);
+        const bool lasting = grouped && tablesAreApart(first, last, target, buffer, d.operand, s.operand...);
+        const bool apart = lasting && stretchIsApart(first, last, target, buffer, s...);
+        const bool ascend = lasting && resultsAscend(d, first, last);
         const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
             return (ascend || resultsAreApart<lanes>(d, k)) &&

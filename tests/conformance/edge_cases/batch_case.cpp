@@ -26,10 +26,6 @@ bool isOperand(Kind kind) {
     return kind == Kind::Vector || kind == Kind::Matrix || kind == Kind::Result || kind == Kind::Packed;
 }
 
-bool isPacked(const Placement &o) {
-    return o.packed;
-}
-
 } // namespace
 
 Batch::Batch(const Target &target, Random &random, Arena &arena, Case &result, std::uint32_t count)
@@ -47,14 +43,14 @@ Batch::Batch(const Target &target, Random &random, Arena &arena, Case &result, s
 Placement *Batch::anySource() {
     std::vector<Placement *> arrays;
     for (std::size_t n = 0; n < sourceCount(); ++n)
-        if (source(n).array)
+        if (source(n).array == dst().array)
             arrays.push_back(&source(n));
     return arrays.empty() ? nullptr : arrays[random_.below(static_cast<std::uint32_t>(arrays.size()))];
 }
 
 Placement *Batch::invariantSource() {
     for (std::size_t n = 0; n < sourceCount(); ++n)
-        if (!source(n).array)
+        if (source(n).array != dst().array)
             return &source(n);
     return nullptr;
 }
@@ -80,13 +76,18 @@ bool Batch::mayCoincide(const Placement &source) const {
 
 bool Batch::mayMove(const Placement &source) const {
     const Overlap overlap = overlapWith(source);
-    return source.array && overlap != Overlap::Apart && overlap != Overlap::Identical;
+    return source.array == case_.operands.back().array && overlap != Overlap::Apart &&
+           overlap != Overlap::Identical;
 }
 
 bool Batch::coincidingElementsAreDefined() const {
     const auto anyOrder = target_.family->writesInAnyOrder;
-    return !(anyOrder && anyOrder(target_.cell)) && !isPacked(case_.operands.back()) &&
-           target_.family->overlap == Overlap::Any;
+    if ((anyOrder && anyOrder(target_.cell)) || case_.operands.back().packed)
+        return false;
+    for (std::size_t n = 0; n + 1 < case_.operands.size(); ++n)
+        if (mayLieAnywhere(case_.operands[n]))
+            return true;
+    return false;
 }
 
 std::int64_t Batch::objectBytes(const Placement &o) const {
@@ -154,7 +155,8 @@ void Batch::drawSizes(bool disagree) {
             if (target_.signature[p].kind != Kind::Dimension)
                 continue;
             std::uint32_t size =
-                target_.signature[p].name == "len" ? 1 + random_.below(18) : 1 + random_.below(9);
+                1 +
+                random_.below(target_.signature[p].name == "len" || !zelmref::isArray(target_.cell) ? 18 : 9);
             if (square)
                 size = side = side ? side : size;
             case_.call.passed[p].size = size;
@@ -168,7 +170,8 @@ void Batch::drawSizes(bool disagree) {
         if (!fit || fit(case_.call) != disagree)
             break;
     }
-    case_.call.passed[case_.call.index("count")].size = count_;
+    if (zelmref::isArray(target_.cell))
+        case_.call.passed[case_.call.index("count")].size = count_;
     for (const Parameter &parameter : target_.signature)
         if (isOperand(parameter.kind) && std::int64_t{case_.call.dimension(parameter.rows)} *
                                                  case_.call.dimension(parameter.columns) * count_ >
@@ -519,9 +522,16 @@ std::uint64_t casesOfEach() {
 }
 
 bool takesPart(const Target &target, const Arrangement &arrangement) {
-    return target.family && zelmref::isArray(target.cell) && !target.family->columnsReached &&
-           (!arrangement.sizesDisagree || (target.family->dimensionsFit && target.cell.order == 0)) &&
-           std::count(arrangement.layouts.begin(), arrangement.layouts.end(), target.cell.layout);
+    const zelmref::Cell &cell = target.cell;
+    if (!target.family || target.family->columnsReached ||
+        !std::count(arrangement.layouts.begin(), arrangement.layouts.end(), cell.layout))
+        return false;
+    if (arrangement.sizesDisagree && (!target.family->dimensionsFit || cell.order != 0))
+        return false;
+    if (!arrangement.singleProducts)
+        return zelmref::isArray(cell);
+    return !zelmref::isArray(cell) && cell.order == 0 &&
+           (target.family->dimensionsFit || cell.operation == "Gaxpy");
 }
 
 bool layOut(const Arrangement &arrangement, const Target &target, std::uint64_t number, Arena &arena,
@@ -531,6 +541,8 @@ bool layOut(const Arrangement &arrangement, const Target &target, std::uint64_t 
     do
         count = counts[random.below(std::size(counts))];
     while (count < arrangement.leastCount);
+    if (arrangement.singleProducts)
+        count = 1;
     Batch batch(target, random, arena, result, count);
     batch.drawSizes(arrangement.sizesDisagree);
     if (!batch.fits())
@@ -557,7 +569,8 @@ void expectTheModel(const Arrangement &arrangement) {
             ++ran;
             return functions[f].call(function, values.data());
         };
-        for (std::uint64_t number = 0; number < casesOfEach(); ++number) {
+        const std::uint64_t cases = casesOfEach() * (arrangement.singleProducts ? 50 : 1);
+        for (std::uint64_t number = 0; number < cases; ++number) {
             const auto make = [&](Arena &memory, Case &result) {
                 return layOut(arrangement, target, number, memory, result);
             };

@@ -17,7 +17,7 @@ public:
     Placement &dst() { return case_.operands.back(); }
     std::size_t sourceCount() const { return case_.operands.size() - 1; }
     Placement &source(std::size_t n) { return case_.operands[n]; }
-    Placement *anySource();            // any that is an array
+    Placement *anySource();            // any that has an object for each of dst
     Placement *invariantSource();      // the one that is none
     Placement *sourceThatDstMayMeet(); // an array whose objects dst may coincide with, one by one or moved
 
@@ -112,7 +112,8 @@ struct Arrangement {
     std::vector<zelmref::Layout> layouts;
     Arrange arrange;
     std::uint32_t leastCount = 1;
-    bool sizesDisagree = false; // only of rows whose dimensions can
+    bool sizesDisagree = false;  // only of rows whose dimensions can
+    bool singleProducts = false; // not of array forms, but of run-time products of single objects
 };
 inline void PrintTo(const Arrangement &arrangement, std::ostream *out) {
     *out << arrangement.name;

@@ -18,6 +18,11 @@ bool isStrided(const Placement &o) {
     return !o.table && !o.packed && o.array;
 }
 
+// One that has an object for each of dst.
+bool isInArray(Batch &b, const Placement &o) {
+    return isStrided(o) && o.array == b.dst().array;
+}
+
 std::int64_t moved(Batch &b) {
     constexpr std::int64_t distances[] = {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 63, 64};
     const std::int64_t by = distances[b.random().below(std::size(distances))];
@@ -88,7 +93,7 @@ bool rowsOverColumns(Batch &b) {
 bool record(Batch &b, bool backwards) {
     std::int64_t bytes = 0;
     for (std::size_t n = 0; n <= b.sourceCount(); ++n)
-        if (Placement &o = b.source(n); isStrided(o))
+        if (Placement &o = b.source(n); isInArray(b, o))
             bytes += b.objectBytes(o);
     if (!isStrided(b.dst()))
         return false;
@@ -96,7 +101,7 @@ bool record(Batch &b, bool backwards) {
     std::int64_t at = 0;
     for (std::size_t n = 0; n <= b.sourceCount(); ++n) {
         Placement &o = b.source(n);
-        if (!isStrided(o))
+        if (!isInArray(b, o))
             continue;
         o.slab = b.dst().slab;
         o.obj = backwards ? -bytes : bytes;
@@ -117,12 +122,12 @@ bool inOneRecordBackwards(Batch &b) {
 // A record that is too short by one element: the last field of one lies over the first of the next.
 bool inRecordsThatOverlap(Batch &b) {
     for (std::size_t n = 0; n < b.sourceCount(); ++n)
-        if (Placement &s = b.source(n); isStrided(s) && !b.mayLieAnywhere(s))
+        if (Placement &s = b.source(n); isInArray(b, s) && !b.mayLieAnywhere(s))
             return false;
     if (!record(b, false))
         return false;
     for (std::size_t n = 0; n <= b.sourceCount(); ++n)
-        if (Placement &o = b.source(n); isStrided(o))
+        if (Placement &o = b.source(n); isInArray(b, o))
             o.obj -= b.size() * 3;
     return true;
 }
@@ -163,7 +168,7 @@ bool oneSourceForAllInPlace(Batch &b) {
 
 bool backwards(Batch &b) {
     for (std::size_t n = 0; n <= b.sourceCount(); ++n)
-        if (Placement &o = b.source(n); isStrided(o)) {
+        if (Placement &o = b.source(n); isInArray(b, o)) {
             if (b.random().chance(60))
                 o.obj = -o.obj;
             if (b.random().chance(60))
@@ -210,7 +215,7 @@ bool columnByColumn(Batch &b) {
 // The same element of all objects together.
 bool planes(Batch &b) {
     for (std::size_t n = 0; n <= b.sourceCount(); ++n)
-        if (Placement &o = b.source(n); isStrided(o) && b.random().chance(80)) {
+        if (Placement &o = b.source(n); isInArray(b, o) && b.random().chance(80)) {
             o.obj = b.size();
             o.elem = b.size() * b.count();
             o.row = o.rows == 1 ? 0 : o.elem * o.columns;
@@ -280,6 +285,28 @@ const Arrangement arrangements[] = {
     {"ResultsAreTheInvariant", strided, resultsAreTheInvariant},
     {"DimensionsDisagree", all, apart, 1, true},
 };
+
+// Run-time products of one object: dst over a source, over its own rows.
+const Arrangement products[] = {
+    {"Apart", all, apart, 1, false, true},
+    {"SizesDisagree", all, apart, 1, true, true},
+    {"InPlace", strided, inPlace, 1, false, true},
+    {"ShiftedByElements", strided, shiftedByElements, 1, false, true},
+    {"RowsOverColumns", withElemStride, rowsOverColumns, 1, false, true},
+    {"Backwards", strided, backwards, 1, false, true},
+    {"ResultsOwnRowsOverlap", strided, resultsOwnRowsOverlap, 1, false, true},
+    {"ElemStrideIsTheSize", withElemStride, elemStrideIsTheSize, 1, false, true},
+    {"ColumnByColumn", withElemStride, columnByColumn, 1, false, true},
+};
+
+class BatchOfOneProduct : public testing::TestWithParam<Arrangement> {};
+
+TEST_P(BatchOfOneProduct, EqualsTheModel) {
+    expectTheModel(GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BatchOfOneProduct, testing::ValuesIn(products),
+                         [](const auto &test) { return std::string(test.param.name); });
 
 class BatchStrides : public testing::TestWithParam<Arrangement> {};
 
