@@ -15,7 +15,7 @@ const std::vector<Layout> all = {Layout::Standard, Layout::S2, Layout::P,
                                  Layout::PS2,      Layout::L,  Layout::LS2};
 
 bool isStrided(const Placement &o) {
-    return !o.table && !o.packed && o.array;
+    return !o.table && !o.packed;
 }
 
 // One that has an object for each of dst.
