@@ -125,7 +125,7 @@ public:
 
 private:
     void add(const char *operation, const char *descriptor, const std::string &suffix, const char *name,
-             void (*run)(const Problem &)) {
+             void (*run)(const Problem &), bool isComparable = true) {
         peers_.push_back(
             {memberName(operation, descriptor, sizeof(T), false, 0, Layout::Standard).append(suffix), name,
              run});
@@ -134,7 +134,9 @@ private:
     template <Place from, Place to>
     void addCopy(const std::string &suffix) {
         const char *const name = from == to && from != Place::List ? "memcpy" : "loops";
-        add("Copy", "va", suffix, name, &copy<T, from, to, false>);
+        // From planes to planes, the library's function for vectors departs from its row.
+        add("Copy", "va", suffix, name, &copy<T, from, to, false>,
+            from != Place::Planes || to != Place::Planes);
         add("Copy", "ma", suffix, name, &copy<T, from, to, true>);
         if constexpr ((from == Place::Planes) != (to == Place::Planes)) {
             add("Copy", "va", suffix, "loops by objects", &copyByObjects<T, from, to, false>);
@@ -156,7 +158,8 @@ private:
         const std::string suffix = from == Place::Adjacent ? "_S2" : from == Place::Planes ? "_PS2" : "_LS2";
         add("Extract", "va", suffix, name, &copy<T, from, Place::Adjacent, false>);
         add("Extract", "ma", suffix, name, &copy<T, from, Place::Adjacent, true>);
-        add("Extract", "maT", suffix, "loops", &extractTransposed<T, from>);
+        // From planes, the library's functions for transposed matrices depart from their rows.
+        add("Extract", "maT", suffix, "loops", &extractTransposed<T, from>, from != Place::Planes);
         if constexpr (from == Place::Planes) {
             add("Extract", "va", suffix, "loops by objects", &copyByObjects<T, from, Place::Adjacent, false>);
             add("Extract", "ma", suffix, "loops by objects", &copyByObjects<T, from, Place::Adjacent, true>);
@@ -165,7 +168,7 @@ private:
             const std::string single = from == Place::Adjacent ? "_S2" : "_P";
             add("Extract", "v", single, "loops", &copyByObjects<T, from, Place::Adjacent, false>);
             add("Extract", "m", single, "loops", &copyByObjects<T, from, Place::Adjacent, true>);
-            add("Extract", "mT", single, "loops", &extractTransposed<T, from>);
+            add("Extract", "mT", single, "loops", &extractTransposed<T, from>, from != Place::Planes);
         }
     }
 
