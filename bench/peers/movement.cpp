@@ -128,7 +128,7 @@ private:
              void (*run)(const Problem &), bool isComparable = true) {
         peers_.push_back(
             {memberName(operation, descriptor, sizeof(T), false, 0, Layout::Standard).append(suffix), name,
-             run});
+             run, isComparable});
     }
 
     template <Place from, Place to>
