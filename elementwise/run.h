@@ -177,7 +177,8 @@ requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE auto inRegisters
 template <typename Op, typename V, typename A, typename B>
 ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
     constexpr unsigned period = std::lcm(A::template period<V>, B::template period<V>);
-    constexpr unsigned round = period < 3 ? 4 : period, lanes = kLanesOf<V>;
+    // At least four packs a round: shorter loops depend on where in a line of instructions they begin.
+    constexpr unsigned round = period * ((3 + period) / period), lanes = kLanesOf<V>;
     const auto &first = inRegisters<V>(a);
     const auto &second = inRegisters<V>(b);
     const auto step = [&](Address at, unsigned p) __attribute__((always_inline)) {
