@@ -11,7 +11,12 @@ if(ZELM_TARGET STREQUAL "t7")
 endif()
 
 add_library(zelm_warning_flags INTERFACE)
-target_compile_options(zelm_warning_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_compile_options(zelm_warning_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion
+  $<$<BOOL:${ZELM_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# Tests that need no speed compile faster this way.
+add_library(zelm_quick_build INTERFACE)
+target_compile_options(zelm_quick_build INTERFACE -O0)
 
 if(ZELM_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
@@ -21,6 +26,18 @@ endif()
 # The library itself: closed, so that it can be loaded anywhere and loads nothing.
 add_library(zelm_library_flags INTERFACE)
 target_link_libraries(zelm_library_flags INTERFACE zelm_arithmetic_flags zelm_warning_flags)
+# -O3 gains nothing here. Where no build type is given, as in a project that has zelm among its sources, an unoptimised
+# library would help nobody.
+if(NOT CMAKE_CXX_FLAGS_RELEASE MATCHES "-O2")
+  target_compile_options(zelm_library_flags INTERFACE $<$<CONFIG:Release>:-O2>)
+endif()
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES AND NOT CMAKE_CXX_FLAGS MATCHES "-O")
+  target_compile_options(zelm_library_flags INTERFACE -O2)
+endif()
+if(ZELM_ISA_LEVEL)
+  # Only the library: what its results are compared with stays the same in all builds.
+  target_compile_options(zelm_library_flags INTERFACE -march=x86-64-${ZELM_ISA_LEVEL})
+endif()
 target_compile_options(zelm_library_flags INTERFACE
   -fPIC -fvisibility=hidden -fvisibility-inlines-hidden
   # Square roots as instructions, not as calls that could set errno. No bit changes.
@@ -31,7 +48,9 @@ target_compile_options(zelm_library_flags INTERFACE
   # Packs are formed by hand. What the compiler packs together of straight-line code it stores element by element
   # and loads as a whole, which waits for the stores: one 3x3 inverse took twice as long.
   $<$<CXX_COMPILER_ID:GNU>:-fno-tree-slp-vectorize> $<$<CXX_COMPILER_ID:Clang>:-fno-slp-vectorize>
-  -fno-stack-protector -U_FORTIFY_SOURCE -fno-plt -fno-ident -fno-threadsafe-statics
+  # Both would be imports: of what happens when they find something.
+  -fno-stack-protector -U_FORTIFY_SOURCE
+  -fno-plt -fno-ident -fno-threadsafe-statics
   # One branch per tested pointer: g++ would otherwise gather the tests into a value, which costs more than they do.
   $<$<CXX_COMPILER_ID:GNU>:SHELL:--param logical-op-non-short-circuit=0>)
 if(ZELM_TARGET STREQUAL "t7")
@@ -43,7 +62,9 @@ endif()
 # A sanitizer's runtime is a dependency, so the closed link holds in all builds but that one.
 if(NOT ZELM_SANITIZE)
   target_link_options(zelm_library_flags INTERFACE
-    -nostdlib -Wl,-z,defs -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now -Wl,-Bsymbolic -Wl,--build-id=none
-    -Wl,--gc-sections)
+    -nostdlib -Wl,-z,defs -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now -Wl,-Bsymbolic -Wl,--build-id=sha1
+    -Wl,--gc-sections
+    # Changes no instruction: tells the loader that the code runs with a shadow stack as well.
+    $<$<STREQUAL:${ZELM_TARGET},x64>:-Wl,-z,shstk>)
   target_compile_options(zelm_library_flags INTERFACE -ffunction-sections)
 endif()

@@ -430,6 +430,11 @@ def departure_entry(member, key, departure):
     return entry
 
 
+def version():
+    text = (Path(__file__).resolve().parents[1] / "include" / "zelm" / "version.h").read_text()
+    return ".".join(re.findall(r"#define ZELM_VERSION_(?:MAJOR|MINOR|PATCH) (\d+)", text))
+
+
 def grid_json(all_members):
     lines = []
     for m in all_members:
@@ -449,7 +454,7 @@ def grid_json(all_members):
         lines.append(json.dumps(entry))
     beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
                           "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
-    return '{"version": "4.1", "functions": [\n' + ",\n".join(lines) + '\n],\n"kernels": [\n' \
+    return f'{{"version": "{version()}", "functions": [\n' + ",\n".join(lines) + '\n],\n"kernels": [\n' \
         + ",\n".join(beside) + "\n]}\n"
 
 

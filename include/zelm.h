@@ -42,7 +42,8 @@
 #ifndef ZELM_H
 #define ZELM_H
 
-#include "zelm/types.h" /* IWYU pragma: export */
+#include "zelm/types.h"   /* IWYU pragma: export */
+#include "zelm/version.h" /* IWYU pragma: export */
 
 #include "zelm/elementwise.h" /* IWYU pragma: export */
 #include "zelm/movement.h"    /* IWYU pragma: export */

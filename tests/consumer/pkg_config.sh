@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# pkg_config.sh PREFIX TARGET CC CXX FLAGS FOLDER: a C99, a C++11 and a C++20 consumer, compiled and linked with what
+# pkg_config.sh PREFIX TARGET VERSION CC CXX FLAGS FOLDER: a C99, a C++11 and a C++20 consumer, compiled and linked with what
 # pkg-config says of zelm-TARGET, which is installed in PREFIX.
 set -euo pipefail
-prefix=$1 target=$2 cc=$3 cxx=$4 flags=$5 folder=$6
+prefix=$1 target=$2 version=$3 cc=$4 cxx=$5 flags=$6 folder=$7
 sources=$(cd "$(dirname "$0")" && pwd)
 warnings="-Wall -Wextra -Wpedantic -Wconversion -Werror"
 
 PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name "zelm-$target.pc")")
 export PKG_CONFIG_PATH
-pkg-config --exact-version=4.1 "zelm-$target"
+pkg-config --exact-version="$version" "zelm-$target"
 cflags=$(pkg-config --cflags "zelm-$target")
 libs=$(pkg-config --libs "zelm-$target")
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir "zelm-$target")

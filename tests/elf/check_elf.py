@@ -141,8 +141,12 @@ def disassemble(options):
                 yield function, words[0], " ".join(words[1:])
 
 
-def is_newer(mnemonic, operands):
-    """Whether SSE3 and what was before it lack the instruction."""
+def is_newer(mnemonic, operands, level):
+    """Whether the level's processors lack the instruction: SSE3 and what was before it if it is empty."""
+    if level == "v4":
+        return False
+    if level == "v3":
+        return bool(re.search(r"%zmm|%k[0-7]|%[xy]mm(1[6-9]|2\d|3[01])", operands))
     if re.search(r"%[yz]mm|%k[0-7]", operands) or NEWER.match(mnemonic):
         return True
     return "%xmm" in operands and mnemonic not in SSE and mnemonic.rstrip("lq") not in SSE
@@ -158,11 +162,21 @@ def _per_function(found):
 
 
 def instructions(_, options):
-    """Nothing newer than SSE3, in either target."""
+    """Nothing newer than SSE3, in either target; in a wide build, than its level."""
     code = list(disassemble(options))
     if not any(mnemonic.startswith("add") for _, mnemonic, _ in code):
         return [f"{options.objdump} shows no code"]
-    return _per_function(i for i in code if is_newer(i[1], i[2]))
+    return _per_function(i for i in code if is_newer(i[1], i[2], options.level))
+
+
+# Fused operations round once where two roundings are promised; the newer approximations have other bits than rcpps
+# and rsqrtps.
+OTHER_ROUNDING = re.compile(r"^vf(n?m(add|sub)|maddsub|msubadd)\d*|^vr(cp|sqrt)(14|28)")
+
+
+def rounding(_, options):
+    """No instruction whose result has other bits than those it would stand for."""
+    return _per_function(i for i in disassemble(options) if OTHER_ROUNDING.match(i[1]))
 
 
 def x87(_, options):
@@ -173,13 +187,14 @@ def x87(_, options):
 
 
 RULES = {rule.__name__: rule for rule in (
-    exports, visibility, imports, startup, soname, position, protection, instructions, x87)}
+    exports, visibility, imports, startup, soname, position, protection, instructions, rounding, x87)}
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--file", required=True)
     parser.add_argument("--target", required=True, choices=MACHINES)
+    parser.add_argument("--level", default="", choices=("", "v3", "v4"))
     parser.add_argument("--grid", required=True)
     parser.add_argument("--objdump", default="objdump")
     parser.add_argument("rules", nargs="*", metavar="RULE", choices=[[], *RULES])

@@ -40,6 +40,8 @@ BREAKS = [
     ("instructions", "an SSE4.1 rounding", "__asm__(\".text\\nroundps $1, %xmm1, %xmm0\\n\");", []),
     ("instructions", "an AVX sum", "__asm__(\".text\\nvaddps %ymm1, %ymm1, %ymm0\\n\");", []),
     ("instructions", "a bit count", "__asm__(\".text\\npopcntl %eax, %eax\\n\");", []),
+    ("rounding", "a fused sum", "__asm__(\".text\\nvfmadd231ps %xmm1, %xmm1, %xmm0\\n\");", []),
+    ("rounding", "a newer reciprocal", "__asm__(\".text\\nvrcp14ps %ymm1, %ymm0\\n\");", []),
     ("x87", "an x87 load", "__asm__(\".text\\nflds (%{ax})\\n\");", []),
     ("x87", "an MMX sum", "__asm__(\".text\\npaddd %mm1, %mm0\\n\");", []),
 ]

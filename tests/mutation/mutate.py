@@ -127,7 +127,7 @@ class Library:
                 shutil.copytree(SOURCE / name, self.copy / name)
         self.commands = {}
         for entry in json.loads((build / "compile_commands.json").read_text()):
-            if "zelm_EXPORTS" not in entry["command"]:
+            if not re.search(r"CMakeFiles/zelm(_objects)?\.dir/", entry["command"]):
                 continue
             words = [w for w in shlex.split(entry["command"]) if w not in ("-O2", "-Werror") and not w.startswith("-W")]
             words = words[next(i for i, w in enumerate(words) if "g++" in Path(w).name):words.index("-o")]

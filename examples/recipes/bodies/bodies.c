@@ -1,5 +1,5 @@
-/* Bodies that lie scattered in memory, each with a spatial inertia, a frame and a motion: momentum, energy,
- * and the inertia in another frame, without moving a body. */
+/* Bodies that lie scattered in memory, each with a spatial inertia, a frame and a
+ * motion: momentum, energy, and the inertia in another frame, without moving a body. */
 #include <stddef.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -32,20 +32,28 @@ int main(void) {
     struct Body *bodies[BODIES];
     for (int k = 0; k < BODIES; ++k)
         bodies[k] = makeBody(k);
-    /* One table serves every field: the shift says which. The library adds bytes to the entries and no more.
+    /* One table serves every field: the shift says which. The library adds bytes to the
+     * entries and no more.
      */
     const double *const *from = (const double *const *)(const void *)bodies;
     double *const *to = (double *const *)(void *)bodies;
-    const int32_t inertia = offsetof(struct Body, inertia), frame = offsetof(struct Body, frame);
-    const int32_t motion = offsetof(struct Body, motion), momentum = offsetof(struct Body, momentum);
-    const int32_t turned = offsetof(struct Body, turned), product = offsetof(struct Body, product);
+    const int32_t inertia = offsetof(struct Body, inertia),
+                  frame = offsetof(struct Body, frame);
+    const int32_t motion = offsetof(struct Body, motion),
+                  momentum = offsetof(struct Body, momentum);
+    const int32_t turned = offsetof(struct Body, turned),
+                  product = offsetof(struct Body, product);
     double twiceEnergy[BODIES];
 
-    ZelmStatus status = zelmMul_mava_64f_6x6_L(from, inertia, ROW, from, motion, to, momentum, BODIES);
-    status |= zelmDotProduct_vava_64f_6x1_L(from, motion, from, momentum, twiceEnergy, BODIES);
+    ZelmStatus status =
+        zelmMul_mava_64f_6x6_L(from, inertia, ROW, from, motion, to, momentum, BODIES);
+    status |= zelmDotProduct_vava_64f_6x1_L(from, motion, from, momentum, twiceEnergy,
+                                            BODIES);
     /* X' I X */
-    status |= zelmMul_mama_64f_6x6_L(from, inertia, ROW, from, frame, ROW, to, product, ROW, BODIES);
-    status |= zelmMul_maTma_64f_6x6_L(from, frame, ROW, from, product, ROW, to, turned, ROW, BODIES);
+    status |= zelmMul_mama_64f_6x6_L(from, inertia, ROW, from, frame, ROW, to, product,
+                                     ROW, BODIES);
+    status |= zelmMul_maTma_64f_6x6_L(from, frame, ROW, from, product, ROW, to, turned,
+                                      ROW, BODIES);
 
     printf("status %d\n", (int)status);
     for (int k = 0; k < BODIES; ++k) {

@@ -1,5 +1,6 @@
-/* A system in small units: its pivots lie under 2^-23, and the decomposition takes it for singular. Scaled by
- * powers of two it is solved, and no bit of the matrix changes but the exponents. */
+/* A system in small units: its pivots lie under 2^-23, and the decomposition takes it
+ * for singular. Scaled by powers of two it is solved, and no bit of the matrix changes
+ * but the exponents. */
 #include <math.h>
 #include <stdio.h>
 #include <zelm.h>
@@ -7,16 +8,18 @@
 enum { N = 4, ROW = N * sizeof(double) };
 
 int main(void) {
-    const double a[N][N] = {
-        {4e-9, 1e-9, 0, 2e-3}, {1e-9, 3e-9, 1e-9, 1e-3}, {0, 1e-9, 5e-9, 4e-3}, {2e-10, 1e-10, 3e-10, 5e-4}};
+    const double a[N][N] = {{4e-9, 1e-9, 0, 2e-3},
+                            {1e-9, 3e-9, 1e-9, 1e-3},
+                            {0, 1e-9, 5e-9, 4e-3},
+                            {2e-10, 1e-10, 3e-10, 5e-4}};
     const double b[N] = {8.006e-3, 4.010e-3, 16.017e-3, 2.0013e-3};
     double lu[N][N], scaled[N][N], right[N], x[N];
     uint32_t pivotIndex[N];
     ZelmStatus status = zelmLUDecomp_m_64f_4x4(a[0], ROW, pivotIndex, lu[0], ROW);
     printf("as it is: status %d\n", (int)status);
 
-    /* Each column by the power of two that brings its largest element to 1/2 or above, then each row in the
-     * same way. */
+    /* Each column by the power of two that brings its largest element to 1/2 or above,
+     * then each row in the same way. */
     int column[N];
     for (int j = 0; j < N; ++j) {
         double largest = 0;

@@ -1,4 +1,5 @@
-/* Volumes of tetrahedra with an index list, and which way they are wound: a determinant of order 3 each. */
+/* Volumes of tetrahedra with an index list, and which way they are wound: a determinant
+ * of order 3 each. */
 #include <stdio.h>
 #include <zelm.h>
 
@@ -14,7 +15,8 @@ int main(void) {
         other[e] = vertex[corner[e / 3][1 + e % 3]];
         to[e] = edges[e / 3][e % 3];
     }
-    ZelmStatus status = zelmSub_vava_64f_3x1_L(other, 0, apex, 0, to, 0, TETRAHEDRA * 3);
+    ZelmStatus status =
+        zelmSub_vava_64f_3x1_L(other, 0, apex, 0, to, 0, TETRAHEDRA * 3);
     status |= zelmDet_ma_64f_3x3(edges[0][0], MATRIX, ROW, six, TETRAHEDRA);
     printf("status %d\n", (int)status);
     for (int k = 0; k < TETRAHEDRA; ++k)

@@ -1,0 +1,11 @@
+# Removes the files that a manifest of `cmake --install` names. Folders stay, as others may use them.
+if(NOT EXISTS ${MANIFEST})
+  message(FATAL_ERROR "${MANIFEST} is missing: nothing was installed from this build tree")
+endif()
+file(STRINGS ${MANIFEST} files)
+foreach(file IN LISTS files)
+  if(EXISTS $ENV{DESTDIR}${file} OR IS_SYMLINK $ENV{DESTDIR}${file})
+    file(REMOVE $ENV{DESTDIR}${file})
+    message(STATUS "removed $ENV{DESTDIR}${file}")
+  endif()
+endforeach()
