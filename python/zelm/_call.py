@@ -16,7 +16,7 @@ NOT_POSITIVE = "Matrix is not positive definite"
 def universal(matrices, vectors=None):
     """A decorator: plain calls go to the universal function at once, all others to the decorated function.
 
-    `vectors` serves a last operand that has one dimension less than the first.
+    `vectors` serves a last operand that has one dimension, or one less than the first.
     """
 
     def decorate(function):
@@ -117,5 +117,5 @@ def check_square(function, a):
 
 
 def is_vector(a, b):
-    """Whether b is a stack of vectors beside the stack of matrices a, by the rule of numpy.linalg.solve."""
-    return np.ndim(b) == np.ndim(a) - 1
+    """Whether b is a vector or a stack of vectors beside the stack of matrices a, by the rule of numpy.linalg.solve."""
+    return np.ndim(b) in (1, np.ndim(a) - 1)

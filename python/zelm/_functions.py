@@ -253,7 +253,7 @@ def inv(a, /, out=None, *, singular="raise", **options):
 def solve(a, b, /, out=None, *, singular="raise", **options):
     """Solutions x of the systems ``a @ x = b``.
 
-    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension less than a.
+    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension, or one less than a.
 
     By LU decomposition with partial pivoting. A matrix with a pivot below 2**-23 goes to numpy.linalg. ``singular`` as
     in `inv`.
@@ -288,7 +288,7 @@ def lu_factor(a, /, out=None, *, singular="raise", **options):
 def lu_solve(lu_and_piv, b, /, out=None, **options):
     """Solutions x of ``a @ x = b`` from the factors ``(lu, piv)`` of `lu_factor`.
 
-    Signature ``(n,n),(n),(n,k)->(n,k)``, or ``(n,n),(n),(n)->(n)`` where b has one dimension less than lu.
+    Signature ``(n,n),(n),(n,k)->(n,k)``, or ``(n,n),(n),(n)->(n)`` where b has one dimension, or one less than lu.
 
     >>> zelm.lu_solve(zelm.lu_factor([[1.0, 2.0], [4.0, 4.0]]), [5.0, 12.0])
     array([1., 2.])
@@ -340,7 +340,7 @@ def cho_factor(a, /, out=None, *, singular="raise", **options):
 def cho_solve(c, b, /, out=None, **options):
     """Solutions x of ``a @ x = b`` from the factor c of `cho_factor`, and from no other.
 
-    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension less than c.
+    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension, or one less than c.
 
     >>> zelm.cho_solve(zelm.cho_factor([[4.0, 2.0], [2.0, 5.0]]), [8.0, 12.0])
     array([1., 2.])
@@ -391,7 +391,7 @@ def qr(a, /, mode="reduced"):
 def lstsq(a, b, /, out=None, *, singular="raise", **options):
     """Least-squares solutions x of ``a @ x = b``, which is all that is returned.
 
-    Signature ``(m,n),(m,k)->(n,k)``, or ``(m,n),(m)->(n)`` where b has one dimension less than a.
+    Signature ``(m,n),(m,k)->(n,k)``, or ``(m,n),(m)->(n)`` where b has one dimension, or one less than a.
 
     By QR decomposition. Wide matrices, and those whose columns are dependent or too small for it (`qr`), are solved by
     numpy.linalg.lstsq with its default rcond=None, which gives the solution of least norm. ``singular`` as in
