@@ -123,7 +123,8 @@ def plot(results, path, count):
             style = {"linestyle": ":"} if name == "numpy.negative" else {"marker": "o", "markersize": 3}
             axis.plot(ORDERS, row, label=name, color=colours.get(name, "#2166ac"), **style)
         axis.set(title=operation, yscale="log", xlabel="order", xticks=list(ORDERS))
-        axis.grid(True, which="major", linewidth=0.4)
+        axis.minorticks_off()
+        axis.grid(True, linewidth=0.4)
         axis.legend(fontsize=7, frameon=False)
     axes[0].set_ylabel("ns a matrix")
     figure.suptitle(f"Stacks of {count:,} matrices of 64-bit float, one thread", fontsize=10)
