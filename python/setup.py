@@ -15,7 +15,15 @@ ROOT = HERE.parent
 SYSTEM = os.environ.get("ZELM_LIBRARY", "bundled") == "system"
 SOURCES = ["src/module.cpp", "src/universal.cpp", "src/hand_over.cpp"]
 # As in the library: every operation is rounded, none is fused.
-FLAGS = ["-std=c++20", "-O3", "-ffp-contract=off", "-fvisibility=hidden", "-Wall", "-Wextra", "-Wpedantic"]
+FLAGS = [
+    "-std=c++20",
+    "-O3",
+    "-ffp-contract=off",
+    "-fvisibility=hidden",
+    "-Wall",
+    "-Wextra",
+    "-Wpedantic",
+]
 
 
 class BuildExt(build_ext):
@@ -23,7 +31,9 @@ class BuildExt(build_ext):
         work = Path(self.build_temp).resolve()
         work.mkdir(parents=True, exist_ok=True)
         grid, library = self.system() if SYSTEM else self.bundled(work)
-        subprocess.run([sys.executable, HERE / "src/calls.py", grid, work / "calls.h"], check=True)
+        subprocess.run(
+            [sys.executable, HERE / "src/calls.py", grid, work / "calls.h"], check=True
+        )
         for extension in self.extensions:
             extension.include_dirs.append(str(work))
         super().run()
@@ -33,33 +43,55 @@ class BuildExt(build_ext):
     def system(self):
         """The library, headers and catalogue that are installed."""
         prefix = subprocess.run(
-            ["pkg-config", "--variable=prefix", "zelm-x64"], capture_output=True, text=True, check=True
+            ["pkg-config", "--variable=prefix", "zelm-x64"],
+            capture_output=True,
+            text=True,
+            check=True,
         ).stdout.strip()
         flags = subprocess.run(
-            ["pkg-config", "--cflags", "--libs", "zelm-x64"], capture_output=True, text=True, check=True
+            ["pkg-config", "--cflags", "--libs", "zelm-x64"],
+            capture_output=True,
+            text=True,
+            check=True,
         ).stdout.split()
         for extension in self.extensions:
-            extension.extra_compile_args += [flag for flag in flags if flag.startswith("-I")]
-            extension.extra_link_args += [flag for flag in flags if not flag.startswith("-I")]
+            extension.extra_compile_args += [
+                flag for flag in flags if flag.startswith("-I")
+            ]
+            extension.extra_link_args += [
+                flag for flag in flags if not flag.startswith("-I")
+            ]
         return Path(prefix) / "share/zelm/zelm-grid.json", None
 
     def bundled(self, work):
         """A build of the library from the tree that this folder is part of, installed into the build folder."""
         prefix = work / "zelm"
         tree = work / "zelm-build"
-        options = ["-DCMAKE_BUILD_TYPE=Release", "-DZELM_TARGET=x64", "-DZELM_BUILD_TESTS=OFF"]
-        ready = os.environ.get("ZELM_BUILD")  # a build tree of the library that is there already
+        ready = os.environ.get(
+            "ZELM_BUILD"
+        )  # a build tree of the library that is there already
         if ready:
             tree = ROOT / ready
         else:
-            subprocess.run(["cmake", "-S", ROOT, "-B", tree, "-G", "Ninja", *options], check=True)
+            subprocess.run(
+                ["cmake", "--preset", "x64", "-B", tree, "-D", "ZELM_BUILD_TESTS=OFF"],
+                cwd=ROOT,
+                check=True,
+            )
             subprocess.run(["cmake", "--build", tree, "--target", "zelm"], check=True)
         shutil.rmtree(prefix, ignore_errors=True)
-        subprocess.run(["cmake", "--install", tree, "--prefix", prefix, "--component", "zelm"], check=True)
+        subprocess.run(
+            ["cmake", "--install", tree, "--prefix", prefix, "--component", "zelm"],
+            check=True,
+        )
         libraries = next(prefix.glob("lib*/**/libzelmx64.so")).parent
         for extension in self.extensions:
             extension.include_dirs.append(str(prefix / "include"))
-            extension.extra_link_args += [f"-L{libraries}", "-lzelmx64", "-Wl,-rpath,$ORIGIN/lib"]
+            extension.extra_link_args += [
+                f"-L{libraries}",
+                "-lzelmx64",
+                "-Wl,-rpath,$ORIGIN/lib",
+            ]
         return prefix / "share/zelm/zelm-grid.json", libraries
 
     def carry(self, libraries):
@@ -74,6 +106,13 @@ class BuildExt(build_ext):
 
 
 setup(
-    ext_modules=[Extension("zelm._core", SOURCES, include_dirs=["src", numpy.get_include()], extra_compile_args=list(FLAGS))],
+    ext_modules=[
+        Extension(
+            "zelm._core",
+            SOURCES,
+            include_dirs=["src", numpy.get_include()],
+            extra_compile_args=list(FLAGS),
+        )
+    ],
     cmdclass={"build_ext": BuildExt},
 )

@@ -16,7 +16,7 @@ namespace {
 struct Universal {
     PyObject_HEAD vectorcallfunc call;
     PyObject *matrices; // the universal function
-    PyObject *vectors;  // the one for a last operand with one dimension less than the first, or null
+    PyObject *vectors;  // the one for a last operand that is a vector or a stack of them, or null
     PyObject *function;
     PyObject *attributes;
     PyObject *weakReferences;
@@ -37,10 +37,12 @@ PyObject *shortCut(const Universal &universal, PyObject *const *arguments, Py_ss
             return nullptr;
         }
     }
-    if (universal.vectors != nullptr &&
-        PyArray_NDIM(reinterpret_cast<PyArrayObject *>(arguments[count - 1])) ==
-            PyArray_NDIM(reinterpret_cast<PyArrayObject *>(arguments[0])) - 1) {
-        return universal.vectors;
+    if (universal.vectors != nullptr) {
+        const int last = PyArray_NDIM(reinterpret_cast<PyArrayObject *>(arguments[count - 1]));
+        const int first = PyArray_NDIM(reinterpret_cast<PyArrayObject *>(arguments[0]));
+        if (last == 1 || last == first - 1) {
+            return universal.vectors;
+        }
     }
     return universal.matrices;
 }

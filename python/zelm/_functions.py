@@ -114,7 +114,9 @@ def matmul(x1, x2, /, out=None, **options):
     left = "(k)" if np.ndim(x1) == 1 else "(m,k)"
     right = "(k)" if np.ndim(x2) == 1 else "(k,n)"
     core = ",".join("m" * (left == "(m,k)") + "n" * (right == "(k,n)"))
-    return plain("matmul", _core.matmul, (x1, x2), out, options, f"{left},{right}->({core})")
+    return plain(
+        "matmul", _core.matmul, (x1, x2), out, options, f"{left},{right}->({core})"
+    )
 
 
 @universal(_core.matvec)
@@ -253,7 +255,7 @@ def inv(a, /, out=None, *, singular="raise", **options):
 def solve(a, b, /, out=None, *, singular="raise", **options):
     """Solutions x of the systems ``a @ x = b``.
 
-    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension less than a.
+    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension, or one less than a.
 
     By LU decomposition with partial pivoting. A matrix with a pivot below 2**-23 goes to numpy.linalg. ``singular`` as
     in `inv`.
@@ -288,7 +290,7 @@ def lu_factor(a, /, out=None, *, singular="raise", **options):
 def lu_solve(lu_and_piv, b, /, out=None, **options):
     """Solutions x of ``a @ x = b`` from the factors ``(lu, piv)`` of `lu_factor`.
 
-    Signature ``(n,n),(n),(n,k)->(n,k)``, or ``(n,n),(n),(n)->(n)`` where b has one dimension less than lu.
+    Signature ``(n,n),(n),(n,k)->(n,k)``, or ``(n,n),(n),(n)->(n)`` where b has one dimension, or one less than lu.
 
     >>> zelm.lu_solve(zelm.lu_factor([[1.0, 2.0], [4.0, 4.0]]), [5.0, 12.0])
     array([1., 2.])
@@ -297,7 +299,9 @@ def lu_solve(lu_and_piv, b, /, out=None, **options):
     """
     lu, piv = lu_and_piv
     if getattr(piv, "dtype", None) != np.uint32:
-        raise TypeError("lu_solve() takes the factors of zelm.lu_factor, whose piv are uint32")
+        raise TypeError(
+            "lu_solve() takes the factors of zelm.lu_factor, whose piv are uint32"
+        )
     function = _core.lu_solve_vector if is_vector(lu, b) else _core.lu_solve
     x = plain("lu_solve", function, (lu, piv, b), out, options)
     if dask_array((lu, piv, b)) is None and _core.refused():
@@ -318,7 +322,9 @@ def cholesky(a, /, out=None, *, singular="raise", **options):
 
     See also: numpy.linalg.cholesky. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing("cholesky", _core.cholesky, (a,), out, options, singular, NOT_POSITIVE)
+    return refusing(
+        "cholesky", _core.cholesky, (a,), out, options, singular, NOT_POSITIVE
+    )
 
 
 @universal(_core.cho_factor)
@@ -333,14 +339,16 @@ def cho_factor(a, /, out=None, *, singular="raise", **options):
 
     See also: scipy.linalg.cho_factor, whose factors are L itself. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing("cho_factor", _core.cho_factor, (a,), out, options, singular, NOT_POSITIVE)
+    return refusing(
+        "cho_factor", _core.cho_factor, (a,), out, options, singular, NOT_POSITIVE
+    )
 
 
 @universal(_core.cho_solve, _core.cho_solve_vector)
 def cho_solve(c, b, /, out=None, **options):
     """Solutions x of ``a @ x = b`` from the factor c of `cho_factor`, and from no other.
 
-    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension less than c.
+    Signature ``(n,n),(n,k)->(n,k)``, or ``(n,n),(n)->(n)`` where b has one dimension, or one less than c.
 
     >>> zelm.cho_solve(zelm.cho_factor([[4.0, 2.0], [2.0, 5.0]]), [8.0, 12.0])
     array([1., 2.])
@@ -348,7 +356,9 @@ def cho_solve(c, b, /, out=None, **options):
     See also: scipy.linalg.cho_solve. Library: ``zelmCholeskyBackSubst_mava``.
     """
     if isinstance(c, tuple):
-        raise TypeError("cho_solve() takes the factor of zelm.cho_factor, which is one array")
+        raise TypeError(
+            "cho_solve() takes the factor of zelm.cho_factor, which is one array"
+        )
     function = _core.cho_solve_vector if is_vector(c, b) else _core.cho_solve
     return plain("cho_solve", function, (c, b), out, options)
 
@@ -391,7 +401,7 @@ def qr(a, /, mode="reduced"):
 def lstsq(a, b, /, out=None, *, singular="raise", **options):
     """Least-squares solutions x of ``a @ x = b``, which is all that is returned.
 
-    Signature ``(m,n),(m,k)->(n,k)``, or ``(m,n),(m)->(n)`` where b has one dimension less than a.
+    Signature ``(m,n),(m,k)->(n,k)``, or ``(m,n),(m)->(n)`` where b has one dimension, or one less than a.
 
     By QR decomposition. Wide matrices, and those whose columns are dependent or too small for it (`qr`), are solved by
     numpy.linalg.lstsq with its default rcond=None, which gives the solution of least norm. ``singular`` as in

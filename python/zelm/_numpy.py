@@ -17,33 +17,32 @@ def _chosen(at, *sources):
     return sources if at is None else tuple(source[at] for source in sources)
 
 
-def _regular(a):
-    """Which of the matrices have no pivot that is exactly zero."""
-    if a.shape[-1] == 0:
-        return np.ones(len(a), bool)
+def _where_regular(function, a, *others):
+    """`function` of the matrices, and how many of them have a pivot that is exactly zero. These get NaN: NumPy stops a
+    whole stack for one of them."""
     with np.errstate(all="ignore"):
-        return linalg.slogdet(a)[0] != 0
+        try:
+            return function(a, *others), 0
+        except linalg.LinAlgError:
+            regular = linalg.slogdet(a)[0] != 0
+        shape = others[0].shape if others else a.shape
+        results = np.full(shape, np.nan, a.dtype)
+        results[regular] = function(a[regular], *(other[regular] for other in others))
+    return results, len(a) - np.count_nonzero(regular)
 
 
 def inv(at, a, result):
-    (a,) = _chosen(at, a)
-    regular = _regular(a)
-    inverse = np.full(a.shape, np.nan, a.dtype)
-    with np.errstate(all="ignore"):
-        inverse[regular] = linalg.inv(a[regular])
+    inverse, refused = _where_regular(linalg.inv, *_chosen(at, a))
     _fill(at, result, inverse)
-    return len(a) - np.count_nonzero(regular)
+    return refused
 
 
 def solve(at, a, b, result):
     a, b = _chosen(at, a, b)
     columns = b if b.ndim == 3 else b[..., np.newaxis]
-    regular = _regular(a)
-    x = np.full(columns.shape, np.nan, columns.dtype)
-    with np.errstate(all="ignore"):
-        x[regular] = linalg.solve(a[regular], columns[regular])
+    x, refused = _where_regular(linalg.solve, a, columns)
     _fill(at, result, x.reshape(b.shape))
-    return len(a) - np.count_nonzero(regular)
+    return refused
 
 
 def det(at, a, result):
@@ -83,7 +82,9 @@ def cho_factor(at, a, result):
 
 
 def _least_squares(a, b):
-    if not (np.isfinite(a).all() and np.isfinite(b).all()):  # a ValueError of LAPACK's, from some versions of NumPy
+    if not (
+        np.isfinite(a).all() and np.isfinite(b).all()
+    ):  # a ValueError of LAPACK's, from some versions of NumPy
         raise linalg.LinAlgError
     return linalg.lstsq(a, b, rcond=None)[0]
 
@@ -122,7 +123,10 @@ def gaxpy(at, a, x, z, result):
 
 def _dot_in_pieces(x, y, length=1 << 13):
     pieces = (slice(first, first + length) for first in range(0, len(x), length))
-    return sum(float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece]))) for piece in pieces)
+    return sum(
+        float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece])))
+        for piece in pieces
+    )
 
 
 def dot(at, x, y, result):

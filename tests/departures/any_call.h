@@ -9,7 +9,7 @@
 #include <string.h>
 #include <zelm.h>
 
-enum { BYTES = 16384, OBJECTS = 3, ENTRIES = 64, NOBODY = -1 };
+enum { BYTES = 3072, OBJECTS = 3, ENTRIES = 64, NOBODY = -1 };
 
 static __attribute__((aligned(16))) char memory[5][BYTES];
 static void *tables[5][ENTRIES];

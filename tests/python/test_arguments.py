@@ -228,6 +228,11 @@ def test_wrong_shapes():
         zelm.cho_solve((np.eye(3), True), np.ones(3))
 
 
+def test_one_vector_for_a_stack():
+    for function in (zelm.solve, zelm.lstsq, lu_solve, lambda a, b: zelm.cho_solve(zelm.cho_factor(a), b)):
+        np.testing.assert_array_equal(function(A, V[0]), function(A, np.broadcast_to(V[0], V.shape)))
+
+
 def test_row_numbers_are_checked():
     lu, piv = zelm.lu_factor(A)
     piv = piv.copy()

@@ -8,6 +8,7 @@ import subprocess
 import sys
 import threading
 import time
+from pathlib import Path
 
 import layouts
 import numpy as np
@@ -29,6 +30,12 @@ def test_examples_of_the_docstrings():
         for test in tests:
             runner.run(test)
     assert runner.failures == 0
+
+
+def test_examples_of_the_page():
+    page = Path(__file__).resolve().parents[2] / "docs" / "python.md"
+    failed, examples = doctest.testfile(str(page), module_relative=False, optionflags=doctest.ELLIPSIS)
+    assert failed == 0 and examples > 0
 
 
 @pytest.mark.parametrize("name", FUNCTIONS)
