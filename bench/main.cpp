@@ -19,28 +19,34 @@ namespace {
 using namespace zelmbench;
 
 constexpr const char *usage =
-    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--filter REGEX] [--quick] [--json FILE] [--list]
+    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--filter REGEX] [--quick | --check] [--json FILE] [--list]
 
   --library FILE  the library that is measured, instead of the one built beside this program
   --beside FILE   another build of it, measured in the same samples: own time over its time
   --peers FILE    other peers ("none" measures none)
   --filter REGEX  rows that it is found in, like 'zelmMul_.*_P/'
-  --quick         few short samples
+  --quick         few short samples, and no rows of 1,000,000 objects
+  --check         runs every contender once: does it compute what the library computes?
   --json FILE     writes the figures
   --list          prints the names of the rows only
 )";
 
 struct Options {
     std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS, filter = ".", json;
-    bool isQuick = false, isList = false;
+    Effort effort = thorough;
+    bool isList = false;
 };
 
 Options parse(int argc, char **argv) {
-    static const option known[] = {
-        {"library", required_argument, nullptr, 'l'}, {"beside", required_argument, nullptr, 'b'},
-        {"peers", required_argument, nullptr, 'p'},   {"filter", required_argument, nullptr, 'f'},
-        {"json", required_argument, nullptr, 'j'},    {"quick", no_argument, nullptr, 'q'},
-        {"list", no_argument, nullptr, 'n'},          {}};
+    static const option known[] = {{"library", required_argument, nullptr, 'l'},
+                                   {"beside", required_argument, nullptr, 'b'},
+                                   {"peers", required_argument, nullptr, 'p'},
+                                   {"filter", required_argument, nullptr, 'f'},
+                                   {"json", required_argument, nullptr, 'j'},
+                                   {"quick", no_argument, nullptr, 'q'},
+                                   {"check", no_argument, nullptr, 'c'},
+                                   {"list", no_argument, nullptr, 'n'},
+                                   {}};
     Options options;
     for (int letter = 0; (letter = getopt_long(argc, argv, "", known, nullptr)) != -1;) {
         switch (letter) {
@@ -60,7 +66,10 @@ Options parse(int argc, char **argv) {
             options.json = optarg;
             break;
         case 'q':
-            options.isQuick = true;
+            options.effort = quick;
+            break;
+        case 'c':
+            options.effort = single;
             break;
         case 'n':
             options.isList = true;
@@ -77,7 +86,7 @@ Options parse(int argc, char **argv) {
 
 int run(const Options &options) {
     const std::regex filter(options.filter);
-    std::vector<Row> rows = allRows();
+    std::vector<Row> rows = allRows(options.effort.mostRounds == thorough.mostRounds);
     std::erase_if(rows, [&](const Row &row) { return !std::regex_search(row.name, filter); });
     if (options.isList) {
         for (const Row &row : rows) {
@@ -91,7 +100,7 @@ int run(const Options &options) {
     const auto peers = options.peers == "none" ? nullptr : std::make_unique<Library>(options.peers);
     const PeerTable table(peers.get());
     for (const Row &row : rows) {
-        results.add(row, measureRow(row, library, beside.get(), table, options.isQuick ? quick : thorough));
+        results.add(row, measureRow(row, library, beside.get(), table, options.effort));
     }
     return results.finish() && !rows.empty() ? 0 : 1;
 }

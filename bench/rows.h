@@ -15,6 +15,6 @@ struct Row {
     std::size_t count; // of objects; single-object functions are called for each of them
 };
 
-std::vector<Row> allRows();
+std::vector<Row> allRows(bool withLargeArrays);
 
 } // namespace zelmbench

@@ -133,7 +133,7 @@ FAMILIES = {family.name: family for family in (
            "For square matrices the product. In the run-time forms the widths and heights are those of the operands as "
            "stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else "
            "src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height = "
-           "src2Width instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height "
+           "src2Width instead. In mam a src2Width of 0 is ZELM_OK, and nothing is computed. The loops take them as those of the operands as used: dst[i][j] for i below src1Height "
            "and j below src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices "
            "that fit, and the other descriptors that of square ones. The stored element (r, c) of a source is at entry "
            "r*Width + c of its table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of "
@@ -221,7 +221,8 @@ FAMILIES = {family.name: family for family in (
            "src2 is b with height elements and dst is x with width elements. scratch takes height elements, also in "
            "array forms; its contents don't matter. All arithmetic is in the element type. The diagonal of R is not "
            "tested: a zero on it gives infinities or NaN with ZELM_OK. Of src2Table in P and PS2, and of dstTable, the "
-           "first width entries are tested."),
+           "first width entries are tested. A width above height is not refused, and reads scratch behind its height "
+           "elements."),
     Family("transpose", "movement", "Transpose", "movement/transpose.h", PLAIN, "dst must not overlap src.",
            "Elements are moved bit for bit. width and height are those of src as stored. In the run-time P and PS2 forms "
            "the tables are numbered with the row length of the other operand: element (i, j) of src is at "

@@ -92,7 +92,7 @@ GROUPS = {
             "vv",
             "x · y",
             "Dot product",
-            "dot, sdot, ddot, inner product, scalar product, vdot, inner, projection, angle, cosine, plane distance, weighted sum, xᵀy",
+            "dot, sdot, ddot, inner product, energy, work, power, scalar product, vdot, inner, projection, angle, cosine, plane distance, weighted sum, xᵀy",
         ),
         Want(
             "CrossProduct",
@@ -163,7 +163,7 @@ GROUPS = {
             "A · B",
             "Product of two matrices",
             "multiply, matrix product, gemm, sgemm, dgemm, matmul, chain of poses, concatenate transforms, compose, batched matrix multiply, kinematics, "
-            "einsum, covariance, kalman, A·Bᵀ, Aᵀ·A, normal equations, jacobian, skinning, similarity, rotate a tensor, inertia",
+            "einsum, covariance, kalman, innovation, times, A·Bᵀ, Aᵀ·A, normal equations, jacobian, skinning, similarity, rotate a tensor, inertia",
         ),
     ),
     "Systems of equations": (
@@ -172,7 +172,7 @@ GROUPS = {
             "m",
             "P·A = L·U",
             "LU decomposition",
-            "getrf, sgetrf, dgetrf, lu, lu_factor, PartialPivLU, gaussian elimination, factorise, factorize, factor, solve, linear system, gesv, decomposition",
+            "getrf, sgetrf, dgetrf, lu, lu_factor, PartialPivLU, fullPivLu, gaussian elimination, factorise, factorize, factor, solve, linear system, gesv, decomposition",
             "The first of two calls that solve A·x = b: LUBackSubst is the second.",
         ),
         Want(
@@ -180,7 +180,7 @@ GROUPS = {
             "mv",
             "A·x = b (LU)",
             "Solve with LU factors",
-            "getrs, sgetrs, dgetrs, gesv, dgesv, solve, lu_solve, linear system, equations, backslash, back substitution, PartialPivLU",
+            "getrs, sgetrs, dgetrs, gesv, dgesv, solve, lu_solve, linear system, equations, right-hand sides, rhs, backslash, back substitution, PartialPivLU",
             "A is what LUDecomp made. One A with many b is one factorisation for all.",
         ),
         Want(
@@ -188,7 +188,7 @@ GROUPS = {
             "m",
             "A = L·Lᵀ",
             "Cholesky decomposition",
-            "potrf, spotrf, dpotrf, cholesky, LLT, llt, cho_factor, whitening, whiten, covariance, positive definite, square root of a matrix, normal equations, solve, sample gaussian",
+            "potrf, spotrf, dpotrf, cholesky, LLT, llt, ldlt, cho_factor, whitening, whiten, covariance, positive definite, square root of a matrix, normal equations, solve, sample gaussian",
             "The first of two calls that solve A·x = b: CholeskyBackSubst is the second. The diagonal holds reciprocals.",
         ),
         Want(
@@ -196,7 +196,7 @@ GROUPS = {
             "mv",
             "A·x = b (LLᵀ)",
             "Solve with Cholesky factors",
-            "potrs, spotrs, dpotrs, posv, dposv, solve, cho_solve, symmetric system, positive definite, covariance, kalman gain, mahalanobis, normal equations, LLT",
+            "potrs, spotrs, dpotrs, posv, dposv, solve, cho_solve, right-hand sides, rhs, symmetric system, positive definite, covariance, kalman gain, mahalanobis, normal equations, LLT",
             "A is what CholeskyDecomp made.",
         ),
         Want(
@@ -204,7 +204,7 @@ GROUPS = {
             "m",
             "A = Q·R",
             "QR decomposition",
-            "geqrf, sgeqrf, dgeqrf, qr, HouseholderQR, householder, orthogonal, least squares, fit, overdetermined, solve, lstsq, orthonormal",
+            "geqrf, sgeqrf, dgeqrf, qr, HouseholderQR, colPivHouseholderQr, householder, orthogonal, least squares, fit, overdetermined, solve, lstsq, orthonormal",
             "The first of two calls that fit A·x to b: QRBackSubst is the second. Tall matrices: the size is given at run time.",
         ),
         Want(
@@ -212,7 +212,7 @@ GROUPS = {
             "mv",
             "min ‖A·x − b‖",
             "Least squares with QR factors",
-            "gels, sgels, dgels, ormqr, lstsq, least squares, solve, fit, fit a plane, regression, polynomial fit, overdetermined, curve",
+            "gels, sgels, dgels, ormqr, lstsq, least squares, solve, fit, right-hand sides, rhs, fit a plane, regression, polynomial fit, overdetermined, curve",
             "A is what QRDecomp made.",
         ),
         Want(

@@ -1311,12 +1311,13 @@ ZELM_API ZelmStatus zelmMul_maTva_64f_6x6_LS2(const double *const *src1Table, in
  * For square matrices the product. In the run-time forms the widths and heights are those of the operands as
  * stored. Two of them must be equal, ZELM_ERR_SIZE otherwise: src1Height if src1 is used transposed, else
  * src1Width; and src2Width if src2 is used transposed, else src2Height. mma and mama ask for src1Height = src2Width
- * instead. The loops take them as those of the operands as used: dst[i][j] for i below src1Height and j below
- * src2Width is the sum over t below src2Height. So mm and mam give the product of any two matrices that fit, and
- * the other descriptors that of square ones. The stored element (r, c) of a source is at entry r*Width + c of its
- * table, r*Height + c where it is used transposed, that of dst at r*src2Width + c; of dstTable as many entries are
- * tested as the product of the two dimensions named first. Sums run from +0 in ascending t, each partial sum stored
- * in dst. In the fixed-size forms they begin with the first product.
+ * instead. In mam a src2Width of 0 is ZELM_OK, and nothing is computed. The loops take them as those of the
+ * operands as used: dst[i][j] for i below src1Height and j below src2Width is the sum over t below src2Height. So
+ * mm and mam give the product of any two matrices that fit, and the other descriptors that of square ones. The
+ * stored element (r, c) of a source is at entry r*Width + c of its table, r*Height + c where it is used transposed,
+ * that of dst at r*src2Width + c; of dstTable as many entries are tested as the product of the two dimensions named
+ * first. Sums run from +0 in ascending t, each partial sum stored in dst. In the fixed-size forms they begin with
+ * the first product.
  */
 /** @{ */
 

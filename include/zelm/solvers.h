@@ -2448,7 +2448,7 @@ ZELM_API ZelmStatus zelmQRDecomp_ma_64f_6x6_LS2(const double *const *srcTable, i
  * is b with height elements and dst is x with width elements. scratch takes height elements, also in array forms;
  * its contents don't matter. All arithmetic is in the element type. The diagonal of R is not tested: a zero on it
  * gives infinities or NaN with ZELM_OK. Of src2Table in P and PS2, and of dstTable, the first width entries are
- * tested.
+ * tested. A width above height is not refused, and reads scratch behind its height elements.
  */
 /** @{ */
 

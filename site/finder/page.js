@@ -252,6 +252,16 @@ function layoutMeaning(member) {
     return help(tokenLayout(member.operation, member.layout));
 }
 
+// The letters of the want's formula and the names of the operands.
+function whichIsWhich(member) {
+    const sources = operandsOf(member).filter((operand) => operand.name !== "dst");
+    const texts = sources.map((operand) => {
+        const letter = sampleName(member, operand);
+        return `${operand.kind[0] === "m" ? letter.toUpperCase() : letter} is ${operand.name}`;
+    });
+    return texts.length ? `${member.want.formula}, where ${texts.join(", ")}` : member.want.formula;
+}
+
 const ARGUMENT_TEXTS = {
     pointer: "the first element of the first object", table: "a pointer per element position", list: "a pointer per object",
     shift: "bytes added to every pointer of the table", objStride: "bytes from one object to the next",
@@ -319,7 +329,7 @@ function drawResult(member) {
     const parts = anatomy(member).map(([part, meaning]) => element("div", {}, element("dt", {}, part), element("dd", {}, meaning)));
     byId("result").replaceChildren(
         element("h2", { id: "name" }, member.name), copyButton(member.name),
-        element("p", { class: "formula" }, member.formula),
+        element("p", { class: "formula" }, member.formula, element("small", {}, whichIsWhich(member))),
         element("dl", { class: "anatomy" }, ...parts),
         want.hint ? element("p", { class: "hint" }, want.hint) : "",
         warning(member),

@@ -3,7 +3,8 @@
 // Finding wants by words: a text is cut into words without their endings, and a want is as good as the words that it has.
 
 const EMPTY_WORDS = new Set(["a", "an", "the", "of", "to", "for", "in", "with", "by", "and", "or", "my", "i", "is", "how", "do",
-    "many", "all", "each", "every", "on", "from", "into", "want", "array", "arrays", "batch", "batched", "small", "two", "one"]);
+    "many", "all", "each", "every", "on", "from", "into", "want", "array", "arrays", "batch", "batched", "small", "two", "one", "np",
+    "numpy", "scipy", "linalg", "eigen", "glm", "blas", "lapack"]);
 
 // Words that choose something else than the operation.
 const CHOOSING_WORDS = {
@@ -18,8 +19,9 @@ function stem(word) {
     return word.replace(/[’']s?$/, "").replace(/is(e|es|ed|ing|ation)$/, "iz$1").replace(/(ation|ing|ed|es|s|e)$/, "");
 }
 
+// Names of other libraries come with their prefixes: np.linalg.inv, glm::inverse, cblas_daxpy.
 function wordsIn(text) {
-    return text.toLowerCase().split(/[\s,;/]+/).filter((word) => word && !EMPTY_WORDS.has(word));
+    return text.toLowerCase().replace(/\b(cblas|lapacke)_/g, "").split(/[\s,;/.:()]+/).filter((word) => word && !EMPTY_WORDS.has(word));
 }
 
 // What a text says of type and size.

@@ -46,6 +46,8 @@ WORDS = {
     "eye": "A = I", "swapaxes": "Aᵀ", "gather": "x → y", "AoS to SoA": "x → y", "kalman gain": "A·x = b (LLᵀ)",
     "covariance": "A = L·Lᵀ", "whitening": "A = L·Lᵀ", "A*B": "A · B", "A x + y": "A · x + y", "handedness": "det A",
     "distance": "‖x‖", "negate": "c − x", "cholesky": "A = L·Lᵀ", "backslash": "A·x = b (LU)", "pack": "x → packed",
+    "np.linalg.solve": "A·x = b (LU)", "cblas_daxpy": "x · α + y", "glm::inverse": "A⁻¹", "colPivHouseholderQr": "A = Q·R",
+    "many right-hand sides": "A·x = b (LU)", "kinetic energy": "x · y", "signed volume": "det A",
     "scale a matrix": "A · c", "trace": "tr A", "frobenius": "‖A‖", "subtract the mean": "x − y",
 }  # fmt: skip
 

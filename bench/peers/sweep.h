@@ -1,0 +1,155 @@
+// A kernel for one object, compiled into a loop over objects, or called for each of them.
+#pragma once
+
+#include "access.h"
+#include "descriptor.h"
+#include "problem.h"
+
+#include <string>
+#include <vector>
+
+namespace zelmbench {
+
+// What a kernel is given besides its operands.
+template <class T>
+struct Extras {
+    T scale1, scale2;
+    std::uint32_t *pivot; // of this object
+};
+
+template <class Kernel, class Specs, class T, Layout layout, class N>
+class Sweep {
+public:
+    static void run(const Problem &problem) {
+        if constexpr (isPlanes(layout)) {
+            sideBySide(problem);
+        } else {
+            inTurn(problem);
+        }
+    }
+
+    // The same, with a call for each object.
+    static void call(const Problem &problem) {
+        const N n = order(problem);
+        for (std::size_t k = 0; k < problem.count; ++k) {
+            const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
+                                   problem.pivotIndex + k * n};
+            called(n, single<typename Specs::Src1>(problem.src1, k, n),
+                   single<typename Specs::Src2>(problem.src2, k, n),
+                   single<typename Specs::Src3>(problem.src3, k, n),
+                   objectOf<T, typename Specs::Dst, layout, Kernel::isDense>(problem.dst, k, n), extras);
+        }
+    }
+
+private:
+    // Everything has to be inlined for the loop over objects to be vectorised.
+    [[gnu::flatten]] static void sideBySide(const Problem &problem) { loop(problem); }
+
+    static void inTurn(const Problem &problem) { loop(problem); }
+
+    [[gnu::always_inline]] static void loop(const Problem &given) {
+        const Problem problem = given;
+        const N n = order(problem);
+        const auto first = ahead<typename Specs::Src1>(problem.src1, n);
+        const auto second = ahead<typename Specs::Src2>(problem.src2, n);
+        const auto third = ahead<typename Specs::Src3>(problem.src3, n);
+        const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
+                               problem.pivotIndex};
+#pragma GCC ivdep
+        for (std::size_t k = 0; k < problem.count; ++k) {
+            const Extras<T> own{extras.scale1, extras.scale2,
+                                extras.pivot + (Specs::Src1::isArray ? k * n : 0)};
+            object(n, source<typename Specs::Src1>(problem.src1, first, k, n),
+                   source<typename Specs::Src2>(problem.src2, second, k, n),
+                   source<typename Specs::Src3>(problem.src3, third, k, n),
+                   objectOf<T, typename Specs::Dst, layout, Kernel::isDense>(problem.dst, k, n), own);
+        }
+    }
+
+    static N order(const Problem &problem) {
+        if constexpr (isRunTime<N>) {
+            return problem.n;
+        } else {
+            return N{};
+        }
+    }
+
+    template <class Spec>
+    static constexpr bool isHeld = Spec::shape != 0 && !Spec::isArray && !isRunTime<N>;
+
+    // What is read before the loop over objects: an operand that is the same for all of them, as it is used.
+    template <class Spec>
+    [[gnu::always_inline]] static auto ahead(const Operand &operand, N n) {
+        if constexpr (isHeld<Spec>) {
+            constexpr std::size_t order = sizeOf<N>, size = Spec::shape == 'm' ? order * order : order;
+            const auto object = turned<Spec>(objectOf<T, Spec, layout, Kernel::isDense>(operand, 0, n));
+            Held<T, size, order> held;
+            for (std::size_t e = 0; e < size; ++e) {
+                if constexpr (Spec::shape == 'm') {
+                    held.values[e] = object(e % order, e / order);
+                } else {
+                    held.values[e] = object(e);
+                }
+            }
+            return held;
+        } else {
+            return 0;
+        }
+    }
+
+    template <class Spec>
+    [[gnu::always_inline]] static auto turned(auto object) {
+        if constexpr (Spec::isTransposed) {
+            return Turned<decltype(object)>{object};
+        } else {
+            return object;
+        }
+    }
+
+    template <class Spec>
+    [[gnu::always_inline]] static auto source(const Operand &operand, const auto &held, std::size_t k, N n) {
+        if constexpr (Spec::shape == 0) {
+            return 0;
+        } else if constexpr (isHeld<Spec>) {
+            return held;
+        } else {
+            return turned<Spec>(
+                objectOf<T, Spec, layout, Kernel::isDense>(operand, Spec::isArray ? k : 0, n));
+        }
+    }
+
+    template <class Spec>
+    [[gnu::always_inline]] static auto single(const Operand &operand, std::size_t k, N n) {
+        if constexpr (Spec::shape == 0) {
+            return 0;
+        } else {
+            return turned<Spec>(objectOf<T, Spec, layout, Kernel::isDense>(operand, k, n));
+        }
+    }
+
+    // dst overlaps no source.
+    template <class First, class Second, class Third>
+    [[gnu::flatten]] static void inLine(N n, First first, Second second, Third third, T *__restrict dst,
+                                        Extras<T> extras) {
+        constexpr std::size_t spread = Specs::Dst::shape == 's' || Kernel::isDense ? 1 : spreadOf(layout);
+        Kernel::object(n, first, second, third, InLine<T, spread, N>{dst, n}, extras);
+    }
+
+    template <class First, class Second, class Third, class Result>
+    [[gnu::always_inline]] static void object(N n, const First &first, const Second &second,
+                                              const Third &third, Result dst, const Extras<T> &extras) {
+        if constexpr (isPlanes(layout)) {
+            Kernel::object(n, first, second, third, dst, extras);
+        } else {
+            inLine(n, first, second, third, dst.first, extras);
+        }
+    }
+
+    template <class First, class Second, class Third, class Result>
+    [[gnu::noinline, gnu::flatten]] static void called(N n, First first, Second second, Third third,
+                                                       Result dst, Extras<T> extras) {
+        object(n, first, second, third, dst, extras);
+    }
+};
+
+} // namespace zelmbench
