@@ -3,12 +3,17 @@
 #pragma once
 
 #include "frame/groups.h"
+#include "frame/widths.h"
 #include "products/rules.h"
 
 namespace zelm::products {
 
+// Rows of 64-bit float begin with a pack of four where the build has it.
 template <typename T, unsigned N>
-constexpr unsigned kRowPacks = N / kLanes<T>;
+constexpr unsigned kWideLanes = kInsideBytes == 32 && sizeof(T) == 8 && N >= 4 ? 4 : 0;
+
+template <typename T, unsigned N>
+constexpr unsigned kRowPacks = (N - kWideLanes<T, N>) / kLanes<T>;
 
 // The columns behind the packs: one element by element, two of 32f in pairs of rows.
 template <typename T, unsigned N>
@@ -30,10 +35,25 @@ ZELM_INLINE Pack<typename B::Element> packOfRow(const B &b, std::uint32_t row) {
         return _mm_setr_pd(used(b, row, first, 0), used(b, row, first + 1, 0));
 }
 
+template <typename T, unsigned N>
+using WideOfRow = Pack<T, kWideLanes<T, N> == 0 ? kBlockBytes : 32>;
+
+template <unsigned N, typename B>
+ZELM_INLINE WideOfRow<typename B::Element, N> wideOfRow(const B &b, std::uint32_t row) {
+    using T = typename B::Element;
+    if constexpr (kWideLanes<T, N> == 0)
+        return {};
+    else if constexpr (!kIsTransposed<B>)
+        return loadAs<WideOfRow<T, N>>(b.rowStart(row));
+    else
+        return joined(packOfRow<0>(b, row), packOfRow<2>(b, row));
+}
+
 // A matrix read ahead of the writes.
 template <typename T, unsigned N>
 struct HeldRows {
-    static constexpr unsigned packs = kRowPacks<T, N>, rest = kRowRest<T, N>;
+    static constexpr unsigned wide = kWideLanes<T, N>, packs = kRowPacks<T, N>, rest = kRowRest<T, N>;
+    WideOfRow<T, N> first[wide == 0 ? 1 : N];
     Pack<T> pack[N][packs == 0 ? 1 : packs];
     Pack<T> pair[rest == 2 ? N : 1]; // the last two elements, twice
     T last[rest == 1 ? N : 1];
@@ -42,7 +62,10 @@ struct HeldRows {
     ZELM_INLINE explicit HeldRows(const B &b) {
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t) {
-            pack[t][0] = packOfRow<0>(b, t);
+            if constexpr (wide != 0)
+                first[t] = wideOfRow<N>(b, t);
+            if constexpr (packs > 0)
+                pack[t][0] = packOfRow<wide>(b, t);
             if constexpr (packs > 1)
                 pack[t][1] = packOfRow<2>(b, t);
             if constexpr (packs > 2)
@@ -60,7 +83,8 @@ struct HeldRows {
 
 template <typename T, unsigned N>
 struct RowResult {
-    Pack<T> pack[kRowPacks<T, N>];
+    WideOfRow<T, N> first;
+    Pack<T> pack[kRowPacks<T, N> == 0 ? 1 : kRowPacks<T, N>];
     T last;
 };
 
@@ -71,6 +95,10 @@ ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T,
 #pragma GCC unroll 6
     for (unsigned t = 0; t < N; ++t) {
         const T element = used(a, i, t, 0);
+        if constexpr (kWideLanes<T, N> != 0) {
+            const auto products = spread<WideOfRow<T, N>>(element) * b.first[t];
+            row.first = t == 0 ? products : row.first + products;
+        }
         const Pack<T> factor = broadcast(element);
 #pragma GCC unroll 3
         for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
@@ -83,9 +111,12 @@ ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T,
 
 template <typename T, unsigned N>
 ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::uint32_t i) {
+    constexpr unsigned wide = kWideLanes<T, N>;
+    if constexpr (wide != 0)
+        storePack(d.rowStart(i), row.first);
 #pragma GCC unroll 3
     for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
-        storePack(d.rowStart(i) + p * kBlockBytes, row.pack[p]);
+        storePack(d.rowStart(i) + wide * sizeof(T) + p * kBlockBytes, row.pack[p]);
     if constexpr (kRowRest<T, N> == 1)
         d.set(i, N - 1, 0, row.last);
 }
@@ -109,6 +140,30 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Den
         _mm_storeh_pi(reinterpret_cast<__m64 *>(d.rowStart(i + 1) + 16), pair);
     }
 }
+
+#if defined(__AVX2__)
+// Two rows of 32-bit float to a pack, one in each block; both of src1 are read before one of dst is written.
+template <typename A>
+ZELM_INLINE void multiplyTwoRows(const A &a, const HeldRows<float, 4> &b, const Dense<float> &d,
+                                 std::uint32_t i) {
+    const Floats8 rows = joined(packOfRow<0>(a, i), packOfRow<0>(a, i + 1));
+    const auto times = [&](Floats8 factors, unsigned t) __attribute__((always_inline)) {
+        return factors * joined(b.pack[t][0], b.pack[t][0]);
+    };
+    Floats8 sums = times(shuffle<0, 0, 0, 0>(rows, rows), 0);
+    sums = sums + times(shuffle<1, 1, 1, 1>(rows, rows), 1);
+    sums = sums + times(shuffle<2, 2, 2, 2>(rows, rows), 2);
+    sums = sums + times(shuffle<3, 3, 3, 3>(rows, rows), 3);
+    storePack(d.rowStart(i), lowHalf(sums));
+    storePack(d.rowStart(i + 1), highHalf(sums));
+}
+
+template <typename A>
+ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 4> &b, const Dense<float> &d) {
+    multiplyTwoRows(a, b, d, 0);
+    multiplyTwoRows(a, b, d, 2);
+}
+#endif
 
 template <typename T, unsigned N, typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {
