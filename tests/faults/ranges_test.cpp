@@ -93,8 +93,8 @@ class FarObjects {
 public:
     // Pages at base, base + stride, ... for the bytes low to high of each object; none if they aren't free.
     FarObjects(std::int32_t stride, std::uint32_t count, std::int64_t low, std::int64_t high) {
-        const auto below = static_cast<std::uintptr_t>(-low + page) / page * page;
-        length_ = below + static_cast<std::uintptr_t>(high + 2 * page) / page * page;
+        const std::uintptr_t below = pagesOf(-low), above = pagesOf(high);
+        length_ = below + above;
         for (std::uintptr_t tried = 0; tried < tries && base_ == 0; ++tried) {
             const std::uintptr_t base = firstBase + tried * baseStep;
             for (std::uint32_t k = 0; k < count; ++k)
@@ -124,6 +124,11 @@ private:
     static constexpr std::uintptr_t firstBase =
         sizeof(void *) == 8 ? std::uintptr_t{1} << (sizeof(void *) == 8 ? 44 : 0) : 0x10000000u;
     static constexpr std::uintptr_t baseStep = 0x04010000u;
+
+    // The bytes of whole pages that hold these, and one more.
+    static std::uintptr_t pagesOf(std::int64_t bytes) {
+        return (static_cast<std::uintptr_t>(bytes) / page + 1) * page;
+    }
 
     bool map(std::uintptr_t address) {
         const std::uintptr_t start = address / page * page;
