@@ -152,7 +152,7 @@ def row_text(row):
     out.append(choose_of(row))
     which = "Layout From, Layout To" if row.operation == "Copy" else "int N, Layout L"
     out.append(f"    template <class T, {which}>\n"
-               + wrapped("static ZelmStatus call", parameters, "    ") + "\n    {\n")
+               + wrapped("ZELM_INLINE static ZelmStatus call", parameters, "    ") + "\n    {\n")
     for i, layout in enumerate(layouts):
         out.append(f"        {'} else ' if i else ''}if constexpr ({condition(row, layout)}) {{\n")
         if "" in sizes and fixed:
@@ -229,17 +229,17 @@ struct Regular {
     }
 };
 
-constexpr std::int32_t word(std::ptrdiff_t bytes)
+ZELM_INLINE constexpr std::int32_t word(std::ptrdiff_t bytes)
 {
     return static_cast<std::int32_t>(bytes);
 }
-constexpr std::int32_t word(std::uint32_t size)
+ZELM_INLINE constexpr std::int32_t word(std::uint32_t size)
 {
     return static_cast<std::int32_t>(size);
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f, D d)
+ZELM_INLINE constexpr auto pick(F f, D d)
 {
     if constexpr (std::is_same_v<T, float>) {
         return f;
@@ -249,7 +249,7 @@ constexpr auto pick(F f, D d)
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
+ZELM_INLINE constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
 {
     constexpr int i = N - 3;
     if constexpr (std::is_same_v<T, float>) {
