@@ -58,9 +58,27 @@ def until_call(code):
 def main():
     with tempfile.TemporaryDirectory() as folder:
         target = Path(folder) / "no_cost.s"
-        subprocess.run([*shlex.split(compiler), *shlex.split(flags), "-std=c++20", "-O2", "-DNDEBUG", "-fno-pic", "-fcf-protection=none",
-                        "-fno-asynchronous-unwind-tables", "-S", "-I", f"{source}/cpp", "-I", f"{source}/include",
-                        f"{source}/tests/cpp/no_cost.cpp", "-o", target], check=True)
+        subprocess.run(
+            [
+                *shlex.split(compiler),
+                *shlex.split(flags),
+                "-std=c++20",
+                "-O2",
+                "-DNDEBUG",
+                "-fno-pic",
+                "-fcf-protection=none",
+                "-fno-asynchronous-unwind-tables",
+                "-S",
+                "-I",
+                f"{source}/cpp",
+                "-I",
+                f"{source}/include",
+                f"{source}/tests/cpp/no_cost.cpp",
+                "-o",
+                target,
+            ],
+            check=True,
+        )
         code = functions(target.read_text())
     names = sorted(name.removeprefix("c_") for name in code if name.startswith("c_"))
     failures = 0
