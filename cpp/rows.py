@@ -61,10 +61,16 @@ def expression(argument):
     name, operand = argument.name, argument.operand
     if argument.unread:
         return "0"
-    text = {"pointer": f"{operand}.first", "table": f"{operand}.table", "shift": f"word({operand}.shift)",
-            "objStride": f"word({operand}.object)", "rowStride": f"word({operand}.row)",
-            "elemStride": f"word({operand}.element)", "pivotIndex": "pivotIndex.first", "dimension": f"size.{name}"
-            }.get(argument.kind, name)
+    text = {
+        "pointer": f"{operand}.first",
+        "table": f"{operand}.table",
+        "shift": f"word({operand}.shift)",
+        "objStride": f"word({operand}.object)",
+        "rowStride": f"word({operand}.row)",
+        "elemStride": f"word({operand}.element)",
+        "pivotIndex": "pivotIndex.first",
+        "dimension": f"size.{name}",
+    }.get(argument.kind, name)
     if argument.kind in ("dimension", "count") and argument.ctype.startswith("int32_t"):
         return f"word({text})"
     return text
@@ -128,13 +134,18 @@ def choose_of(row):
                     continue
                 choice = instead(row, name, departure, element_type, size, layout)
                 if choice:
-                    lines.append(f"        // {name}: {departure.note}\n"
-                                 f"        if (std::is_same_v<T, {C_TYPE[element_type]}> && N == {size[:1] or 0} && "
-                                 f"wanted == {layout_name(layout)}) {{\n            {choice}\n        }}\n")
+                    lines.append(
+                        f"        // {name}: {departure.note}\n"
+                        f"        if (std::is_same_v<T, {C_TYPE[element_type]}> && N == {size[:1] or 0} && "
+                        f"wanted == {layout_name(layout)}) {{\n            {choice}\n        }}\n"
+                    )
     if not lines:
         return ""
-    return ("    template <class T, int N>\n    static consteval Choice choose(Layout wanted)\n    {\n"
-            + "".join(lines) + "        return {wanted, N, Guard::none};\n    }\n")
+    return (
+        "    template <class T, int N>\n    static consteval Choice choose(Layout wanted)\n    {\n"
+        + "".join(lines)
+        + "        return {wanted, N, Guard::none};\n    }\n"
+    )
 
 
 def row_text(row):
@@ -145,22 +156,33 @@ def row_text(row):
     statuses = FAMILIES[row.family].statuses
     parameters = [f"const auto &{name}" for name in names]
     parameters += ["[[maybe_unused]] const Sizes &size", *(["std::uint32_t count"] if row.is_array else [])]
-    out = [f"// {row.formula}\ntemplate <>\nstruct Row<Op::{row.operation}, "
-           + ", ".join(f"Kind::{kind}" for kind in kinds) + "> : Regular {\n"]
+    out = [
+        f"// {row.formula}\ntemplate <>\nstruct Row<Op::{row.operation}, "
+        + ", ".join(f"Kind::{kind}" for kind in kinds)
+        + "> : Regular {\n"
+    ]
     if any(s in statuses for s in ("ZELM_ERR_DIV_BY_ZERO", "ZELM_ERR_NOT_POS_DEF")):
         out.append("    static constexpr bool may_fail = true;\n")
     out.append(choose_of(row))
     which = "Layout From, Layout To" if row.operation == "Copy" else "int N, Layout L"
-    out.append(f"    template <class T, {which}>\n"
-               + wrapped("static ZelmStatus call", parameters, "    ") + "\n    {\n")
+    out.append(
+        f"    template <class T, {which}>\n" + wrapped("ZELM_INLINE static ZelmStatus call", parameters, "    ") + "\n    {\n"
+    )
     for i, layout in enumerate(layouts):
         out.append(f"        {'} else ' if i else ''}if constexpr ({condition(row, layout)}) {{\n")
         if "" in sizes and fixed:
-            out.append("            if constexpr (N == 0) {\n" + call_of(row, layout, [""], " " * 16)
-                       + "            } else {\n" + call_of(row, layout, fixed, " " * 16) + "            }\n")
+            out.append(
+                "            if constexpr (N == 0) {\n"
+                + call_of(row, layout, [""], " " * 16)
+                + "            } else {\n"
+                + call_of(row, layout, fixed, " " * 16)
+                + "            }\n"
+            )
         else:
             out.append(call_of(row, layout, list(sizes), " " * 12))
-    out.append("        } else {\n            static_assert(never<T>, \"zelm: no function of this layout\");\n        }\n    }\n};\n\n")
+    out.append(
+        '        } else {\n            static_assert(never<T>, "zelm: no function of this layout");\n        }\n    }\n};\n\n'
+    )
     return "".join(out)
 
 
@@ -229,17 +251,17 @@ struct Regular {
     }
 };
 
-constexpr std::int32_t word(std::ptrdiff_t bytes)
+ZELM_INLINE constexpr std::int32_t word(std::ptrdiff_t bytes)
 {
     return static_cast<std::int32_t>(bytes);
 }
-constexpr std::int32_t word(std::uint32_t size)
+ZELM_INLINE constexpr std::int32_t word(std::uint32_t size)
 {
     return static_cast<std::int32_t>(size);
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f, D d)
+ZELM_INLINE constexpr auto pick(F f, D d)
 {
     if constexpr (std::is_same_v<T, float>) {
         return f;
@@ -249,7 +271,7 @@ constexpr auto pick(F f, D d)
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
+ZELM_INLINE constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
 {
     constexpr int i = N - 3;
     if constexpr (std::is_same_v<T, float>) {
@@ -264,11 +286,16 @@ constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
 
 def header():
     operations = [operation for operation, _ in groupby(sorted(row.operation for row in ROWS))]
-    out = [HEAD, "enum class Op {\n    " + ",\n    ".join(operations) + "\n};\n\n",
-           BASIS % {"kinds": ", ".join(KINDS), "dimensions": ", ".join(f"{name} = 0" for name in DIMENSIONS)}]
+    out = [
+        HEAD,
+        "enum class Op {\n    " + ",\n    ".join(operations) + "\n};\n\n",
+        BASIS % {"kinds": ", ".join(KINDS), "dimensions": ", ".join(f"{name} = 0" for name in DIMENSIONS)},
+    ]
     out += [row_text(row) for row in ROWS]
-    out.append("} // namespace zelm::detail\n\n#ifdef ZELM_CPP_QUIET\n#pragma GCC diagnostic pop\n"
-               "#undef ZELM_CPP_QUIET\n#endif\n// clang-format on\n")
+    out.append(
+        "} // namespace zelm::detail\n\n#ifdef ZELM_CPP_QUIET\n#pragma GCC diagnostic pop\n"
+        "#undef ZELM_CPP_QUIET\n#endif\n// clang-format on\n"
+    )
     return "".join(out)
 
 

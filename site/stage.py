@@ -19,7 +19,7 @@ ROOT = HERE.parent
 
 # The parts of the table of contents, each with its pages: names under docs/ that exist, in this order.
 ORDER = {
-    "Start": ("first-steps", "before-you-choose", "from-what-you-know", "layouts"),
+    "Start": ("first-steps", "before-you-choose", "from-what-you-know", "cpp", "layouts"),
     "Recipes": ("recipes", "recipes/index", "recipes/README", "recipes/*"),
     "Operations": ("elementwise", "vector", "products", "solvers", "inverse", "movement"),
     "More": ("*", "**/*"),

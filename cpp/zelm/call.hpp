@@ -80,7 +80,7 @@ struct Mixture {
 };
 
 template <class A>
-constexpr void add_to(Mixture &mixture) {
+ZELM_INLINE constexpr void add_to(Mixture &mixture) {
     if constexpr (is_view<A>) {
         if constexpr (is_by_element(A::layout)) {
             mixture.elements = true;
@@ -96,25 +96,26 @@ constexpr void add_to(Mixture &mixture) {
 }
 
 template <class... As>
-consteval Layout common_layout() {
+consteval Mixture mixture_of() {
     Mixture mixture;
     (add_to<As>(mixture), ...);
+    return mixture;
+}
+
+template <class... As>
+consteval Layout common_layout() {
+    constexpr Mixture mixture = mixture_of<As...>();
     static_assert(
-        [] {
-            Mixture m;
-            (add_to<As>(m), ...);
-            return m.fits();
-        }(),
-        "zelm: a list of pointers to objects does not go with an array by strides or by components in one "
-        "call: bring one of "
-        "them into the layout of the other by zelm::copy, or view the array's objects by a list of pointers "
-        "too");
+        mixture.fits(),
+        "zelm: a list of pointers to objects does not go with an array by strides or by components in "
+        "one call: bring one of them into the layout of the other by zelm::copy, or view the array's "
+        "objects by a list of pointers too");
     return mixture.layout();
 }
 
 /** The operand as the layout of the call has it: itself, or with a table of its elements. */
 template <Layout L, class A>
-constexpr decltype(auto) in_layout(const A &a) {
+ZELM_INLINE constexpr decltype(auto) in_layout(const A &a) {
     if constexpr (!is_view<A>) {
         return (a);
     } else if constexpr (is_by_element(L) && !A::has_table) {
@@ -133,7 +134,7 @@ constexpr decltype(auto) in_layout(const A &a) {
 // ---- tests ahead of a call
 
 template <class A>
-constexpr std::size_t count_of(std::size_t count, const A &a) {
+ZELM_INLINE constexpr std::size_t count_of(std::size_t count, const A &a) {
     if constexpr (is_any_array<A>) {
         return a.count;
     } else {
@@ -142,7 +143,7 @@ constexpr std::size_t count_of(std::size_t count, const A &a) {
 }
 
 template <class A>
-constexpr bool agrees(std::size_t count, [[maybe_unused]] const A &a) {
+ZELM_INLINE constexpr bool agrees(std::size_t count, [[maybe_unused]] const A &a) {
     if constexpr (is_any_array<A> || is_numbers<A>) {
         return a.count == count;
     } else {
@@ -150,7 +151,7 @@ constexpr bool agrees(std::size_t count, [[maybe_unused]] const A &a) {
     }
 }
 
-constexpr bool fits_word(std::ptrdiff_t bytes) {
+ZELM_INLINE constexpr bool fits_word(std::ptrdiff_t bytes) {
     if constexpr (sizeof(bytes) > sizeof(std::int32_t)) {
         return bytes == static_cast<std::int32_t>(bytes);
     } else {
@@ -159,7 +160,7 @@ constexpr bool fits_word(std::ptrdiff_t bytes) {
 }
 
 template <Layout L, class A>
-constexpr bool strides_fit([[maybe_unused]] const A &a) {
+ZELM_INLINE constexpr bool strides_fit([[maybe_unused]] const A &a) {
     if constexpr (!is_view<A>) {
         return true;
     } else {
@@ -181,7 +182,7 @@ constexpr bool strides_fit([[maybe_unused]] const A &a) {
 }
 
 template <class A>
-constexpr bool size_fits([[maybe_unused]] const A &a) {
+ZELM_INLINE constexpr bool size_fits([[maybe_unused]] const A &a) {
     if constexpr (is_view<A>) {
         return a.columns() <= largest_count && a.rows() <= largest_count;
     } else {
@@ -190,7 +191,7 @@ constexpr bool size_fits([[maybe_unused]] const A &a) {
 }
 
 template <class A>
-constexpr const char *fault_of([[maybe_unused]] const A &a) {
+ZELM_INLINE constexpr const char *fault_of([[maybe_unused]] const A &a) {
     if constexpr (is_view<A> || is_numbers<A>) {
         return a.fault;
     } else {
@@ -200,7 +201,7 @@ constexpr const char *fault_of([[maybe_unused]] const A &a) {
 
 /** Why the operands can't go into one call; null if they can. What is known at compile time costs nothing. */
 template <Layout L, class... As>
-constexpr const char *refusal([[maybe_unused]] std::size_t count, const As &...as) {
+ZELM_INLINE constexpr const char *refusal([[maybe_unused]] std::size_t count, const As &...as) {
     const char *fault = nullptr;
     ((fault = fault == nullptr ? fault_of(as) : fault), ...);
     if (fault != nullptr) {
@@ -221,7 +222,8 @@ constexpr const char *refusal([[maybe_unused]] std::size_t count, const As &...a
 // ---- parts of arrays
 
 template <class A>
-constexpr auto part_of(const A &a, [[maybe_unused]] std::size_t k, [[maybe_unused]] std::size_t objects) {
+ZELM_INLINE constexpr auto part_of(const A &a, [[maybe_unused]] std::size_t k,
+                                   [[maybe_unused]] std::size_t objects) {
     if constexpr (is_any_array<std::remove_cv_t<A>> || is_numbers<A> || is_pivots<A>) {
         return a.part(k, objects);
     } else {
@@ -230,18 +232,18 @@ constexpr auto part_of(const A &a, [[maybe_unused]] std::size_t k, [[maybe_unuse
 }
 
 template <class R, class T, int N, Layout L, class... As>
-ZelmStatus call_once(const Sizes &size, std::size_t count, const As &...as) {
+ZELM_INLINE ZelmStatus call_once(const Sizes &size, std::size_t count, const As &...as) {
     return R::template call<T, N, L>(in_layout<L>(as)..., size, static_cast<std::uint32_t>(count));
 }
 
 template <class R, class T, int N, Layout L, class... As>
-ZelmStatus call_part(const Sizes &size, std::size_t k, std::size_t objects, const As &...as) {
+ZELM_INLINE ZelmStatus call_part(const Sizes &size, std::size_t k, std::size_t objects, const As &...as) {
     return call_once<R, T, N, L>(size, objects, part_of(as, k, objects)...);
 }
 
 /** True where a table has no entry for object k. */
 template <class A>
-constexpr bool is_missing([[maybe_unused]] const A &a, [[maybe_unused]] std::size_t k) {
+ZELM_INLINE constexpr bool is_missing([[maybe_unused]] const A &a, [[maybe_unused]] std::size_t k) {
     if constexpr (is_any_array<A>) {
         if constexpr (is_list(A::layout)) {
             return a.table[k] == nullptr;
@@ -251,7 +253,7 @@ constexpr bool is_missing([[maybe_unused]] const A &a, [[maybe_unused]] std::siz
 }
 
 template <class A>
-const void *address_of(const A &a) {
+ZELM_INLINE const void *address_of(const A &a) {
     if constexpr (!is_view<A>) {
         return nullptr;
     } else if constexpr (A::has_table) {
@@ -262,8 +264,39 @@ const void *address_of(const A &a) {
 }
 
 template <class First, class... As>
-bool is_in_place(const First &source, const As &...others) {
+ZELM_INLINE bool is_in_place(const First &source, const As &...others) {
     return ((address_of(source) == address_of(others)) || ...);
+}
+
+/**
+ * A copy, member by member, for what is rarely called: were its address or a copy as a whole taken, the
+ * compilers would keep the original in memory.
+ */
+template <class A>
+ZELM_INLINE constexpr auto apart(const A &a) {
+    if constexpr (is_view<A>) {
+        return recast<A>(a);
+    } else if constexpr (is_numbers<A>) {
+        return A{a.first, a.count, a.fault};
+    } else if constexpr (is_pivots<A>) {
+        return A{a.first, a.step};
+    } else {
+        return a;
+    }
+}
+
+ZELM_INLINE constexpr Sizes apart(const Sizes &size) {
+    Sizes copy;
+    copy.len = size.len;
+    copy.width = size.width;
+    copy.height = size.height;
+    copy.n = size.n;
+    copy.src1Width = size.src1Width;
+    copy.src1Height = size.src1Height;
+    copy.src2Width = size.src2Width;
+    copy.src2Height = size.src2Height;
+    copy.src2Len = size.src2Len;
+    return copy;
 }
 
 /**
@@ -272,8 +305,8 @@ bool is_in_place(const First &source, const As &...others) {
  * replaced already.
  */
 template <class R, class T, int N, Layout L, class... As>
-[[gnu::cold, gnu::noinline]] std::size_t failed_index(ZelmStatus status, const Sizes &size, std::size_t count,
-                                                      const As &...as) {
+[[gnu::cold, gnu::noinline]] std::size_t failed_index(ZelmStatus status, Sizes size, std::size_t count,
+                                                      As... as) {
     if (status == ZELM_ERR_NULL_PTR) {
         if constexpr (is_list(L)) {
             for (std::size_t k = 0; k < count; ++k) {
@@ -299,8 +332,8 @@ template <class R, class T, int N, Layout L, class... As>
 
 /** More objects than one call takes, or none. */
 template <class R, class T, int N, Layout L, class... As>
-[[gnu::cold, gnu::noinline]] Result call_in_parts(const char *operation, const Sizes &size, std::size_t count,
-                                                  const As &...as) {
+[[gnu::cold, gnu::noinline]] Result call_in_parts(const char *operation, Sizes size, std::size_t count,
+                                                  As... as) {
     for (std::size_t k = 0; k < count; k += largest_count) {
         const std::size_t objects = count - k < largest_count ? count - k : largest_count;
         if (const char *refused = refusal<L>(objects, part_of(as, k, objects)...)) {
@@ -318,21 +351,22 @@ template <class R, class T, int N, Layout L, class... As>
 
 /** Calls the member for this size and layout over operands whose layout is settled. */
 template <class R, class T, int N, Layout L, class... As>
-Result call_array(const char *operation, const Sizes &size, std::size_t count, const As &...as) {
+ZELM_INLINE Result call_array(const char *operation, const Sizes &size, std::size_t count, const As &...as) {
     if (count - 1 >= largest_count) { // none, or more than one call takes
-        return call_in_parts<R, T, N, L>(operation, size, count, as...);
+        return call_in_parts<R, T, N, L>(operation, apart(size), count, apart(as)...);
     }
     const ZelmStatus status = call_once<R, T, N, L>(size, count, as...);
     if constexpr (R::may_fail || is_list(L)) {
         if (status != ZELM_OK) {
-            return Result(operation, status, nullptr, failed_index<R, T, N, L>(status, size, count, as...));
+            return Result(operation, status, nullptr,
+                          failed_index<R, T, N, L>(status, apart(size), count, apart(as)...));
         }
     }
     return Result(operation, status);
 }
 
 template <class A>
-bool lies_alike_modulo_16(const A &a) {
+ZELM_INLINE bool lies_alike_modulo_16(const A &a) {
     if constexpr (is_any_array<A>) {
         if constexpr (is_list(A::layout)) {
             std::uintptr_t differences = 0;
@@ -350,11 +384,11 @@ bool lies_alike_modulo_16(const A &a) {
 }
 
 template <class First>
-constexpr const auto &last_of(const First &only) {
+ZELM_INLINE constexpr const auto &last_of(const First &only) {
     return only;
 }
 template <class First, class... More>
-constexpr const auto &last_of(const First &, const More &...more) {
+ZELM_INLINE constexpr const auto &last_of(const First &, const More &...more) {
     return last_of(more...);
 }
 
@@ -363,7 +397,7 @@ constexpr const auto &last_of(const First &, const More &...more) {
  * element type, N the size in the function's name or 0. MayCoincide: bit i is set where dst may be operand i.
  */
 template <class R, class T, int N, unsigned MayCoincide = 0, class... As>
-Result run(const char *operation, const Sizes &size, const As &...as) {
+ZELM_INLINE Result run(const char *operation, const Sizes &size, const As &...as) {
     constexpr Layout wanted = common_layout<As...>();
     constexpr Choice choice = R::template choose<T, N>(wanted);
     constexpr Layout L = choice.layout;

@@ -21,12 +21,12 @@ consteval void same_kind() {
 }
 
 template <class A, class D>
-constexpr bool same_size(const A &a, const D &d) {
+ZELM_INLINE constexpr bool same_size(const A &a, const D &d) {
     return used_rows(a) == d.rows() && used_columns(a) == d.columns();
 }
 
 template <class D>
-constexpr Sizes result_size(const D &d) {
+ZELM_INLINE constexpr Sizes result_size(const D &d) {
     Sizes size;
     size.len = size.width = static_cast<std::uint32_t>(d.columns());
     size.height = static_cast<std::uint32_t>(d.rows());
@@ -34,7 +34,7 @@ constexpr Sizes result_size(const D &d) {
 }
 
 template <Op op, class A, class B, class D>
-Result combine(const char *operation, const A &a, const B &b, const D &d) {
+ZELM_INLINE Result combine(const char *operation, const A &a, const B &b, const D &d) {
     same_elements<A, B, D>();
     valid_destination<D, A::is_array || B::is_array>();
     plain_destination<D>();
@@ -64,7 +64,7 @@ Result combine(const char *operation, const A &a, const B &b, const D &d) {
 }
 
 template <class R, class A, class D, class X>
-Result with_constant(const char *operation, const A &a, X value, const D &d) {
+ZELM_INLINE Result with_constant(const char *operation, const A &a, X value, const D &d) {
     static_assert(
         R::exists,
         "zelm: constants are added to vectors and subtracted from them, not from matrices: view the matrix "
@@ -87,7 +87,7 @@ Result with_constant(const char *operation, const A &a, X value, const D &d) {
 /** d = a + b, of vectors or of matrices, also transposed; one of a and b may be a constant beside a vector.
  */
 template <class A, class B, class D>
-Result add(const A &a, const B &b, D &&d) {
+ZELM_INLINE Result add(const A &a, const B &b, D &&d) {
     detail::not_only_constants<A, B>();
     if constexpr (detail::is_constant<A>) {
         return add(b, a, static_cast<D &&>(d));
@@ -104,7 +104,7 @@ Result add(const A &a, const B &b, D &&d) {
 
 /** d = a - b. */
 template <class A, class B, class D>
-Result sub(const A &a, const B &b, D &&d) {
+ZELM_INLINE Result sub(const A &a, const B &b, D &&d) {
     detail::not_only_constants<A, B>();
     if constexpr (detail::is_constant<A>) {
         const auto x = detail::view_of(b);
@@ -139,7 +139,7 @@ consteval void vectors_of_a_length() {
 
 /** d = scale * a + b, of vectors. */
 template <class X, class A, class B, class D>
-Result axpy(X scale, const A &a, const B &b, D &&d) {
+ZELM_INLINE Result axpy(X scale, const A &a, const B &b, D &&d) {
     const auto x = detail::view_of(a);
     const auto y = detail::view_of(b);
     const auto z = detail::target<D>(d);
@@ -159,7 +159,7 @@ Result axpy(X scale, const A &a, const B &b, D &&d) {
 
 /** d = scale1 * a + scale2 * b, of vectors. */
 template <class X, class A, class Y, class B, class D>
-Result lincomb(X scale1, const A &a, Y scale2, const B &b, D &&d) {
+ZELM_INLINE Result lincomb(X scale1, const A &a, Y scale2, const B &b, D &&d) {
     const auto x = detail::view_of(a);
     const auto y = detail::view_of(b);
     const auto z = detail::target<D>(d);

@@ -10,7 +10,7 @@ namespace zelm {
 namespace detail {
 
 /** The layout by which Copy, Extract and LoadIdentity see an array: with every stride given. */
-constexpr Layout with_strides(Layout layout) {
+ZELM_INLINE constexpr Layout with_strides(Layout layout) {
     return is_by_element(layout) ? Layout::PS2 : is_list(layout) ? Layout::LS2 : Layout::S2;
 }
 
@@ -24,7 +24,7 @@ struct CopyRow : Regular {
 };
 
 template <class A, class D>
-Result copy_arrays(const char *operation, const A &a, const D &d) {
+ZELM_INLINE Result copy_arrays(const char *operation, const A &a, const D &d) {
     constexpr Layout from = with_strides(A::layout), to = with_strides(D::layout);
     // Between two tables the row of vectors reads both from dst's: vectors pass as matrices of one row.
     constexpr bool matrices = !A::is_vector || (from == Layout::PS2 && to == Layout::PS2);
@@ -53,7 +53,7 @@ Result copy_arrays(const char *operation, const A &a, const D &d) {
 }
 
 template <class A, class D>
-Result copy_views(const char *operation, const A &a, const D &d) {
+ZELM_INLINE Result copy_views(const char *operation, const A &a, const D &d) {
     same_elements<A, D>();
     valid_destination<D, A::is_array>();
     static_assert(A::is_vector == D::is_vector && may_equal(rows_of<A>, rows_of<D>) &&
@@ -74,13 +74,13 @@ Result copy_views(const char *operation, const A &a, const D &d) {
 
 /** d = a, from any layout to any other. */
 template <class A, class D>
-Result copy(const A &a, D &&d) {
+ZELM_INLINE Result copy(const A &a, D &&d) {
     return detail::copy_views("copy", detail::view_of(a), detail::target<D>(d));
 }
 
 /** d = the transpose of a. */
 template <class A, class D>
-Result transpose(const A &a, D &&d) {
+ZELM_INLINE Result transpose(const A &a, D &&d) {
     const auto x = detail::view_of(a);
     const auto z = detail::target<D>(d);
     using V = std::remove_cv_t<decltype(x)>;
@@ -117,7 +117,7 @@ Result transpose(const A &a, D &&d) {
 namespace detail {
 
 template <class A, class T>
-Result extract_views(const A &a, T *packed) {
+ZELM_INLINE Result extract_views(const A &a, T *packed) {
     constexpr Layout layout = A::is_array                ? with_strides(A::layout)
                               : is_by_element(A::layout) ? Layout::P
                                                          : Layout::S2;
@@ -166,7 +166,7 @@ Result extract_views(const A &a, T *packed) {
 /** Packs the elements of a, row by row and object by object, into a container of numbers that has room for
  * them. */
 template <class A, class Packed>
-Result extract(const A &a, Packed &&packed) {
+ZELM_INLINE Result extract(const A &a, Packed &&packed) {
     const auto x = detail::view_of(a);
     const auto line = detail::numbers<Packed>(packed);
     using V = std::remove_cv_t<decltype(x)>;
@@ -181,7 +181,7 @@ Result extract(const A &a, Packed &&packed) {
 namespace detail {
 
 template <class T, Layout L, class D>
-ZelmStatus identity_of_each(const D &d, std::uint32_t n) {
+ZELM_INLINE ZelmStatus identity_of_each(const D &d, std::uint32_t n) {
     Sizes size;
     size.width = size.height = n;
     for (std::size_t k = 0; k < d.count; ++k) { // in one call only the first is an identity
@@ -196,7 +196,7 @@ ZelmStatus identity_of_each(const D &d, std::uint32_t n) {
 
 /** The strides are taken as they stand: the function widens a row step below a dense row. */
 template <class D>
-constexpr bool has_rows_apart(const D &d) {
+ZELM_INLINE constexpr bool has_rows_apart(const D &d) {
     const auto sz = static_cast<std::ptrdiff_t>(sizeof(typename D::Element));
     return d.element >= sz && (d.row < 0 || d.row >= static_cast<std::ptrdiff_t>(d.columns()) * sz);
 }
@@ -205,7 +205,7 @@ constexpr bool has_rows_apart(const D &d) {
 
 /** Every matrix of d becomes the identity. */
 template <class D>
-Result identity(D &&d) {
+ZELM_INLINE Result identity(D &&d) {
     const auto z = detail::target<D>(d);
     using V = std::remove_cv_t<decltype(z)>;
     detail::square<V>();

@@ -28,37 +28,37 @@ template <class V>
 inline constexpr int columns_of = V::is_transposed ? V::stored_rows : V::stored_columns;
 
 template <class V>
-constexpr std::size_t used_rows(const V &v) {
+ZELM_INLINE constexpr std::size_t used_rows(const V &v) {
     return V::is_transposed ? v.columns() : v.rows();
 }
 template <class V>
-constexpr std::size_t used_columns(const V &v) {
+ZELM_INLINE constexpr std::size_t used_columns(const V &v) {
     return V::is_transposed ? v.rows() : v.columns();
 }
 
 /** Both may be equal: one is known at run time only, or they are. */
-constexpr bool may_equal(int a, int b) {
+ZELM_INLINE constexpr bool may_equal(int a, int b) {
     return a == dynamic || b == dynamic || a == b;
 }
 
 /** The one that is known at compile time, if any is. */
-constexpr int known(int a, int b) {
+ZELM_INLINE constexpr int known(int a, int b) {
     return a != dynamic ? a : b;
 }
-constexpr int known(int a, int b, int c) {
+ZELM_INLINE constexpr int known(int a, int b, int c) {
     return known(known(a, b), c);
 }
 
-constexpr std::uint32_t extent(int at_compile_time, std::size_t at_run_time) {
+ZELM_INLINE constexpr std::uint32_t extent(int at_compile_time, std::size_t at_run_time) {
     return at_compile_time != dynamic ? static_cast<std::uint32_t>(at_compile_time)
                                       : static_cast<std::uint32_t>(at_run_time);
 }
 
 /** The size in the name of a function of vectors or of square matrices; 0 where the run-time form serves. */
-constexpr int named_size(int n) {
+ZELM_INLINE constexpr int named_size(int n) {
     return n >= 3 && n <= 6 ? n : 0;
 }
-constexpr int named_size(int rows, int columns) {
+ZELM_INLINE constexpr int named_size(int rows, int columns) {
     return rows == columns ? named_size(rows) : 0;
 }
 
@@ -96,7 +96,7 @@ inline constexpr bool leads_elsewhere = is_borrowed<X> || requires(const X &x) {
 
 /** What an operation writes, given as a D: an lvalue, or a view of one. */
 template <class D>
-constexpr auto target(std::remove_reference_t<D> &d) {
+ZELM_INLINE constexpr auto target(std::remove_reference_t<D> &d) {
     static_assert(std::is_lvalue_reference_v<D &&> || leads_elsewhere<std::remove_cvref_t<D>>,
                   "zelm: the destination is a temporary: its contents would be lost");
     return view_of(d);
@@ -104,7 +104,7 @@ constexpr auto target(std::remove_reference_t<D> &d) {
 
 /** The destination of one number per object. */
 template <class D>
-constexpr auto numbers(std::remove_reference_t<D> &d) {
+ZELM_INLINE constexpr auto numbers(std::remove_reference_t<D> &d) {
     using X = std::remove_reference_t<D>;
     static_assert(std::is_lvalue_reference_v<D &&> || leads_elsewhere<std::remove_cvref_t<D>>,
                   "zelm: the destination is a temporary: its contents would be lost");
@@ -133,7 +133,7 @@ consteval void not_only_constants() {
 
 /** A constant, by value in the element type. */
 template <class T, class X>
-constexpr T constant(X x) {
+ZELM_INLINE constexpr T constant(X x) {
     static_assert(std::is_same_v<T, X> || std::is_integral_v<X> ||
                       (std::is_same_v<T, double> && std::is_same_v<X, float>),
                   "zelm: the constant is double and the operands are float: write it as a float, as in 0.5f");
@@ -144,7 +144,7 @@ constexpr T constant(X x) {
 
 /** Not transposed: with rows and columns exchanged, in a layout that can say so. */
 template <class V>
-constexpr decltype(auto) straight(const V &v) {
+ZELM_INLINE constexpr decltype(auto) straight(const V &v) {
     if constexpr (!V::is_transposed) {
         return (v);
     } else if constexpr (is_by_element(V::layout)) {
@@ -168,14 +168,14 @@ constexpr decltype(auto) straight(const V &v) {
 
 /** The same matrix used transposed. */
 template <class V>
-constexpr auto flipped(const V &v) {
+ZELM_INLINE constexpr auto flipped(const V &v) {
     return recast<View<typename V::Element, V::stored_rows, V::stored_columns, V::layout, V::is_array,
                        !V::is_transposed>>(v);
 }
 
 /** With an element stride, though its elements are adjacent. */
 template <class V>
-constexpr auto stepped(const V &v) {
+ZELM_INLINE constexpr auto stepped(const V &v) {
     constexpr Layout layout = V::layout == Layout::standard ? Layout::S2
                               : V::layout == Layout::L      ? Layout::LS2
                                                             : V::layout;
@@ -186,7 +186,7 @@ constexpr auto stepped(const V &v) {
 
 /** An array of this one object. */
 template <class V>
-constexpr auto as_array(const V &v) {
+ZELM_INLINE constexpr auto as_array(const V &v) {
     auto w = recast<
         View<typename V::Element, V::stored_rows, V::stored_columns, V::layout, true, V::is_transposed>>(v);
     if constexpr (!V::is_array) {

@@ -13,7 +13,7 @@ namespace detail {
  * Where src2 is read whole and dst is written row by row, dst may be either.
  */
 template <class T, int N>
-constexpr unsigned product_in_place(Kind first, Kind second, Layout layout) {
+ZELM_INLINE constexpr unsigned product_in_place(Kind first, Kind second, Layout layout) {
     constexpr bool wide = std::is_same_v<T, double>;
     const bool dense = layout == Layout::standard || layout == Layout::L;
     const bool transposed = first == Kind::mT || first == Kind::maT;
@@ -54,7 +54,7 @@ constexpr unsigned product_in_place(Kind first, Kind second, Layout layout) {
 }
 
 template <class A, class B, class D>
-constexpr Sizes product_size(const A &a, const B &b, const D &) {
+ZELM_INLINE constexpr Sizes product_size(const A &a, const B &b, const D &) {
     Sizes size;
     size.src1Width = static_cast<std::uint32_t>(a.columns());
     size.src1Height = static_cast<std::uint32_t>(a.rows());
@@ -65,7 +65,7 @@ constexpr Sizes product_size(const A &a, const B &b, const D &) {
 
 /** A product by the form that gives it for every shape: mm or mam. Of the operands none is transposed. */
 template <class A, class B, class D>
-Result product_by_one(const A &a, const B &b, const D &d) {
+ZELM_INLINE Result product_by_one(const A &a, const B &b, const D &d) {
     using R = Row<Op::Mul, A::is_array ? Kind::ma : Kind::m, Kind::m>;
     constexpr Layout layout = common_layout<A, B, D>();
     if constexpr (A::is_array && is_by_element(layout)) {
@@ -83,14 +83,14 @@ Result product_by_one(const A &a, const B &b, const D &d) {
 
 /** The view itself, without the table that it may own. */
 template <class V>
-constexpr auto &bare(const V &v) {
+ZELM_INLINE constexpr auto &bare(const V &v) {
     return static_cast<const View<typename V::Element, V::stored_rows, V::stored_columns, V::layout,
                                   V::is_array, V::is_transposed> &>(v);
 }
 
 /** A product of matrices that are not known to be square and of a size that functions are named after. */
 template <class A, class B, class D>
-Result product_of_any_shape(const A &a, const B &b, const D &d) {
+ZELM_INLINE Result product_of_any_shape(const A &a, const B &b, const D &d) {
     if constexpr (!B::is_array && !A::is_array && !A::is_transposed && B::is_transposed &&
                   common_layout<A, B, D>() == Layout::standard) {
         return run<Row<Op::Mul, Kind::m, Kind::mT>, Scalar<A>, 0>("mul", product_size(a, b, d), a, b, d);
@@ -129,7 +129,7 @@ Result product_of_any_shape(const A &a, const B &b, const D &d) {
 }
 
 template <class A, class B, class D>
-Result product_of_matrices(const A &a, const B &b, const D &d) {
+ZELM_INLINE Result product_of_matrices(const A &a, const B &b, const D &d) {
     static_assert(!D::is_vector,
                   "zelm: the product of two matrices is a matrix, the destination is a vector");
     static_assert(may_equal(columns_of<A>, rows_of<B>),
@@ -156,7 +156,7 @@ Result product_of_matrices(const A &a, const B &b, const D &d) {
 }
 
 template <class A, class B, class D>
-Result product_with_vector(const A &a, const B &b, const D &d) {
+ZELM_INLINE Result product_with_vector(const A &a, const B &b, const D &d) {
     static_assert(D::is_vector,
                   "zelm: the product of a matrix and a vector is a vector, the destination is a matrix");
     static_assert(may_equal(columns_of<A>, B::stored_columns),
@@ -185,7 +185,7 @@ Result product_with_vector(const A &a, const B &b, const D &d) {
 }
 
 template <class A, class B, class D>
-Result product(const A &a, const B &b, const D &d) {
+ZELM_INLINE Result product(const A &a, const B &b, const D &d) {
     static_assert(!A::is_vector, "zelm: a vector times something: write dot or cross for two vectors, and "
                                  "mul(transposed(A), x, y) for a row vector times a matrix");
     same_elements<A, B, D>();
@@ -199,7 +199,7 @@ Result product(const A &a, const B &b, const D &d) {
 }
 
 template <class A, class X, class D>
-Result scaled(const A &a, X value, const D &d) {
+ZELM_INLINE Result scaled(const A &a, X value, const D &d) {
     return with_constant<Row<Op::Mul, kind_of<A>, Kind::c>>("mul", a, value, d);
 }
 
@@ -210,7 +210,7 @@ Result scaled(const A &a, X value, const D &d) {
  * every shape that fit, also transposed.
  */
 template <class A, class B, class D>
-Result mul(const A &a, const B &b, D &&d) {
+ZELM_INLINE Result mul(const A &a, const B &b, D &&d) {
     detail::not_only_constants<A, B>();
     if constexpr (detail::is_constant<A>) {
         return mul(b, a, static_cast<D &&>(d));
@@ -223,7 +223,7 @@ Result mul(const A &a, const B &b, D &&d) {
 
 /** d = a * x + z: the product of one matrix and each vector, plus a vector. */
 template <class A, class X, class Z, class D>
-Result gaxpy(const A &a, const X &x, const Z &z, D &&d) {
+ZELM_INLINE Result gaxpy(const A &a, const X &x, const Z &z, D &&d) {
     const auto m = detail::view_of(a);
     const auto v = detail::view_of(x);
     const auto w = detail::view_of(z);

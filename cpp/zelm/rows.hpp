@@ -85,17 +85,17 @@ struct Regular {
     }
 };
 
-constexpr std::int32_t word(std::ptrdiff_t bytes)
+ZELM_INLINE constexpr std::int32_t word(std::ptrdiff_t bytes)
 {
     return static_cast<std::int32_t>(bytes);
 }
-constexpr std::int32_t word(std::uint32_t size)
+ZELM_INLINE constexpr std::int32_t word(std::uint32_t size)
 {
     return static_cast<std::int32_t>(size);
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f, D d)
+ZELM_INLINE constexpr auto pick(F f, D d)
 {
     if constexpr (std::is_same_v<T, float>) {
         return f;
@@ -105,7 +105,7 @@ constexpr auto pick(F f, D d)
 }
 
 template <class T, int N, class F, class D>
-constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
+ZELM_INLINE constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
 {
     constexpr int i = N - 3;
     if constexpr (std::is_same_v<T, float>) {
@@ -119,7 +119,8 @@ constexpr auto pick(F f3, F f4, F f5, F f6, D d3, D d4, D d5, D d6)
 template <>
 struct Row<Op::Add, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -162,7 +163,8 @@ struct Row<Op::Add, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::Add, Kind::v, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -203,8 +205,8 @@ struct Row<Op::Add, Kind::v, Kind::c> : Regular {
 template <>
 struct Row<Op::Add, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -283,8 +285,8 @@ struct Row<Op::Add, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::Add, Kind::va, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -362,8 +364,8 @@ struct Row<Op::Add, Kind::va, Kind::c> : Regular {
 template <>
 struct Row<Op::Add, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -445,7 +447,8 @@ struct Row<Op::Add, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::Sub, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -488,7 +491,8 @@ struct Row<Op::Sub, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::Sub, Kind::v, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -529,7 +533,8 @@ struct Row<Op::Sub, Kind::v, Kind::c> : Regular {
 template <>
 struct Row<Op::Sub, Kind::c, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -570,8 +575,8 @@ struct Row<Op::Sub, Kind::c, Kind::v> : Regular {
 template <>
 struct Row<Op::Sub, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -650,8 +655,8 @@ struct Row<Op::Sub, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::Sub, Kind::va, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -729,8 +734,8 @@ struct Row<Op::Sub, Kind::va, Kind::c> : Regular {
 template <>
 struct Row<Op::Sub, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -812,8 +817,8 @@ struct Row<Op::Sub, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::Sub, Kind::v, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -892,8 +897,8 @@ struct Row<Op::Sub, Kind::v, Kind::va> : Regular {
 template <>
 struct Row<Op::Sub, Kind::c, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -971,7 +976,8 @@ struct Row<Op::Sub, Kind::c, Kind::va> : Regular {
 template <>
 struct Row<Op::Add, Kind::m, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1029,7 +1035,8 @@ struct Row<Op::Add, Kind::m, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1088,7 +1095,8 @@ struct Row<Op::Add, Kind::mT, Kind::m> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1147,7 +1155,8 @@ struct Row<Op::Add, Kind::mT, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1210,8 +1219,8 @@ struct Row<Op::Add, Kind::ma, Kind::m> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1317,8 +1326,8 @@ struct Row<Op::Add, Kind::ma, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1416,8 +1425,8 @@ struct Row<Op::Add, Kind::ma, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1505,8 +1514,8 @@ struct Row<Op::Add, Kind::ma, Kind::ma> : Regular {
 template <>
 struct Row<Op::Add, Kind::ma, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1603,8 +1612,8 @@ struct Row<Op::Add, Kind::maT, Kind::m> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1698,8 +1707,8 @@ struct Row<Op::Add, Kind::maT, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1784,8 +1793,8 @@ struct Row<Op::Add, Kind::maT, Kind::mT> : Regular {
 template <>
 struct Row<Op::Add, Kind::maT, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1873,8 +1882,8 @@ struct Row<Op::Add, Kind::maT, Kind::ma> : Regular {
 template <>
 struct Row<Op::Add, Kind::maT, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -1962,7 +1971,8 @@ struct Row<Op::Add, Kind::maT, Kind::maT> : Regular {
 template <>
 struct Row<Op::Sub, Kind::m, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2020,7 +2030,8 @@ struct Row<Op::Sub, Kind::m, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2083,7 +2094,8 @@ struct Row<Op::Sub, Kind::mT, Kind::m> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2146,7 +2158,8 @@ struct Row<Op::Sub, Kind::mT, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2209,8 +2222,8 @@ struct Row<Op::Sub, Kind::ma, Kind::m> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2320,8 +2333,8 @@ struct Row<Op::Sub, Kind::ma, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2423,8 +2436,8 @@ struct Row<Op::Sub, Kind::ma, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2521,8 +2534,8 @@ struct Row<Op::Sub, Kind::ma, Kind::maT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2610,8 +2623,8 @@ struct Row<Op::Sub, Kind::ma, Kind::maT> : Regular {
 template <>
 struct Row<Op::Sub, Kind::maT, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2705,8 +2718,8 @@ struct Row<Op::Sub, Kind::maT, Kind::mT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2800,8 +2813,8 @@ struct Row<Op::Sub, Kind::maT, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -2902,8 +2915,8 @@ struct Row<Op::Sub, Kind::maT, Kind::maT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3000,8 +3013,8 @@ struct Row<Op::Sub, Kind::m, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3086,8 +3099,8 @@ struct Row<Op::Sub, Kind::m, Kind::ma> : Regular {
 template <>
 struct Row<Op::Sub, Kind::m, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3181,8 +3194,8 @@ struct Row<Op::Sub, Kind::mT, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3267,8 +3280,8 @@ struct Row<Op::Sub, Kind::mT, Kind::ma> : Regular {
 template <>
 struct Row<Op::Sub, Kind::mT, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3353,7 +3366,8 @@ struct Row<Op::Sub, Kind::mT, Kind::maT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::v, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3394,8 +3408,8 @@ struct Row<Op::Mul, Kind::v, Kind::c> : Regular {
 template <>
 struct Row<Op::Mul, Kind::va, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3473,7 +3487,8 @@ struct Row<Op::Mul, Kind::va, Kind::c> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3515,7 +3530,8 @@ struct Row<Op::Mul, Kind::m, Kind::c> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3558,8 +3574,8 @@ struct Row<Op::Mul, Kind::mT, Kind::c> : Regular {
 template <>
 struct Row<Op::Mul, Kind::ma, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3641,8 +3657,8 @@ struct Row<Op::Mul, Kind::ma, Kind::c> : Regular {
 template <>
 struct Row<Op::Mul, Kind::maT, Kind::c> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &val, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &val, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -3724,7 +3740,7 @@ struct Row<Op::Mul, Kind::maT, Kind::c> : Regular {
 template <>
 struct Row<Op::Saxpy, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -3770,7 +3786,7 @@ struct Row<Op::Saxpy, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::Saxpy, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -3851,7 +3867,7 @@ struct Row<Op::Saxpy, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::Saxpy, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -3936,7 +3952,7 @@ struct Row<Op::Saxpy, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::Saxpy, Kind::v, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -4017,7 +4033,7 @@ struct Row<Op::Saxpy, Kind::v, Kind::va> : Regular {
 template <>
 struct Row<Op::LComb, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
         const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -4064,7 +4080,7 @@ struct Row<Op::LComb, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::LComb, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
         const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -4147,7 +4163,7 @@ struct Row<Op::LComb, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::LComb, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scale1, const auto &src2, const auto &scale2,
         const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -4232,7 +4248,8 @@ struct Row<Op::LComb, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::DotProduct, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4274,8 +4291,8 @@ struct Row<Op::DotProduct, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::DotProduct, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4352,8 +4369,8 @@ struct Row<Op::DotProduct, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::DotProduct, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4433,7 +4450,8 @@ struct Row<Op::DotProduct, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::CrossProduct, Kind::v, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             return pick<T, N>(zelmCrossProduct_vv_32f_3x1, zelmCrossProduct_vv_64f_3x1)
@@ -4454,8 +4472,8 @@ struct Row<Op::CrossProduct, Kind::v, Kind::v> : Regular {
 template <>
 struct Row<Op::CrossProduct, Kind::va, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             return pick<T, N>(zelmCrossProduct_vav_32f_3x1, zelmCrossProduct_vav_64f_3x1)
@@ -4488,8 +4506,8 @@ struct Row<Op::CrossProduct, Kind::va, Kind::v> : Regular {
 template <>
 struct Row<Op::CrossProduct, Kind::va, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             return pick<T, N>(zelmCrossProduct_vava_32f_3x1, zelmCrossProduct_vava_64f_3x1)
@@ -4522,8 +4540,8 @@ struct Row<Op::CrossProduct, Kind::va, Kind::va> : Regular {
 template <>
 struct Row<Op::CrossProduct, Kind::v, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             return pick<T, N>(zelmCrossProduct_vva_32f_3x1, zelmCrossProduct_vva_64f_3x1)
@@ -4556,7 +4574,7 @@ struct Row<Op::CrossProduct, Kind::v, Kind::va> : Regular {
 template <>
 struct Row<Op::L2Norm, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4598,7 +4616,8 @@ struct Row<Op::L2Norm, Kind::v> : Regular {
 template <>
 struct Row<Op::L2Norm, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4670,7 +4689,7 @@ struct Row<Op::L2Norm, Kind::va> : Regular {
 template <>
 struct Row<Op::FrobNorm, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4712,7 +4731,7 @@ struct Row<Op::FrobNorm, Kind::m> : Regular {
 template <>
 struct Row<Op::Trace, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4754,7 +4773,8 @@ struct Row<Op::Trace, Kind::m> : Regular {
 template <>
 struct Row<Op::FrobNorm, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4828,7 +4848,8 @@ struct Row<Op::FrobNorm, Kind::ma> : Regular {
 template <>
 struct Row<Op::Trace, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4900,7 +4921,8 @@ struct Row<Op::Trace, Kind::ma> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4945,7 +4967,8 @@ struct Row<Op::Mul, Kind::m, Kind::v> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -4991,8 +5014,8 @@ struct Row<Op::Mul, Kind::mT, Kind::v> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5075,8 +5098,8 @@ struct Row<Op::Mul, Kind::m, Kind::va> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5159,8 +5182,8 @@ struct Row<Op::Mul, Kind::mT, Kind::va> : Regular {
 template <>
 struct Row<Op::Mul, Kind::ma, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5243,8 +5266,8 @@ struct Row<Op::Mul, Kind::ma, Kind::v> : Regular {
 template <>
 struct Row<Op::Mul, Kind::maT, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5327,8 +5350,8 @@ struct Row<Op::Mul, Kind::maT, Kind::v> : Regular {
 template <>
 struct Row<Op::Mul, Kind::ma, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5414,8 +5437,8 @@ struct Row<Op::Mul, Kind::ma, Kind::va> : Regular {
 template <>
 struct Row<Op::Mul, Kind::maT, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5501,7 +5524,8 @@ struct Row<Op::Mul, Kind::maT, Kind::va> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5547,7 +5571,8 @@ struct Row<Op::Mul, Kind::m, Kind::m> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::mT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5594,7 +5619,8 @@ struct Row<Op::Mul, Kind::m, Kind::mT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5641,7 +5667,8 @@ struct Row<Op::Mul, Kind::mT, Kind::m> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::mT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5688,8 +5715,8 @@ struct Row<Op::Mul, Kind::mT, Kind::mT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::ma, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5777,8 +5804,8 @@ struct Row<Op::Mul, Kind::ma, Kind::m> : Regular {
 template <>
 struct Row<Op::Mul, Kind::ma, Kind::mT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -5887,8 +5914,8 @@ struct Row<Op::Mul, Kind::ma, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6001,8 +6028,8 @@ struct Row<Op::Mul, Kind::ma, Kind::maT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6094,8 +6121,8 @@ struct Row<Op::Mul, Kind::ma, Kind::maT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::maT, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6183,8 +6210,8 @@ struct Row<Op::Mul, Kind::maT, Kind::m> : Regular {
 template <>
 struct Row<Op::Mul, Kind::maT, Kind::mT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6293,8 +6320,8 @@ struct Row<Op::Mul, Kind::maT, Kind::ma> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6407,8 +6434,8 @@ struct Row<Op::Mul, Kind::maT, Kind::maT> : Regular {
         return {wanted, N, Guard::none};
     }
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6500,8 +6527,8 @@ struct Row<Op::Mul, Kind::maT, Kind::maT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6589,8 +6616,8 @@ struct Row<Op::Mul, Kind::m, Kind::ma> : Regular {
 template <>
 struct Row<Op::Mul, Kind::m, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6678,8 +6705,8 @@ struct Row<Op::Mul, Kind::m, Kind::maT> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6767,8 +6794,8 @@ struct Row<Op::Mul, Kind::mT, Kind::ma> : Regular {
 template <>
 struct Row<Op::Mul, Kind::mT, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -6856,7 +6883,7 @@ struct Row<Op::Mul, Kind::mT, Kind::maT> : Regular {
 template <>
 struct Row<Op::Gaxpy, Kind::m, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &src3, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &src3, const auto &dst,
         [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -6903,7 +6930,7 @@ struct Row<Op::Gaxpy, Kind::m, Kind::v> : Regular {
 template <>
 struct Row<Op::Gaxpy, Kind::m, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &src3, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &src3, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -6993,7 +7020,8 @@ struct Row<Op::Gaxpy, Kind::m, Kind::va> : Regular {
 template <>
 struct Row<Op::Det, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7035,7 +7063,8 @@ template <>
 struct Row<Op::Invert, Kind::m> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7079,7 +7108,7 @@ template <>
 struct Row<Op::LUDecomp, Kind::m> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &pivotIndex, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &pivotIndex, const auto &dst,
         [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -7125,7 +7154,7 @@ template <>
 struct Row<Op::CholeskyDecomp, Kind::m> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7170,7 +7199,8 @@ template <>
 struct Row<Op::QRDecomp, Kind::m> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7214,7 +7244,7 @@ struct Row<Op::QRDecomp, Kind::m> : Regular {
 template <>
 struct Row<Op::Det, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -7288,7 +7318,7 @@ template <>
 struct Row<Op::Invert, Kind::ma> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -7370,7 +7400,7 @@ template <>
 struct Row<Op::LUDecomp, Kind::ma> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &pivotIndex, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &pivotIndex, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -7454,7 +7484,8 @@ template <>
 struct Row<Op::CholeskyDecomp, Kind::ma> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7542,7 +7573,7 @@ template <>
 struct Row<Op::QRDecomp, Kind::ma> : Regular {
     static constexpr bool may_fail = true;
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &scratch, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -7625,7 +7656,7 @@ struct Row<Op::QRDecomp, Kind::ma> : Regular {
 template <>
 struct Row<Op::LUBackSubst, Kind::m, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -7672,7 +7703,8 @@ struct Row<Op::LUBackSubst, Kind::m, Kind::v> : Regular {
 template <>
 struct Row<Op::CholeskyBackSubst, Kind::m, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7720,7 +7752,7 @@ struct Row<Op::CholeskyBackSubst, Kind::m, Kind::v> : Regular {
 template <>
 struct Row<Op::QRBackSubst, Kind::m, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
@@ -7766,7 +7798,7 @@ struct Row<Op::QRBackSubst, Kind::m, Kind::v> : Regular {
 template <>
 struct Row<Op::LUBackSubst, Kind::m, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -7855,8 +7887,8 @@ struct Row<Op::LUBackSubst, Kind::m, Kind::va> : Regular {
 template <>
 struct Row<Op::CholeskyBackSubst, Kind::m, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -7947,7 +7979,7 @@ struct Row<Op::CholeskyBackSubst, Kind::m, Kind::va> : Regular {
 template <>
 struct Row<Op::QRBackSubst, Kind::m, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -8036,7 +8068,7 @@ struct Row<Op::QRBackSubst, Kind::m, Kind::va> : Regular {
 template <>
 struct Row<Op::LUBackSubst, Kind::ma, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &pivotIndex, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -8128,8 +8160,8 @@ struct Row<Op::LUBackSubst, Kind::ma, Kind::va> : Regular {
 template <>
 struct Row<Op::CholeskyBackSubst, Kind::ma, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst, [[maybe_unused]] const Sizes &size,
-        std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &src2, const auto &dst,
+        [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -8221,7 +8253,7 @@ struct Row<Op::CholeskyBackSubst, Kind::ma, Kind::va> : Regular {
 template <>
 struct Row<Op::QRBackSubst, Kind::ma, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
+    ZELM_INLINE static ZelmStatus call(const auto &src1, const auto &scratch, const auto &src2, const auto &dst,
         [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
@@ -8312,7 +8344,7 @@ struct Row<Op::QRBackSubst, Kind::ma, Kind::va> : Regular {
 template <>
 struct Row<Op::Transpose, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -8355,7 +8387,8 @@ struct Row<Op::Transpose, Kind::m> : Regular {
 template <>
 struct Row<Op::Transpose, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::standard) {
             if constexpr (N == 0) {
@@ -8435,7 +8468,8 @@ struct Row<Op::Transpose, Kind::ma> : Regular {
 template <>
 struct Row<Op::Copy, Kind::va> : Regular {
     template <class T, Layout From, Layout To>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (From == Layout::S2 && To == Layout::S2) {
             return pick<T, 0>(zelmCopy_va_32f_SS, zelmCopy_va_64f_SS)
@@ -8483,7 +8517,8 @@ struct Row<Op::Copy, Kind::va> : Regular {
 template <>
 struct Row<Op::Copy, Kind::ma> : Regular {
     template <class T, Layout From, Layout To>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (From == Layout::S2 && To == Layout::S2) {
             return pick<T, 0>(zelmCopy_ma_32f_SS, zelmCopy_ma_64f_SS)
@@ -8531,7 +8566,7 @@ struct Row<Op::Copy, Kind::ma> : Regular {
 template <>
 struct Row<Op::Extract, Kind::v> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_v_32f_S2, zelmExtract_v_64f_S2)
@@ -8549,7 +8584,7 @@ struct Row<Op::Extract, Kind::v> : Regular {
 template <>
 struct Row<Op::Extract, Kind::m> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_m_32f_S2, zelmExtract_m_64f_S2)
@@ -8567,7 +8602,7 @@ struct Row<Op::Extract, Kind::m> : Regular {
 template <>
 struct Row<Op::Extract, Kind::mT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_mT_32f_S2, zelmExtract_mT_64f_S2)
@@ -8585,7 +8620,8 @@ struct Row<Op::Extract, Kind::mT> : Regular {
 template <>
 struct Row<Op::Extract, Kind::va> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_va_32f_S2, zelmExtract_va_64f_S2)
@@ -8606,7 +8642,8 @@ struct Row<Op::Extract, Kind::va> : Regular {
 template <>
 struct Row<Op::Extract, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_ma_32f_S2, zelmExtract_ma_64f_S2)
@@ -8629,7 +8666,8 @@ struct Row<Op::Extract, Kind::ma> : Regular {
 template <>
 struct Row<Op::Extract, Kind::maT> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &src, const auto &dst, [[maybe_unused]] const Sizes &size,
+        std::uint32_t count)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmExtract_maT_32f_S2, zelmExtract_maT_64f_S2)
@@ -8652,7 +8690,7 @@ struct Row<Op::Extract, Kind::maT> : Regular {
 template <>
 struct Row<Op::LoadIdentity, Kind::ma> : Regular {
     template <class T, int N, Layout L>
-    static ZelmStatus call(const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
+    ZELM_INLINE static ZelmStatus call(const auto &dst, [[maybe_unused]] const Sizes &size, std::uint32_t count)
     {
         if constexpr (L == Layout::S2) {
             return pick<T, 0>(zelmLoadIdentity_ma_32f_S, zelmLoadIdentity_ma_64f_S)

@@ -20,7 +20,7 @@ consteval void same_matrices() {
 }
 
 template <class A>
-constexpr Sizes order_of(const A &a) {
+ZELM_INLINE constexpr Sizes order_of(const A &a) {
     Sizes size;
     size.n = size.width = static_cast<std::uint32_t>(a.columns());
     size.height = static_cast<std::uint32_t>(a.rows());
@@ -53,7 +53,7 @@ struct Scratch {
 };
 
 template <class T, class S>
-constexpr Scratch<T> scratch_of(std::remove_reference_t<S> &scratch) {
+ZELM_INLINE constexpr Scratch<T> scratch_of(std::remove_reference_t<S> &scratch) {
     const auto line = numbers<S>(scratch);
     static_assert(std::is_same_v<typename std::remove_cv_t<decltype(line)>::Element, T>,
                   "zelm: scratch is a container of the operands' element type");
@@ -66,7 +66,7 @@ inline constexpr const char *scratch_too_short = "scratch is too short: n * n + 
 
 /** out = the determinant of each 3x3 to 6x6 matrix. */
 template <class A, class Out>
-Result det(const A &a, Out &&out) {
+ZELM_INLINE Result det(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     detail::square<V>();
@@ -81,7 +81,7 @@ Result det(const A &a, Out &&out) {
 
 /** d = the inverse of each 3x3 to 6x6 matrix. A singular one ends the call. */
 template <class A, class D>
-Result inverse(const A &a, D &&d) {
+ZELM_INLINE Result inverse(const A &a, D &&d) {
     const auto x = detail::view_of(a);
     const auto z = detail::target<D>(d);
     using V = std::remove_cv_t<decltype(x)>;
@@ -98,7 +98,7 @@ Result inverse(const A &a, D &&d) {
  * `scratch` is a container of at least n * n + n elements.
  */
 template <class A, class S, class Out>
-Result det_with_threshold(const A &a, S &&scratch, Out &&out) {
+ZELM_INLINE Result det_with_threshold(const A &a, S &&scratch, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     detail::square<V>();
@@ -118,7 +118,7 @@ Result det_with_threshold(const A &a, S &&scratch, Out &&out) {
 /** The inverse by elimination, of any order: cofactors with a pivot below 2^-23 (float) or 2^-52 (double)
  * count as 0. */
 template <class A, class S, class D>
-Result inverse_with_threshold(const A &a, S &&scratch, D &&d) {
+ZELM_INLINE Result inverse_with_threshold(const A &a, S &&scratch, D &&d) {
     const auto x = detail::view_of(a);
     const auto z = detail::target<D>(d);
     using V = std::remove_cv_t<decltype(x)>;
@@ -198,7 +198,7 @@ struct RowNumbers<std::array<P, N>> : RowNumbers<P> {};
  * side by side, as in uint32_t[4] or std::vector<std::array<uint32_t, 4>>.
  */
 template <class M, class P>
-constexpr auto lu_factors(M &&matrix, P &&pivots) {
+ZELM_INLINE constexpr auto lu_factors(M &&matrix, P &&pivots) {
     detail::refuse_temporary<M &&>();
     detail::refuse_temporary<P &&>();
     const auto v = detail::view_of(matrix);
@@ -216,7 +216,7 @@ constexpr auto lu_factors(M &&matrix, P &&pivots) {
 
 /** A Cholesky factor in `matrix`, a matrix or an array of them: the lower triangle is used. */
 template <class M>
-constexpr auto cholesky_factor(M &&matrix) {
+ZELM_INLINE constexpr auto cholesky_factor(M &&matrix) {
     detail::refuse_temporary<M &&>();
     const auto v = detail::view_of(matrix);
     using V = std::remove_cv_t<decltype(v)>;
@@ -228,7 +228,7 @@ constexpr auto cholesky_factor(M &&matrix) {
 /** QR factors in `matrix`. A size known at run time needs `scratch`, as many elements as the matrix has rows.
  */
 template <class M>
-constexpr auto qr_factors(M &&matrix) {
+ZELM_INLINE constexpr auto qr_factors(M &&matrix) {
     detail::refuse_temporary<M &&>();
     const auto v = detail::view_of(matrix);
     using V = std::remove_cv_t<decltype(v)>;
@@ -240,7 +240,7 @@ constexpr auto qr_factors(M &&matrix) {
     return QrFactors<V, detail::Scalar<V>>{v, nullptr, 0};
 }
 template <class M, class S>
-constexpr auto qr_factors(M &&matrix, S &&scratch) {
+ZELM_INLINE constexpr auto qr_factors(M &&matrix, S &&scratch) {
     detail::refuse_temporary<M &&>();
     const auto v = detail::view_of(matrix);
     using V = std::remove_cv_t<decltype(v)>;
@@ -255,18 +255,18 @@ namespace detail {
 inline constexpr const char *pivots_too_short = "the row numbers are too few: n for each object";
 
 template <class F>
-constexpr bool has_pivots(const F &f) {
+ZELM_INLINE constexpr bool has_pivots(const F &f) {
     return f.pivots_size >= f.matrix.count * f.matrix.columns();
 }
 
 template <class A, class M>
-constexpr bool same_order(const A &a, const M &m) {
+ZELM_INLINE constexpr bool same_order(const A &a, const M &m) {
     return a.rows() == m.rows() && a.columns() == m.columns() && m.rows() == m.columns();
 }
 
 /** Where no scratch is given, a local one. */
 template <class V, class F, class Call>
-Result with_scratch(const char *operation, const F &f, Call call) {
+ZELM_INLINE Result with_scratch(const char *operation, const F &f, Call call) {
     if constexpr (V::stored_rows != dynamic) {
         if (f.scratch == nullptr) {
             Scalar<V> scratch[static_cast<std::size_t>(V::stored_rows)];
@@ -284,7 +284,7 @@ Result with_scratch(const char *operation, const F &f, Call call) {
 
 /** The LU factors of a, with partial pivoting. A pivot below 2^-23 ends the call. */
 template <class A, class F>
-Result lu(const A &a, const F &factors) {
+ZELM_INLINE Result lu(const A &a, const F &factors) {
     static_assert(detail::is_lu<F>, "zelm: lu writes LU factors: lu(A, lu_factors(matrix, pivots))");
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
@@ -309,13 +309,13 @@ namespace detail {
 
 // The strided forms of order 3 to 6 round an element stride down to whole elements.
 template <class V>
-constexpr bool has_whole_elements(const V &v) {
+ZELM_INLINE constexpr bool has_whole_elements(const V &v) {
     return !is_strided(V::layout) || is_by_element(V::layout) ||
            v.element % static_cast<std::ptrdiff_t>(sizeof(typename V::Element)) == 0;
 }
 
 template <class A, class D>
-Result cholesky_views(const A &a, const D &d) {
+ZELM_INLINE Result cholesky_views(const A &a, const D &d) {
     using R = Row<Op::CholeskyDecomp, A::is_array ? Kind::ma : Kind::m>;
     if (!has_whole_elements(a) || !has_whole_elements(d)) {
         if constexpr (A::has_fixed_shape && D::has_fixed_shape && !is_list(A::layout) &&
@@ -340,7 +340,7 @@ Result cholesky_views(const A &a, const D &d) {
 /** The Cholesky factor of each symmetric positive definite matrix; only lower triangles are read and written.
  */
 template <class A, class F>
-Result cholesky(const A &a, const F &factor) {
+ZELM_INLINE Result cholesky(const A &a, const F &factor) {
     static_assert(detail::is_cholesky<F>,
                   "zelm: cholesky writes a Cholesky factor: cholesky(A, cholesky_factor(matrix))");
     const auto x = detail::view_of(a);
@@ -356,7 +356,7 @@ Result cholesky(const A &a, const F &factor) {
 
 /** The QR factors of each matrix of at least as many rows as columns, by Householder reflections. */
 template <class A, class F>
-Result qr(const A &a, const F &factors) {
+ZELM_INLINE Result qr(const A &a, const F &factors) {
     static_assert(detail::is_qr<F>, "zelm: qr writes QR factors: qr(A, qr_factors(matrix))");
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
@@ -375,7 +375,7 @@ Result qr(const A &a, const F &factors) {
         return Result("qr", ZELM_ERR_SIZE, detail::sizes_differ);
     }
     const auto &s = detail::straight(x);
-    return detail::with_scratch<W>("qr", factors, [&](detail::Scalar<V> *scratch) {
+    return detail::with_scratch<W>("qr", factors, [&](detail::Scalar<V> *scratch) ZELM_INLINE_LAMBDA {
         return detail::run<
             detail::Row<detail::Op::QRDecomp, V::is_array ? detail::Kind::ma : detail::Kind::m>,
             detail::Scalar<V>, detail::order<W>(), 1u>("qr", detail::order_of(z), detail::bare(s), scratch,
@@ -404,7 +404,7 @@ template <Op op, class M, class B>
 using SystemRow = Row<op, M::is_array ? Kind::ma : Kind::m, B::is_array ? Kind::va : Kind::v>;
 
 template <class F, class B, class X>
-Result solve_views(const F &f, const B &b, const X &x) {
+ZELM_INLINE Result solve_views(const F &f, const B &b, const X &x) {
     const auto &m = f.matrix;
     using M = std::remove_cvref_t<decltype(m)>;
     system<M, B, X>();
@@ -423,7 +423,7 @@ Result solve_views(const F &f, const B &b, const X &x) {
     } else if constexpr (is_cholesky<F>) {
         return run<SystemRow<Op::CholeskyBackSubst, M, B>, T, N, 2u>("solve", size, m, b, x);
     } else {
-        return with_scratch<M>("solve", f, [&](T *scratch) {
+        return with_scratch<M>("solve", f, [&](T *scratch) ZELM_INLINE_LAMBDA {
             return run<SystemRow<Op::QRBackSubst, M, B>, T, N, 4u>("solve", size, m, scratch, b, x);
         });
     }
@@ -434,7 +434,7 @@ Result solve_views(const F &f, const B &b, const X &x) {
 /** x with A * x = b, where `factors` are those of A; by QR factors of a tall A in the sense of least squares.
  */
 template <class F, class B, class X>
-Result solve(const F &factors, const B &b, X &&x) {
+ZELM_INLINE Result solve(const F &factors, const B &b, X &&x) {
     static_assert(detail::is_lu<F> || detail::is_cholesky<F> || detail::is_qr<F>,
                   "zelm: solve takes factors, whose type says by which decomposition they came: lu_factors, "
                   "cholesky_factor, qr_factors");

@@ -16,7 +16,7 @@ consteval void numbers_of() {
 
 /** An operation on one matrix or vector per object that gives a number; K is its kind in the grid. */
 template <Op op, class A, class Out>
-Result number_of_each(const char *operation, const A &a, const Out &out) {
+ZELM_INLINE Result number_of_each(const char *operation, const A &a, const Out &out) {
     numbers_of<A, Out>();
     const auto &x = straight(a);
     using V = std::remove_cvref_t<decltype(x)>;
@@ -39,7 +39,7 @@ Result number_of_each(const char *operation, const A &a, const Out &out) {
 
 /** out = the sum over j of a[j] * b[j], one number per object. */
 template <class A, class B, class Out>
-Result dot(const A &a, const B &b, Out &&out) {
+ZELM_INLINE Result dot(const A &a, const B &b, Out &&out) {
     const auto x = detail::view_of(a);
     const auto y = detail::view_of(b);
     const auto z = detail::numbers<Out>(out);
@@ -67,7 +67,7 @@ Result dot(const A &a, const B &b, Out &&out) {
 
 /** d = a x b, of 3-vectors. */
 template <class A, class B, class D>
-Result cross(const A &a, const B &b, D &&d) {
+ZELM_INLINE Result cross(const A &a, const B &b, D &&d) {
     const auto x = detail::view_of(a);
     const auto y = detail::view_of(b);
     const auto z = detail::target<D>(d);
@@ -86,7 +86,7 @@ Result cross(const A &a, const B &b, D &&d) {
 
 /** out = the Euclidean length of each vector. */
 template <class A, class Out>
-Result norm(const A &a, Out &&out) {
+ZELM_INLINE Result norm(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     static_assert(V::is_vector, "zelm: norm takes vectors; of matrices, write frobenius_norm");
@@ -102,7 +102,7 @@ Result norm(const A &a, Out &&out) {
 /** As norm, of vectors that are not zero: in float faster, within a few units in the last place. A zero gives
  * NaN. */
 template <class A, class Out>
-Result norm_nonzero(const A &a, Out &&out) {
+ZELM_INLINE Result norm_nonzero(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     static_assert(V::is_vector,
@@ -112,7 +112,7 @@ Result norm_nonzero(const A &a, Out &&out) {
 
 /** out = the root of the sum of the squares of each matrix's elements. */
 template <class A, class Out>
-Result frobenius_norm(const A &a, Out &&out) {
+ZELM_INLINE Result frobenius_norm(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     static_assert(!V::is_vector, "zelm: frobenius_norm takes matrices; of vectors, write norm");
@@ -128,7 +128,7 @@ Result frobenius_norm(const A &a, Out &&out) {
 /** As frobenius_norm, of matrices that are not zero: in float faster, within a few units in the last place.
  */
 template <class A, class Out>
-Result frobenius_norm_nonzero(const A &a, Out &&out) {
+ZELM_INLINE Result frobenius_norm_nonzero(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     using V = std::remove_cv_t<decltype(x)>;
     static_assert(!V::is_vector,
@@ -149,7 +149,7 @@ consteval void square() {
 
 /** out = the sum of each square matrix's diagonal. */
 template <class A, class Out>
-Result trace(const A &a, Out &&out) {
+ZELM_INLINE Result trace(const A &a, Out &&out) {
     const auto x = detail::view_of(a);
     detail::square<std::remove_cv_t<decltype(x)>>();
     if (x.rows() != x.columns()) {

@@ -8,6 +8,15 @@
 #include <cstdint>
 #include <type_traits>
 
+// Optimised code has nothing of this layer in it but the call of the C function.
+#if defined(__OPTIMIZE__) && (defined(__GNUC__) || defined(__clang__))
+#define ZELM_INLINE [[gnu::always_inline]] inline
+#define ZELM_INLINE_LAMBDA __attribute__((always_inline))
+#else
+#define ZELM_INLINE inline
+#define ZELM_INLINE_LAMBDA
+#endif
+
 namespace zelm {
 
 /** A size that is known at run time. */
@@ -50,22 +59,22 @@ inline constexpr bool never = false;
 // Addresses are computed as numbers: an empty container's null pointer may be moved too, and strides may lead
 // anywhere.
 template <class T>
-T *moved(T *pointer, std::ptrdiff_t bytes) {
+ZELM_INLINE T *moved(T *pointer, std::ptrdiff_t bytes) {
     return reinterpret_cast<T *>(reinterpret_cast<std::uintptr_t>(pointer) +
                                  static_cast<std::uintptr_t>(bytes));
 }
 
-constexpr bool is_strided(Layout layout) {
+ZELM_INLINE constexpr bool is_strided(Layout layout) {
     return layout == Layout::S2 || layout == Layout::PS2 || layout == Layout::LS2;
 }
 
 /** The objects are reached through a table of pointers to objects. */
-constexpr bool is_list(Layout layout) {
+ZELM_INLINE constexpr bool is_list(Layout layout) {
     return layout == Layout::L || layout == Layout::LS2;
 }
 
 /** The elements are reached through a table of pointers to elements. */
-constexpr bool is_by_element(Layout layout) {
+ZELM_INLINE constexpr bool is_by_element(Layout layout) {
     return layout == Layout::P || layout == Layout::PS2;
 }
 
@@ -99,16 +108,16 @@ struct View {
     std::size_t columns_at_run_time = 0;
     const char *fault = nullptr; // why no operation can take this view
 
-    constexpr std::size_t rows() const {
+    ZELM_INLINE constexpr std::size_t rows() const {
         return Rows == dynamic ? rows_at_run_time : static_cast<std::size_t>(Rows);
     }
-    constexpr std::size_t columns() const {
+    ZELM_INLINE constexpr std::size_t columns() const {
         return Columns == dynamic ? columns_at_run_time : static_cast<std::size_t>(Columns);
     }
     constexpr std::size_t size() const { return count; }
 
     /** The objects from number k on, `objects` of them. */
-    View part(std::size_t k, std::size_t objects) const {
+    ZELM_INLINE View part(std::size_t k, std::size_t objects) const {
         View view = *this;
         if constexpr (Array) {
             view.count = objects;
@@ -136,7 +145,7 @@ inline constexpr bool is_view<View<T, R, C, L, A, X>> = true;
 
 /** The same addresses under another type: other sizes, layout or use. */
 template <class To, class From>
-constexpr To recast(const From &view) {
+ZELM_INLINE constexpr To recast(const From &view) {
     To to;
     to.first = view.first;
     to.table = view.table;
@@ -159,7 +168,7 @@ struct Tabled : View<T, Rows, Columns, L, Array, Transposed> {
     T *own[static_cast<std::size_t>(entries)];
 
     template <class From>
-    explicit Tabled(const From &view, bool exchanged = false)
+    ZELM_INLINE explicit Tabled(const From &view, bool exchanged = false)
         : View<T, Rows, Columns, L, Array, Transposed>(
               recast<View<T, Rows, Columns, L, Array, Transposed>>(view)) {
         for (int e = 0; e < entries; ++e) {

@@ -96,7 +96,7 @@ concept Contiguous = std::is_array_v<C> || requires(C &c) {
 };
 
 template <class C>
-constexpr auto *data(C &c) {
+ZELM_INLINE constexpr auto *data(C &c) {
     if constexpr (std::is_array_v<C>) {
         return &c[0];
     } else {
@@ -105,7 +105,7 @@ constexpr auto *data(C &c) {
 }
 
 template <class C>
-constexpr std::size_t size(C &c) {
+ZELM_INLINE constexpr std::size_t size(C &c) {
     if constexpr (std::is_array_v<C>) {
         return std::extent_v<C>;
     } else {
@@ -136,7 +136,7 @@ consteval void refuse_temporary() {
 
 /** X is the type of one object, possibly const; `first` its address. */
 template <class X>
-constexpr auto one_object(X *first) {
+ZELM_INLINE constexpr auto one_object(X *first) {
     using O = Object<std::remove_cv_t<X>>;
     View<ConstAs<X, typename O::Element>, O::rows, O::columns, O::layout, false> view;
     view.first = reinterpret_cast<decltype(view.first)>(first);
@@ -146,7 +146,7 @@ constexpr auto one_object(X *first) {
 }
 
 template <class X>
-constexpr auto many_objects(X *first, std::size_t count, std::ptrdiff_t bytes) {
+ZELM_INLINE constexpr auto many_objects(X *first, std::size_t count, std::ptrdiff_t bytes) {
     using O = Object<std::remove_cv_t<X>>;
     static_assert(O::is_object,
                   "zelm: the members of this container are no vectors or matrices of float or double: view "
@@ -162,7 +162,7 @@ constexpr auto many_objects(X *first, std::size_t count, std::ptrdiff_t bytes) {
 
 /** Elements at a fixed distance: a vector of a length known at run time. */
 template <Layout L = Layout::standard, class T>
-constexpr auto elements_in_line(T *first, std::size_t count, std::ptrdiff_t bytes) {
+ZELM_INLINE constexpr auto elements_in_line(T *first, std::size_t count, std::ptrdiff_t bytes) {
     View<T, no_rows, dynamic, L, false> view;
     view.first = first;
     view.element = bytes;
@@ -176,7 +176,7 @@ template <class T, std::size_t N>
 inline constexpr int span_extent<std::span<T, N>> = N == std::dynamic_extent ? dynamic : static_cast<int>(N);
 
 template <class X>
-constexpr auto view_of(X &x) {
+ZELM_INLINE constexpr auto view_of(X &x) {
     using U = std::remove_cv_t<X>;
     if constexpr (is_view<U>) {
         return x;
@@ -208,11 +208,11 @@ constexpr auto view_of(X &x) {
 }
 
 template <class S, class M>
-constexpr auto &reach(S &object, M member) {
+ZELM_INLINE constexpr auto &reach(S &object, M member) {
     return object.*member;
 }
 template <class S, class M, class... More>
-constexpr auto &reach(S &object, M member, More... more) {
+ZELM_INLINE constexpr auto &reach(S &object, M member, More... more) {
     return reach(object.*member, more...);
 }
 
@@ -228,7 +228,7 @@ union Room {
 };
 
 template <class S, class... Members>
-std::ptrdiff_t offset_of(Members... members) {
+ZELM_INLINE std::ptrdiff_t offset_of(Members... members) {
     if constexpr (sizeof...(members) == 0) {
         return 0;
     } else {
@@ -263,8 +263,8 @@ struct Given {
 
 /** A view by address and strides; what isn't given is dense. */
 template <int Rows, int Columns, bool Array, class T, class... Strides>
-constexpr auto strided(T *first, std::size_t rows, std::size_t columns, std::size_t count,
-                       Strides... strides) {
+ZELM_INLINE constexpr auto strided(T *first, std::size_t rows, std::size_t columns, std::size_t count,
+                                   Strides... strides) {
     using G = Given<Strides...>;
     static_assert(is_element<std::remove_cv_t<T>>, "zelm: elements are float or double");
     static_assert(G::valid,
@@ -287,8 +287,8 @@ constexpr auto strided(T *first, std::size_t rows, std::size_t columns, std::siz
 }
 
 template <int Rows, int Columns, bool Array, class T, class... Strides>
-constexpr auto by_element(T *const *table, std::size_t rows, std::size_t columns, std::size_t count,
-                          Strides... strides) {
+ZELM_INLINE constexpr auto by_element(T *const *table, std::size_t rows, std::size_t columns,
+                                      std::size_t count, Strides... strides) {
     using G = Given<Strides...>;
     static_assert(is_element<std::remove_cv_t<T>>,
                   "zelm: a table by elements holds pointers to float or to double");
@@ -305,8 +305,8 @@ constexpr auto by_element(T *const *table, std::size_t rows, std::size_t columns
 }
 
 template <int Rows, int Columns, class T, class... Strides>
-constexpr auto by_object(T *const *table, std::size_t rows, std::size_t columns, std::size_t count,
-                         Strides... strides) {
+ZELM_INLINE constexpr auto by_object(T *const *table, std::size_t rows, std::size_t columns,
+                                     std::size_t count, Strides... strides) {
     using G = Given<Strides...>;
     static_assert(is_element<std::remove_cv_t<T>>,
                   "zelm: a table by objects holds pointers to their first elements; lists of "
@@ -330,7 +330,7 @@ constexpr auto by_object(T *const *table, std::size_t rows, std::size_t columns,
 /** One object, or the array of objects that a container holds: what operations see when they are given x
  * itself. */
 template <class X>
-constexpr auto view(X &&x) {
+ZELM_INLINE constexpr auto view(X &&x) {
     detail::refuse_temporary<X &&>();
     return detail::view_of(x);
 }
@@ -338,7 +338,7 @@ constexpr auto view(X &&x) {
 /** Each of the objects that x holds: each(float[100][3]) is 100 vectors, where float[100][3] alone is one
  * matrix. */
 template <class C>
-constexpr auto each(C &&container) {
+ZELM_INLINE constexpr auto each(C &&container) {
     detail::refuse_temporary<C &&>();
     using M = detail::Member<std::remove_reference_t<C>>;
     return detail::many_objects(detail::data(container), detail::size(container), sizeof(M));
@@ -350,7 +350,7 @@ constexpr auto each(C &&container) {
  * of such members.
  */
 template <class C, class... Members>
-auto field(C &&container, Members... members) {
+ZELM_INLINE auto field(C &&container, Members... members) {
     detail::refuse_temporary<C &&>();
     static_assert(sizeof...(members) > 0 && (std::is_member_object_pointer_v<Members> && ...),
                   "zelm: field takes pointers to members: field(container, &Struct::member)");
@@ -367,7 +367,7 @@ auto field(C &&container, Members... members) {
 
 /** The same objects used transposed. */
 template <class X>
-constexpr auto transposed(X &&x) {
+ZELM_INLINE constexpr auto transposed(X &&x) {
     detail::refuse_temporary<X &&>();
     const auto view = detail::view_of(x);
     using V = std::remove_cv_t<decltype(view)>;
@@ -379,7 +379,7 @@ constexpr auto transposed(X &&x) {
 
 /** Matrices that lie column by column: x[j][i] is the element of row i and column j. */
 template <class X>
-constexpr auto column_major(X &&x) {
+ZELM_INLINE constexpr auto column_major(X &&x) {
     detail::refuse_temporary<X &&>();
     const auto stored = detail::view_of(x);
     using V = std::remove_cv_t<decltype(stored)>;
@@ -422,7 +422,7 @@ struct Components {
 };
 
 template <int Rows, int Columns, class First, class... Views>
-constexpr auto make_components(const First &first, const Views &...views) {
+ZELM_INLINE constexpr auto make_components(const First &first, const Views &...views) {
     using T = typename First::Element;
     static_assert(
         First::is_vector && !First::is_array && (!Views::is_array && ...) && (Views::is_vector && ...) &&
@@ -450,21 +450,21 @@ constexpr auto make_components(const First &first, const Views &...views) {
 
 /** Vectors whose components have an array each: components(xs, ys, zs). Nothing is copied. */
 template <class... Arrays>
-constexpr auto components(Arrays &&...arrays) {
+ZELM_INLINE constexpr auto components(Arrays &&...arrays) {
     (detail::refuse_temporary<Arrays &&>(), ...);
     return detail::make_components<no_rows, static_cast<int>(sizeof...(arrays))>(detail::view_of(arrays)...);
 }
 
 /** Matrices whose elements have an array each, row by row. */
 template <int Rows, int Columns, class... Arrays>
-constexpr auto components(Arrays &&...arrays) {
+ZELM_INLINE constexpr auto components(Arrays &&...arrays) {
     (detail::refuse_temporary<Arrays &&>(), ...);
     return detail::make_components<Rows, Columns>(detail::view_of(arrays)...);
 }
 
 /** One vector whose elements are these numbers, wherever each lies. */
 template <class T, class... Ts>
-constexpr auto elements(T &first, Ts &...others) {
+ZELM_INLINE constexpr auto elements(T &first, Ts &...others) {
     static_assert(detail::is_element<std::remove_cv_t<T>> && (std::is_same_v<T, Ts> && ...),
                   "zelm: elements takes numbers, all float or all double, all const or none");
     return detail::Components<T, no_rows, static_cast<int>(sizeof...(others)) + 1, Layout::P, false>{
@@ -478,7 +478,7 @@ constexpr auto elements(T &first, Ts &...others) {
  * container itself: nothing is copied.
  */
 template <class C, class... Members>
-auto list(C &&pointers, Members... members) {
+ZELM_INLINE auto list(C &&pointers, Members... members) {
     detail::refuse_temporary<C &&>();
     using P = std::remove_cv_t<detail::Member<std::remove_reference_t<C>>>;
     static_assert(std::is_pointer_v<P>,
@@ -539,7 +539,7 @@ struct Indexed {
  * long as the container keeps its place: name it to use it again, `auto chosen = indexed(points, indices);`.
  */
 template <class C, class Indices, class... Members>
-auto indexed(C &&container, const Indices &indices, Members... members) {
+ZELM_INLINE auto indexed(C &&container, const Indices &indices, Members... members) {
     detail::refuse_temporary<C &&>();
     const auto all = [&] {
         if constexpr (sizeof...(members) == 0) {
@@ -568,92 +568,96 @@ auto indexed(C &&container, const Indices &indices, Members... members) {
 
 /** as_vector<3>(p), as_vector<3>(p, element_bytes(16)). */
 template <int N, class T, class... Strides>
-constexpr auto as_vector(T *first, Strides... strides) {
+ZELM_INLINE constexpr auto as_vector(T *first, Strides... strides) {
     return detail::strided<no_rows, N, false>(first, 0, N, 1, strides...);
 }
 /** as_vector(p, length(n)): a vector of n elements. */
 template <class T, class... Strides>
-constexpr auto as_vector(T *first, length n, Strides... strides) {
+ZELM_INLINE constexpr auto as_vector(T *first, length n, Strides... strides) {
     return detail::strided<no_rows, dynamic, false>(first, 0, n.value, 1, strides...);
 }
 /** as_vectors<3>(p, count), as_vectors<3>(p, count, object_bytes(32), element_bytes(8)). */
 template <int N, class T, class... Strides>
-constexpr auto as_vectors(T *first, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors(T *first, std::size_t count, Strides... strides) {
     return detail::strided<no_rows, N, true>(first, 0, N, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_vectors(T *first, length n, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors(T *first, length n, std::size_t count, Strides... strides) {
     return detail::strided<no_rows, dynamic, true>(first, 0, n.value, count, strides...);
 }
 /** as_matrix<3, 4>(p), as_matrix<3, 4>(p, row_bytes(64)). */
 template <int Rows, int Columns, class T, class... Strides>
-constexpr auto as_matrix(T *first, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrix(T *first, Strides... strides) {
     return detail::strided<Rows, Columns, false>(first, Rows, Columns, 1, strides...);
 }
 /** as_matrix(p, shape{rows, columns}). */
 template <class T, class... Strides>
-constexpr auto as_matrix(T *first, shape size, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrix(T *first, shape size, Strides... strides) {
     return detail::strided<dynamic, dynamic, false>(first, size.rows, size.columns, 1, strides...);
 }
 /** as_matrices<4, 4>(p, count), as_matrices<4, 4>(p, count, object_bytes(192), row_bytes(32)). */
 template <int Rows, int Columns, class T, class... Strides>
-constexpr auto as_matrices(T *first, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices(T *first, std::size_t count, Strides... strides) {
     return detail::strided<Rows, Columns, true>(first, Rows, Columns, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_matrices(T *first, shape size, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices(T *first, shape size, std::size_t count, Strides... strides) {
     return detail::strided<dynamic, dynamic, true>(first, size.rows, size.columns, count, strides...);
 }
 
 // ---- tables of pointers: one entry per element, row by row, or one per object
 
 template <int N, class T>
-constexpr auto as_vector_by_element(T *const *table) {
+ZELM_INLINE constexpr auto as_vector_by_element(T *const *table) {
     return detail::by_element<no_rows, N, false>(table, 0, N, 1);
 }
 template <class T>
-constexpr auto as_vector_by_element(T *const *table, length n) {
+ZELM_INLINE constexpr auto as_vector_by_element(T *const *table, length n) {
     return detail::by_element<no_rows, dynamic, false>(table, 0, n.value, 1);
 }
 /** Objects lie side by side at each position, or object_bytes apart. */
 template <int N, class T, class... Strides>
-constexpr auto as_vectors_by_element(T *const *table, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors_by_element(T *const *table, std::size_t count, Strides... strides) {
     return detail::by_element<no_rows, N, true>(table, 0, N, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_vectors_by_element(T *const *table, length n, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors_by_element(T *const *table, length n, std::size_t count,
+                                                 Strides... strides) {
     return detail::by_element<no_rows, dynamic, true>(table, 0, n.value, count, strides...);
 }
 template <int Rows, int Columns, class T>
-constexpr auto as_matrix_by_element(T *const *table) {
+ZELM_INLINE constexpr auto as_matrix_by_element(T *const *table) {
     return detail::by_element<Rows, Columns, false>(table, Rows, Columns, 1);
 }
 template <class T>
-constexpr auto as_matrix_by_element(T *const *table, shape size) {
+ZELM_INLINE constexpr auto as_matrix_by_element(T *const *table, shape size) {
     return detail::by_element<dynamic, dynamic, false>(table, size.rows, size.columns, 1);
 }
 template <int Rows, int Columns, class T, class... Strides>
-constexpr auto as_matrices_by_element(T *const *table, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices_by_element(T *const *table, std::size_t count, Strides... strides) {
     return detail::by_element<Rows, Columns, true>(table, Rows, Columns, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_matrices_by_element(T *const *table, shape size, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices_by_element(T *const *table, shape size, std::size_t count,
+                                                  Strides... strides) {
     return detail::by_element<dynamic, dynamic, true>(table, size.rows, size.columns, count, strides...);
 }
 template <int N, class T, class... Strides>
-constexpr auto as_vectors_by_object(T *const *table, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors_by_object(T *const *table, std::size_t count, Strides... strides) {
     return detail::by_object<no_rows, N>(table, 0, N, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_vectors_by_object(T *const *table, length n, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_vectors_by_object(T *const *table, length n, std::size_t count,
+                                                Strides... strides) {
     return detail::by_object<no_rows, dynamic>(table, 0, n.value, count, strides...);
 }
 template <int Rows, int Columns, class T, class... Strides>
-constexpr auto as_matrices_by_object(T *const *table, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices_by_object(T *const *table, std::size_t count, Strides... strides) {
     return detail::by_object<Rows, Columns>(table, Rows, Columns, count, strides...);
 }
 template <class T, class... Strides>
-constexpr auto as_matrices_by_object(T *const *table, shape size, std::size_t count, Strides... strides) {
+ZELM_INLINE constexpr auto as_matrices_by_object(T *const *table, shape size, std::size_t count,
+                                                 Strides... strides) {
     return detail::by_object<dynamic, dynamic>(table, size.rows, size.columns, count, strides...);
 }
 

@@ -105,10 +105,15 @@ GridHeader::Field GridHeader::valueOf(std::string_view key, std::string_view wor
     }
     const bool positive = name == "cellsize" || name == "dx" || name == "dy";
     const bool allowNan = name == "nodata_value";
-    if (!value || std::isinf(*value) || (std::isnan(*value) && !allowNan) || (positive && !(*value > 0))) {
+    // The squares of cells beyond these, and what is divided by them, would leave the range of floats.
+    constexpr double smallest = 1e-9;
+    constexpr double largest = 1e9;
+    if (!value || std::isinf(*value) || (std::isnan(*value) && !allowNan) ||
+        (positive && !(*value >= smallest && *value <= largest))) {
         throw InputError(file_, line,
-                         std::string("expected a ") + (positive ? "positive " : "") + "number behind " +
-                             name + ", found " + shown(word));
+                         std::string("expected a ") +
+                             (positive ? "positive number from 1e-9 to 1e9" : "number") + " behind " + name +
+                             ", found " + shown(word));
     }
     return {*value, line};
 }

@@ -20,9 +20,7 @@ def universal(matrices, vectors=None):
     """
 
     def decorate(function):
-        return functools.update_wrapper(
-            _core.universal(function, matrices, vectors), function
-        )
+        return functools.update_wrapper(_core.universal(function, matrices, vectors), function)
 
     return decorate
 
@@ -71,23 +69,11 @@ def through_dask(array, chunk, arrays, options):
     """The call as NumPy's protocol makes it."""
     names = set(options) - {"axes", "axis", "keepdims"}
     if names:
-        raise TypeError(
-            f"{chunk.name}() takes no {', '.join(sorted(names))} with Dask arrays"
-        )
+        raise TypeError(f"{chunk.name}() takes no {', '.join(sorted(names))} with Dask arrays")
     dtype = np.result_type(*(getattr(a, "dtype", type(a)) for a in arrays), np.float32)
     dtype = np.dtype(np.float32 if dtype == np.float32 else np.float64)
-    dtypes = (
-        (dtype, np.dtype(np.uint32))
-        if chunk.name == "lu_factor"
-        else (dtype,) * chunk.nout
-    )
-    return array.__array_ufunc__(
-        chunk,
-        "__call__",
-        *arrays,
-        output_dtypes=dtypes[0] if chunk.nout == 1 else dtypes,
-        **options,
-    )
+    dtypes = (dtype, np.dtype(np.uint32)) if chunk.name == "lu_factor" else (dtype,) * chunk.nout
+    return array.__array_ufunc__(chunk, "__call__", *arrays, output_dtypes=dtypes[0] if chunk.nout == 1 else dtypes, **options)
 
 
 def plain(name, function, arrays, out, options, signature=None):
@@ -96,9 +82,7 @@ def plain(name, function, arrays, out, options, signature=None):
         options["out"] = out
     lazy = dask_array(arrays)
     if lazy is not None:
-        return through_dask(
-            lazy, Chunk(name, signature or function.signature), arrays, options
-        )
+        return through_dask(lazy, Chunk(name, signature or function.signature), arrays, options)
     return _core.call(function, *arrays, **options)
 
 
@@ -111,9 +95,7 @@ def refusing(name, function, arrays, out, options, singular, message=SINGULAR):
     lazy = dask_array(arrays)
     if lazy is not None:
         chosen = {} if singular is None else {"singular": singular}
-        return through_dask(
-            lazy, Chunk(name, function.signature, chosen), arrays, options
-        )
+        return through_dask(lazy, Chunk(name, function.signature, chosen), arrays, options)
     try:
         result = _core.call(function, *arrays, **options)
     except ValueError:
@@ -129,9 +111,7 @@ def check_square(function, a):
     """Raises what numpy.linalg raises for a matrix that isn't square, or isn't one."""
     a = np.asanyarray(a)
     if a.ndim < 2:
-        raise LinAlgError(
-            f"{a.ndim}-dimensional array given. Array must be at least two-dimensional"
-        ) from None
+        raise LinAlgError(f"{a.ndim}-dimensional array given. Array must be at least two-dimensional") from None
     if function.signature.startswith("(n,n)") and a.shape[-1] != a.shape[-2]:
         raise LinAlgError("Last 2 dimensions of the array must be square") from None
 

@@ -114,9 +114,7 @@ def matmul(x1, x2, /, out=None, **options):
     left = "(k)" if np.ndim(x1) == 1 else "(m,k)"
     right = "(k)" if np.ndim(x2) == 1 else "(k,n)"
     core = ",".join("m" * (left == "(m,k)") + "n" * (right == "(k,n)"))
-    return plain(
-        "matmul", _core.matmul, (x1, x2), out, options, f"{left},{right}->({core})"
-    )
+    return plain("matmul", _core.matmul, (x1, x2), out, options, f"{left},{right}->({core})")
 
 
 @universal(_core.matvec)
@@ -299,9 +297,7 @@ def lu_solve(lu_and_piv, b, /, out=None, **options):
     """
     lu, piv = lu_and_piv
     if getattr(piv, "dtype", None) != np.uint32:
-        raise TypeError(
-            "lu_solve() takes the factors of zelm.lu_factor, whose piv are uint32"
-        )
+        raise TypeError("lu_solve() takes the factors of zelm.lu_factor, whose piv are uint32")
     function = _core.lu_solve_vector if is_vector(lu, b) else _core.lu_solve
     x = plain("lu_solve", function, (lu, piv, b), out, options)
     if dask_array((lu, piv, b)) is None and _core.refused():
@@ -322,9 +318,7 @@ def cholesky(a, /, out=None, *, singular="raise", **options):
 
     See also: numpy.linalg.cholesky. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing(
-        "cholesky", _core.cholesky, (a,), out, options, singular, NOT_POSITIVE
-    )
+    return refusing("cholesky", _core.cholesky, (a,), out, options, singular, NOT_POSITIVE)
 
 
 @universal(_core.cho_factor)
@@ -339,9 +333,7 @@ def cho_factor(a, /, out=None, *, singular="raise", **options):
 
     See also: scipy.linalg.cho_factor, whose factors are L itself. Library: ``zelmCholeskyDecomp_ma``.
     """
-    return refusing(
-        "cho_factor", _core.cho_factor, (a,), out, options, singular, NOT_POSITIVE
-    )
+    return refusing("cho_factor", _core.cho_factor, (a,), out, options, singular, NOT_POSITIVE)
 
 
 @universal(_core.cho_solve, _core.cho_solve_vector)
@@ -356,9 +348,7 @@ def cho_solve(c, b, /, out=None, **options):
     See also: scipy.linalg.cho_solve. Library: ``zelmCholeskyBackSubst_mava``.
     """
     if isinstance(c, tuple):
-        raise TypeError(
-            "cho_solve() takes the factor of zelm.cho_factor, which is one array"
-        )
+        raise TypeError("cho_solve() takes the factor of zelm.cho_factor, which is one array")
     function = _core.cho_solve_vector if is_vector(c, b) else _core.cho_solve
     return plain("cho_solve", function, (c, b), out, options)
 

@@ -82,9 +82,7 @@ def cho_factor(at, a, result):
 
 
 def _least_squares(a, b):
-    if not (
-        np.isfinite(a).all() and np.isfinite(b).all()
-    ):  # a ValueError of LAPACK's, from some versions of NumPy
+    if not (np.isfinite(a).all() and np.isfinite(b).all()):  # a ValueError of LAPACK's, from some versions of NumPy
         raise linalg.LinAlgError
     return linalg.lstsq(a, b, rcond=None)[0]
 
@@ -123,10 +121,7 @@ def gaxpy(at, a, x, z, result):
 
 def _dot_in_pieces(x, y, length=1 << 13):
     pieces = (slice(first, first + length) for first in range(0, len(x), length))
-    return sum(
-        float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece])))
-        for piece in pieces
-    )
+    return sum(float(np.dot(np.ascontiguousarray(x[piece]), np.ascontiguousarray(y[piece]))) for piece in pieces)
 
 
 def dot(at, x, y, result):

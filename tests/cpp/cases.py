@@ -99,8 +99,14 @@ class Operand:
         self.memory = "got" if name == "dst" else name
 
     def value(self, kind, where):
-        return {"pointer": f"c.{where}.first()", "table": f"c.{where}.table()", "shift": "0", "objStride": str(self.obj),
-                "rowStride": str(self.row), "elemStride": str(self.elem)}[kind]
+        return {
+            "pointer": f"c.{where}.first()",
+            "table": f"c.{where}.table()",
+            "shift": "0",
+            "objStride": str(self.obj),
+            "rowStride": str(self.row),
+            "elemStride": str(self.elem),
+        }[kind]
 
     def setup(self, where):
         if self.layout in ("P", "PS2"):
@@ -166,8 +172,11 @@ def call_by_views(member, operands):
     if operation == "Det":
         return f"det({view['src']}, {numbers})" if member.size else f"det_with_threshold({view['src']}, {scratch}, {numbers})"
     if operation == "Invert":
-        return f"inverse({view['src']}, {view['dst']})" if member.size else \
-            f"inverse_with_threshold({view['src']}, {scratch}, {view['dst']})"
+        return (
+            f"inverse({view['src']}, {view['dst']})"
+            if member.size
+            else f"inverse_with_threshold({view['src']}, {scratch}, {view['dst']})"
+        )
     runtime = "" if member.size else f", {scratch}"
     if operation == "LUDecomp":
         return f"lu({view['src']}, lu_factors({view['dst']}, c.got_pivots()))"
@@ -176,9 +185,11 @@ def call_by_views(member, operands):
     if operation == "QRDecomp":
         return f"qr({view['src']}, qr_factors({view['dst']}{runtime}))"
     if operation.endswith("BackSubst"):
-        factors = {"LUBackSubst": f"lu_factors({view['src1']}, c.pivots())",
-                   "CholeskyBackSubst": f"cholesky_factor({view['src1']})",
-                   "QRBackSubst": f"qr_factors({view['src1']}{runtime})"}[operation]
+        factors = {
+            "LUBackSubst": f"lu_factors({view['src1']}, c.pivots())",
+            "CholeskyBackSubst": f"cholesky_factor({view['src1']})",
+            "QRBackSubst": f"qr_factors({view['src1']}{runtime})",
+        }[operation]
         return f"solve({factors}, {view['src2']}, {view['dst']})"
     if operation in ("Transpose", "Copy"):
         return f"{operation.lower()}({view['src']}, {view['dst']})"
@@ -205,8 +216,9 @@ def case(number, member):
             lines.append(operand.setup(where))
     matrices = [o for o in operands.values() if not o.vector and o.name != "dst"]
     for o in matrices:
-        lines.append(f"c.{o.name}.dominant({o.rows}, {o.columns}, {o.row}, {o.elem}, "
-                     f"Layout::{o.layout or 'standard'}, {o.obj});")
+        lines.append(
+            f"c.{o.name}.dominant({o.rows}, {o.columns}, {o.row}, {o.elem}, " f"Layout::{o.layout or 'standard'}, {o.obj});"
+        )
     arguments = []
     for a in plan(member)[0]:
         if a.operand:
@@ -228,8 +240,10 @@ def case(number, member):
     call = f"{member.name}({', '.join(arguments)})"
     if row.operation == "LoadIdentity":  # many identities are one call each
         call = f"identities([&](std::ptrdiff_t k) {{ return {one_identity(member, arguments)}; }})"
-    return (f"void case{number}()\n{{\n    Case<{C_TYPE[member.type]}> c(\"{member.name}\", {number});\n{body}"
-            f"    c.reached({call_by_views(member, operands)});\n    c.expected({call});\n}}\n\n")
+    return (
+        f'void case{number}()\n{{\n    Case<{C_TYPE[member.type]}> c("{member.name}", {number});\n{body}'
+        f"    c.reached({call_by_views(member, operands)});\n    c.expected({call});\n}}\n\n"
+    )
 
 
 def one_identity(member, arguments):
@@ -253,13 +267,15 @@ def stubs(names):
     """Each function of the library as a note of its number and a jump to the function itself."""
     out = ["    .text\n"]
     for number, name in enumerate(names):
-        out.append(f"    .globl {name}\n    .type {name}, @function\n{name}:\n"
-                   "#ifdef __x86_64__\n"
-                   f"    movl ${number}, lastCalled(%rip)\n    jmp *functions+{8 * number}(%rip)\n"
-                   "#else\n"
-                   f"    movl ${number}, lastCalled\n    jmp *functions+{4 * number}\n"
-                   "#endif\n")
-    out.append("    .section .note.GNU-stack, \"\", @progbits\n")
+        out.append(
+            f"    .globl {name}\n    .type {name}, @function\n{name}:\n"
+            "#ifdef __x86_64__\n"
+            f"    movl ${number}, lastCalled(%rip)\n    jmp *functions+{8 * number}(%rip)\n"
+            "#else\n"
+            f"    movl ${number}, lastCalled\n    jmp *functions+{4 * number}\n"
+            "#endif\n"
+        )
+    out.append('    .section .note.GNU-stack, "", @progbits\n')
     return "".join(out)
 
 
@@ -274,18 +290,29 @@ def main(arguments):
     files = {"stubs.S": stubs(names)}
     share = -(-len(tested) // units)
     for unit in range(units):
-        part = tested[unit * share:(unit + 1) * share]
-        text = ["// Written by tests/cpp/cases.py.\n#include \"cases.h\"\n\nnamespace zelmtest {\nnamespace {\n\nusing namespace zelm;\n\n"]
+        part = tested[unit * share : (unit + 1) * share]
+        text = [
+            '// Written by tests/cpp/cases.py.\n#include "cases.h"\n\nnamespace zelmtest {\nnamespace {\n\nusing namespace zelm;\n\n'
+        ]
         text += [case(number, member) for number, member in part]
-        text.append(f"}} // namespace\n\nvoid cases{unit}()\n{{\n" + "".join(f"    case{number}();\n" for number, _ in part)
-                    + "}\n\n} // namespace zelmtest\n")
+        text.append(
+            f"}} // namespace\n\nvoid cases{unit}()\n{{\n"
+            + "".join(f"    case{number}();\n" for number, _ in part)
+            + "}\n\n} // namespace zelmtest\n"
+        )
         files[f"cases_{unit}.cpp"] = "".join(text)
     calls = "".join(f"void cases{unit}();\n" for unit in range(units))
     files["all_cases.cpp"] = (
-        "// Written by tests/cpp/cases.py.\n#include \"cases.h\"\n\nnamespace zelmtest {\n\n" + calls
-        + "\nextern const char *const names[] = {\n" + "".join(f'    "{name}",\n' for name in names) + "};\n"
+        '// Written by tests/cpp/cases.py.\n#include "cases.h"\n\nnamespace zelmtest {\n\n'
+        + calls
+        + "\nextern const char *const names[] = {\n"
+        + "".join(f'    "{name}",\n' for name in names)
+        + "};\n"
         + f"extern const std::size_t nameCount = {len(names)};\nextern const std::size_t caseCount = {len(tested)};\n"
-        + "\nvoid allCases()\n{\n" + "".join(f"    cases{unit}();\n" for unit in range(units)) + "}\n\n} // namespace zelmtest\n")
+        + "\nvoid allCases()\n{\n"
+        + "".join(f"    cases{unit}();\n" for unit in range(units))
+        + "}\n\n} // namespace zelmtest\n"
+    )
     for name, text in files.items():
         path = directory / name
         if not path.exists() or path.read_text() != text:

@@ -63,11 +63,15 @@ REFUSED = (
     ("add(components(line, line, line), list(ptrs), components(line, line, line)).or_throw();", "does not go with"),
     ("norm(vs, field(filters, &Filter::w)).or_throw();", "written side by side"),
     ("mul(A, B, transposed(A)).or_throw();", "a destination is not used transposed"),
-    ("mul(as_matrices_by_element(table, shape{2, 3}, n), as_matrices_by_element(table, shape{3, 2}, n), "
-     "as_matrices_by_element(const_cast<double *const *>(table), shape{2, 2}, n)).or_throw();",
-     "no function multiplies two arrays of this shape by components"),
-    ("transpose(as_matrix_by_element(table, shape{2, 3}), as_matrix_by_element(table, shape{3, 2})).or_throw();",
-     "no function transposes by tables"),
+    (
+        "mul(as_matrices_by_element(table, shape{2, 3}, n), as_matrices_by_element(table, shape{3, 2}, n), "
+        "as_matrices_by_element(const_cast<double *const *>(table), shape{2, 2}, n)).or_throw();",
+        "no function multiplies two arrays of this shape by components",
+    ),
+    (
+        "transpose(as_matrix_by_element(table, shape{2, 3}), as_matrix_by_element(table, shape{3, 2})).or_throw();",
+        "no function transposes by tables",
+    ),
     # Strides and sizes under their names
     ("auto view = as_vectors<3>(q, n, 12);", "each under its name"),
     ("auto view = as_vectors<3>(q, n, row_bytes(12));", "a vector has no row_bytes"),
@@ -98,8 +102,20 @@ COMPILES = "mul(A, B, B).or_throw(); add(vs, v, vs).or_throw(); lu(A, lu_factors
 
 
 def compile_program(compiler, flags, source, body):
-    command = [*shlex.split(compiler), *shlex.split(flags), "-std=c++20", "-fsyntax-only", "-Werror=unused-result", "-I",
-               f"{source}/cpp", "-I", f"{source}/include", "-x", "c++", "-"]
+    command = [
+        *shlex.split(compiler),
+        *shlex.split(flags),
+        "-std=c++20",
+        "-fsyntax-only",
+        "-Werror=unused-result",
+        "-I",
+        f"{source}/cpp",
+        "-I",
+        f"{source}/include",
+        "-x",
+        "c++",
+        "-",
+    ]
     ran = subprocess.run(command, input=NAMES + body + "\n}\n", capture_output=True, text=True)
     return ran.returncode, ran.stderr
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The recipes: each program compiles without a warning, gives NumPy's numbers, and is the one that its page shows.
 
-    recipes_test.py SOURCE_DIR GENERATED_DIR LIBRARY FOLDER COMPILER [FLAGS]
+    recipes_test.py SOURCE_DIR GENERATED_DIR LIBRARY FOLDER C_COMPILER CXX_COMPILER [FLAGS]
 """
 
 import json
@@ -14,7 +14,7 @@ import unittest
 from pathlib import Path
 
 SOURCE, GENERATED, LIBRARY, FOLDER = (Path(argument) for argument in sys.argv[1:5])
-COMPILER, FLAGS = sys.argv[5], shlex.split(" ".join(sys.argv[6:]))
+COMPILER, CXX_COMPILER, FLAGS = sys.argv[5], sys.argv[6], shlex.split(" ".join(sys.argv[7:]))
 del sys.argv[1:]
 
 RECIPES, PAGES = SOURCE / "examples" / "recipes", SOURCE / "docs" / "recipes"
@@ -37,15 +37,37 @@ class Recipes(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         FOLDER.mkdir(parents=True, exist_ok=True)
-        cls.outputs = {name: cls.run_program(name) for name in names()}
+        cls.outputs = {name: cls.run_program(name, "c", [COMPILER, "-std=c99"]) for name in names()}
+        cls.outputs_of_cpp = {
+            name: cls.run_program(name, "cpp", [CXX_COMPILER, "-std=c++20", "-I", SOURCE / "cpp"]) for name in names()
+        }
 
     @staticmethod
-    def run_program(name):
-        program = FOLDER / name
-        subprocess.run([COMPILER, *FLAGS, "-std=c99", "-O1", "-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Werror", "-I",
-                        SOURCE / "include", RECIPES / name / f"{name}.c", "-o", program, LIBRARY, "-lm"], check=True)
-        return subprocess.run([program], stdout=subprocess.PIPE, text=True, check=True,
-                              env=os.environ | {"LD_LIBRARY_PATH": str(LIBRARY.parent)}).stdout
+    def run_program(name, suffix, compiler):
+        program = FOLDER / f"{name}-{suffix}"
+        subprocess.run(
+            [
+                *compiler,
+                *FLAGS,
+                "-O1",
+                "-Wall",
+                "-Wextra",
+                "-Wpedantic",
+                "-Wconversion",
+                "-Werror",
+                "-I",
+                SOURCE / "include",
+                RECIPES / name / f"{name}.{suffix}",
+                "-o",
+                program,
+                LIBRARY,
+                "-lm",
+            ],
+            check=True,
+        )
+        return subprocess.run(
+            [program], stdout=subprocess.PIPE, text=True, check=True, env=os.environ | {"LD_LIBRARY_PATH": str(LIBRARY.parent)}
+        ).stdout
 
     def test_ten_and_more(self):
         self.assertGreaterEqual(len(names()), 10)
@@ -69,11 +91,17 @@ class Recipes(unittest.TestCase):
                     for value, true in zip(row, wanted):
                         self.assertLessEqual(abs(value - true), digits * max(abs(true), 1e-3), f"{value} and not {true}")
 
+    def test_cpp_prints_the_same_numbers(self):
+        for name, output in self.outputs.items():
+            with self.subTest(recipe=name):
+                self.assertEqual(rows(self.outputs_of_cpp[name]), rows(output))
+
     def test_pages_show_these_programs_and_what_they_print(self):
         for name, output in self.outputs.items():
             with self.subTest(recipe=name):
                 blocks = BLOCK.findall((PAGES / f"{name}.md").read_text())
                 self.assertIn(("c", (RECIPES / name / f"{name}.c").read_text()), blocks)
+                self.assertIn(("cpp", (RECIPES / name / f"{name}.cpp").read_text()), blocks)
                 self.assertIn(("text", output), blocks)
 
     def test_every_recipe_is_in_the_index(self):
