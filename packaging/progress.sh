@@ -3,7 +3,7 @@
 
 # The last "[12/345]" that the builder, or "12/345 Test", that the test runner has written to a log.
 progress_of() {
-    tail -c 4000 "$1" 2>/dev/null | grep -oE '^\[[0-9]+/[0-9]+\]|^ *[0-9]+/[0-9]+ Test' | tail -n 1 | grep -oE '[0-9]+/[0-9]+'
+    tail -c 4000 "$1" 2>/dev/null | grep -aoE '^\[[0-9]+/[0-9]+\]|^ *[0-9]+/[0-9]+ Test' | tail -n 1 | grep -aoE '[0-9]+/[0-9]+'
 }
 
 # with_progress NAME LOG COMMAND...: on a terminal one line that is overwritten, else a line each minute.
