@@ -34,7 +34,7 @@ from zelm._functions import (
     transpose,
 )
 
-__version__ = "4.1"
+__version__ = "4.2.0"
 
 __all__ = [
     "LinAlgError",
