@@ -81,13 +81,6 @@ ZELM_INLINE Result product_by_one(const A &a, const B &b, const D &d) {
     return run<R, Scalar<A>, 0>("mul", product_size(a, b, d), a, b, d);
 }
 
-/** The view itself, without the table that it may own. */
-template <class V>
-ZELM_INLINE constexpr auto &bare(const V &v) {
-    return static_cast<const View<typename V::Element, V::stored_rows, V::stored_columns, V::layout,
-                                  V::is_array, V::is_transposed> &>(v);
-}
-
 /** A product of matrices that are not known to be square and of a size that functions are named after. */
 template <class A, class B, class D>
 ZELM_INLINE Result product_of_any_shape(const A &a, const B &b, const D &d) {

@@ -10,14 +10,14 @@ for header in zelm.h $(cd "$include" && ls zelm/*.h); do
     for compiler in gcc clang; do
         command -v "$compiler" >/dev/null || continue
         for standard in c99 c11 c17; do
-            echo "#include <$header>" | $compiler $flags "${warnings[@]}" -std=$standard -I "$include" -x c -
+            printf "#include <%s>\nextern int other;\n" "$header" | $compiler $flags "${warnings[@]}" -std=$standard -I "$include" -x c -
             tried=$((tried + 1))
         done
     done
     for compiler in g++ clang++; do
         command -v "$compiler" >/dev/null || continue
         for standard in c++11 c++14 c++17 c++20; do
-            echo "#include <$header>" | $compiler $flags "${warnings[@]}" -std=$standard -I "$include" -x c++ -
+            printf "#include <%s>\nextern int other;\n" "$header" | $compiler $flags "${warnings[@]}" -std=$standard -I "$include" -x c++ -
             tried=$((tried + 1))
         done
     done
