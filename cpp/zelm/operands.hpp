@@ -21,6 +21,13 @@ inline constexpr Kind kind_of = V::is_vector       ? (V::is_array ? Kind::va : K
                                 : V::is_transposed ? (V::is_array ? Kind::maT : Kind::mT)
                                                    : (V::is_array ? Kind::ma : Kind::m);
 
+/** The view itself, without the table that it may own. */
+template <class V>
+ZELM_INLINE constexpr auto &bare(const V &v) {
+    return static_cast<const View<typename V::Element, V::stored_rows, V::stored_columns, V::layout,
+                                  V::is_array, V::is_transposed> &>(v);
+}
+
 // Rows and columns as used.
 template <class V>
 inline constexpr int rows_of = V::is_transposed ? V::stored_columns : V::stored_rows;
