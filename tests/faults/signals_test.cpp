@@ -19,6 +19,11 @@ namespace {
 
 constexpr std::uint64_t seed = 13;
 
+// Every so many functions a call is interrupted at all of its instructions, the others at so many. A signal
+// takes a 32-bit program on a 64-bit system many times as long.
+constexpr std::uint64_t wholeCalls = sizeof(void *) == 4 ? 1000 : 50;
+constexpr int signalsOfCall = sizeof(void *) == 4 ? 5 : 60;
+
 struct Range {
     std::uintptr_t begin = 0, end = 0;
 };
@@ -105,9 +110,8 @@ TEST(Signals, MayArriveAtEachInstruction) {
         const std::uint64_t cases = casesPerFunction(1);
         for (std::uint64_t n = 0; n < cases; ++n) {
             const std::uint64_t number = 4 + 10 * n; // few objects, as each signal takes some microseconds
-            // All of each call in long runs, else of each fiftieth function.
-            const bool isWhole = cases > 1 || calls % 50 == 0;
-            signalsLeft = isWhole ? std::numeric_limits<std::sig_atomic_t>::max() : 60;
+            const bool isWhole = cases > 1 || calls % wholeCalls == 0; // in long runs, all calls
+            signalsLeft = isWhole ? std::numeric_limits<std::sig_atomic_t>::max() : signalsOfCall;
             const auto mismatch =
                 runner.run(target, seed, number, [&](const Case &, const std::vector<Value> &values) {
                     setTrapFlag(true);
