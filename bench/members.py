@@ -24,23 +24,21 @@ def is_array(member):
 
 def is_measured(member):
     order = member.size[:1]
-    return order in ("", "3", "4") or order == "6" and (not member.layout
-                                                        or FAMILIES[member.row.family].subsystem == "solvers")
+    return order in ("", "3", "4") or order == "6" and (not member.layout or FAMILIES[member.row.family].subsystem == "solvers")
 
 
 def operand(member, name, kind):
     """The fields of an OperandKind."""
     if kind in ("scalar", "packed"):
         shape = "s" if kind == "scalar" else member.row.descriptor[0]
-        return f'{{"{name}", \'{shape}\', {str(member.row.is_array).lower()}, Arrangement::Adjacent, false}}'
+        return f"{{\"{name}\", '{shape}', {str(member.row.is_array).lower()}, Arrangement::Adjacent, false}}"
     layout = operand_layout(member, name)
     is_array = "a" in kind.split("+")[0]
     arrangement = ARRANGEMENT[layout]
     if arrangement == "List" and not is_array:
         arrangement = "Adjacent"
     strided = layout in ("S2", "PS2", "LS2") and member.row.family not in DENSE
-    return (f'{{"{name}", \'{kind[0]}\', {str(is_array).lower()}, Arrangement::{arrangement}, '
-            f'{str(strided).lower()}}}')
+    return f"{{\"{name}\", '{kind[0]}', {str(is_array).lower()}, Arrangement::{arrangement}, " f"{str(strided).lower()}}}"
 
 
 def argument(arg, operands, constants):
@@ -71,12 +69,19 @@ def main(path):
         entries.append(
             f'    {{"{member.name}", "{member.row.family}", "{member.row.descriptor}", '
             f'{4 if member.type == "32f" else 8}, {member.size[:1] or 0}, {str(is_array(member)).lower()}, '
-            f'{operands}, {len(words)}, {given}, {len(arguments)}, callEach<{types}>}},\n')
-    lines = ['// Written by bench/members.py from grid/catalogue.py.\n#include "call_each.h"\n#include "member.h"\n\n'
-             "namespace zelmbench {\nnamespace {\n"]
+            f"{operands}, {len(words)}, {given}, {len(arguments)}, callEach<{types}>}},\n"
+        )
+    lines = [
+        '// Written by bench/members.py from grid/catalogue.py.\n#include "call_each.h"\n#include "member.h"\n\n'
+        "namespace zelmbench {\nnamespace {\n"
+    ]
     lines += [f"const {of} {name}[] = {{{text}}};\n" for (of, text), name in tables.items()]
-    lines += ["} // namespace\n\nconst Member members[] = {\n", *entries, "};\n",
-              f"const std::size_t memberCount = {len(entries)};\n\n}} // namespace zelmbench\n"]
+    lines += [
+        "} // namespace\n\nconst Member members[] = {\n",
+        *entries,
+        "};\n",
+        f"const std::size_t memberCount = {len(entries)};\n\n}} // namespace zelmbench\n",
+    ]
     Path(path).write_text("".join(lines))
 
 

@@ -18,8 +18,16 @@ def draw(runs, path):
         members = dict(groups(run["rows"]))
         places = [-place + 0.18 - 0.36 * number for place in range(len(names))]
         ratios = [[row.ratio for row in members.get(name, ()) if row.ratio] for name in names]
-        boxes = axes.boxplot(ratios, positions=places, vert=False, widths=0.3, whis=(5, 95), showfliers=False,
-                             patch_artist=True, manage_ticks=False)
+        boxes = axes.boxplot(
+            ratios,
+            positions=places,
+            vert=False,
+            widths=0.3,
+            whis=(5, 95),
+            showfliers=False,
+            patch_artist=True,
+            manage_ticks=False,
+        )
         for box in boxes["boxes"]:
             box.set(facecolor=colour, alpha=0.7)
         axes.plot([], [], color=colour, linewidth=6, alpha=0.7, label=run["target"])

@@ -9,8 +9,13 @@ from pathlib import Path
 OWN, BESIDE = "zelm", "beside"
 SLOWER = 1.05
 NAME = re.compile(r"zelm([A-Za-z0-9]+)_([a-zA-Z]+)_(?:32f|64f)(?:_\dx\d)?(?:_(\w+))?(?:/(\d+x\d+))?/(single|\d+)$")
-SOLVERS = {"Det": "determinant", "Invert": "inverse", "LU": "LU, with solver", "Ch": "Cholesky, with solver",
-           "QR": "QR, with solver"}
+SOLVERS = {
+    "Det": "determinant",
+    "Invert": "inverse",
+    "LU": "LU, with solver",
+    "Ch": "Cholesky, with solver",
+    "QR": "QR, with solver",
+}
 
 
 class Row:
@@ -62,15 +67,18 @@ def groups(rows):
     large = [row for row in rows if row.is_large]
     rows = [row for row in rows if not row.is_large]
     arrays = [row for row in rows if not row.is_single]
-    named = [("all", rows),
-             ("arrays: P, PS2, L, LS2, S2", [row for row in arrays if row.layout != "standard"]),
-             *((f"arrays: {layout}", [row for row in arrays if row.layout == layout])
-               for layout in ("standard", "S2", "P", "PS2", "L", "LS2")),
-             ("single calls", [row for row in rows if row.is_single]),
-             ("run-time sizes", [row for row in rows if row.is_run_time]),
-             *((subject, [row for row in rows if row.subject == subject])
-               for subject in dict.fromkeys(row.subject for row in rows)),
-             ("1,000,000 objects", large)]
+    named = [
+        ("all", rows),
+        ("arrays: P, PS2, L, LS2, S2", [row for row in arrays if row.layout != "standard"]),
+        *(
+            (f"arrays: {layout}", [row for row in arrays if row.layout == layout])
+            for layout in ("standard", "S2", "P", "PS2", "L", "LS2")
+        ),
+        ("single calls", [row for row in rows if row.is_single]),
+        ("run-time sizes", [row for row in rows if row.is_run_time]),
+        *((subject, [row for row in rows if row.subject == subject]) for subject in dict.fromkeys(row.subject for row in rows)),
+        ("1,000,000 objects", large),
+    ]
     return [(name, members) for name, members in named if members]
 
 
@@ -82,10 +90,13 @@ def read(path):
 
 def write(results, path):
     """The library's time and that of its fastest peer, one line for each row of the catalogue."""
+
     def text(row):
         return json.dumps(row.name) + ": " + json.dumps({OWN: round(row.own, 3), row.peer: round(row.peer_ns, 3)})
 
-    lines = [", ".join(map(text, members)) for _, members in
-             groupby((row for row in results["rows"] if row.peer), key=lambda row: (row.operation, row.descriptor))]
+    lines = [
+        ", ".join(map(text, members))
+        for _, members in groupby((row for row in results["rows"] if row.peer), key=lambda row: (row.operation, row.descriptor))
+    ]
     kept = {key: results[key] for key in ("target", "processor", "compiler", "flags")}
     path.write_text(json.dumps(kept, indent=1)[:-2] + ',\n "rows": {\n' + ",\n".join(lines) + "\n}}\n")

@@ -62,22 +62,40 @@ def _added_and_subtracted():
     names = [f"zelm{row}_64f_6x1" for row in ("Add_vav", "Sub_vav", "Sub_vva")]
     names += [f"zelmSub_{row}_6x6" for row in ("mma_32f", "mmaT_32f", "mma_64f", "mTma_64f", "mmaT_64f", "mTmaT_64f")]
     for name in [member for name in names for member in both(name)] + ["zelmAdd_maTmT_64f_3x3"]:
-        yield name, Departure("invariantReadAnew", "reads the invariant operand anew for every object", "permits",
-                              "where dst overlaps the invariant operand")
+        yield name, Departure(
+            "invariantReadAnew",
+            "reads the invariant operand anew for every object",
+            "permits",
+            "where dst overlaps the invariant operand",
+        )
 
     for op in ("Add", "Sub"):
         for name in both(f"zelm{op}_mam_32f_3x3"):
-            yield name, Departure("pipelined", "reads object k+1 before it stores object k; a count of 0 counts as 1",
-                                  "faults", "where count is 0, or dst overlaps a later object of src1", strided(name))
+            yield name, Departure(
+                "pipelined",
+                "reads object k+1 before it stores object k; a count of 0 counts as 1",
+                "faults",
+                "where count is 0, or dst overlaps a later object of src1",
+                strided(name),
+            )
         for name in both(f"zelm{op}_mamT_32f_3x3"):
             yield name, Departure(
-                "pipelinedAtFirstRowStride", "src2RowStride is not read, rows of src2 lie at src1RowStride; reads object"
-                " k+1 before it stores object k; a count of 0 counts as 1", "values",
-                "where src2RowStride differs from src1RowStride", strided(name))
+                "pipelinedAtFirstRowStride",
+                "src2RowStride is not read, rows of src2 lie at src1RowStride; reads object"
+                " k+1 before it stores object k; a count of 0 counts as 1",
+                "values",
+                "where src2RowStride differs from src1RowStride",
+                strided(name),
+            )
         for row in ("mam", "mama"):
             for name in both(f"zelm{op}_{row}_64f_5x5"):
-                yield name, Departure("lastColumnAtSecondRowStride", "reads column 4 of src1 at src2RowStride", "values",
-                                      "where src1RowStride differs from src2RowStride", strided(name))
+                yield name, Departure(
+                    "lastColumnAtSecondRowStride",
+                    "reads column 4 of src1 at src2RowStride",
+                    "values",
+                    "where src1RowStride differs from src2RowStride",
+                    strided(name),
+                )
         for row in ("mam", "mamT"):
             yield held_by_alignment(f"zelm{op}_{row}_64f_3x3_L", "src2", "src1")
         for row in ("mmT", "mTm", "mTmT"):
@@ -85,49 +103,77 @@ def _added_and_subtracted():
                 name = f"zelm{op}_{row}_{element_type}_P"
                 array = row.replace("mT", "maT", 1) if row.startswith("mT") else row.replace("m", "ma", 1)
                 yield name, Departure(
-                    "singleTestingByRows", "tests entry i*height + j of a transposed operand and reads j*height + i",
-                    "faults", "where width is less than height: entries behind the table are tested",
-                    Instead(f"zelm{op}_{array}_{element_type}_P", {"count": "1"}))
+                    "singleTestingByRows",
+                    "tests entry i*height + j of a transposed operand and reads j*height + i",
+                    "faults",
+                    "where width is less than height: entries behind the table are tested",
+                    Instead(f"zelm{op}_{array}_{element_type}_P", {"count": "1"}),
+                )
     for row in ("mma", "mTma"):
         yield held_by_alignment(f"zelmSub_{row}_64f_3x3_L", "src1", "src2")
 
     name = "zelmSub_mTm_64f_6x6_S2"
-    yield name, Departure("secondAtFirstElemStride", "src2ElemStride is not read, elements of src2 lie at src1ElemStride",
-                          "values", "where src2ElemStride differs from src1ElemStride",
-                          Instead("zelmSub_mTm_64f_S2", {"width": "6", "height": "6"}))
+    yield name, Departure(
+        "secondAtFirstElemStride",
+        "src2ElemStride is not read, elements of src2 lie at src1ElemStride",
+        "values",
+        "where src2ElemStride differs from src1ElemStride",
+        Instead("zelmSub_mTm_64f_S2", {"width": "6", "height": "6"}),
+    )
     name = "zelmSub_mTmT_32f_6x6"
     yield name, Departure("rowTwoInRowThree", "row 3 of dst receives the values of row 2", "values", "", strided(name))
     for name in both("zelmSub_maTmaT_32f_6x6"):
-        yield name, Departure("byTableOfElements", "takes its elements from the stored places that a table names", "values",
-                              "", strided(name))
-    for row in ("Add_maTm_64f_6x6", "Add_maTmT_64f_6x6", "Add_mamT_64f_6x6", "Sub_maTmT_64f_6x6", "Sub_mamT_64f_6x6",
-                "Sub_mamT_64f_3x3", "Sub_maTma_64f_5x5_L", "Sub_mamaT_64f_4x4_L", "Sub_mama_64f_4x4_L"):
+        yield name, Departure(
+            "byTableOfElements", "takes its elements from the stored places that a table names", "values", "", strided(name)
+        )
+    for row in (
+        "Add_maTm_64f_6x6",
+        "Add_maTmT_64f_6x6",
+        "Add_mamT_64f_6x6",
+        "Sub_maTmT_64f_6x6",
+        "Sub_mamT_64f_6x6",
+        "Sub_mamT_64f_3x3",
+        "Sub_maTma_64f_5x5_L",
+        "Sub_mamaT_64f_4x4_L",
+        "Sub_mama_64f_4x4_L",
+    ):
         name = f"zelm{row}"
-        yield name, Departure("alignedStores", "an alignment fault is raised", "faults",
-                              "where object 0 of every operand is at a multiple of 16 and a later object of dst is not",
-                              strided(name))
+        yield name, Departure(
+            "alignedStores",
+            "an alignment fault is raised",
+            "faults",
+            "where object 0 of every operand is at a multiple of 16 and a later object of dst is not",
+            strided(name),
+        )
 
 
 def held_by_alignment(name, invariant, array):
     return name, Departure(
-        "heldByAlignment", "pairs the elements of the invariant with others", "values",
+        "heldByAlignment",
+        "pairs the elements of the invariant with others",
+        "values",
         f"where {invariant} and {invariant}RowStride are multiples of 16, and an object of {array} or dst or their row"
-        " strides are not, or the other way round", strided(name))
+        " strides are not, or the other way round",
+        strided(name),
+    )
 
 
 def _scaled():
     for row in ("mTc_32f_4x4", "mTc_64f_4x4", "maTc_32f_4x4", "maTc_64f_4x4", "maTc_32f_4x4_L"):
-        yield f"zelmMul_{row}", Departure("wholeMatrixFirst", "reads the whole matrix first: dst may be src", "permits",
-                                          "where dst is src")
+        yield f"zelmMul_{row}", Departure(
+            "wholeMatrixFirst", "reads the whole matrix first: dst may be src", "permits", "where dst is src"
+        )
 
 
 def _vector_algebra():
     yield "zelmDotProduct_vav_32f_4x1", Departure("dotInPairs", "sums the products in pairs", "rounds")
-    yield "zelmDotProduct_vav_32f_4x1_L", Departure("dotUntestedInPairs", "sums the products in pairs; no entry of"
-                                                    " src1Table is tested", "tests")
+    yield "zelmDotProduct_vav_32f_4x1_L", Departure(
+        "dotUntestedInPairs", "sums the products in pairs; no entry of" " src1Table is tested", "tests"
+    )
     yield "zelmDotProduct_vav_32f_3x1_L", Departure("dotUntested", "no entry of src1Table is tested", "tests")
-    yield "zelmDotProduct_vav_64f_3x1_L", Departure("dotTestingAllFirst", "tests all entries of src1Table before it"
-                                                    " writes anything", "tests")
+    yield "zelmDotProduct_vav_64f_3x1_L", Departure(
+        "dotTestingAllFirst", "tests all entries of src1Table before it" " writes anything", "tests"
+    )
     yield "zelmL2Norm_va_32f_4x1_L", Departure("l2NormUntested", "no entry of srcTable is tested", "tests")
 
 
@@ -136,52 +182,87 @@ def _moved():
         sz = ELEMENT_BYTES[element_type]
         copy = f"zelmCopy_ma_{element_type}"
         yield f"zelmCopy_va_{element_type}_PP", Departure(
-            "copyByTargetTable", "takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read",
-            "values", "", Instead(f"{copy}_PP", {"width": "len", "height": "1"}))
-        yield f"zelmExtract_m_{element_type}_P", Departure("extractUntested", "tests nothing; a dimension of zero moves"
-                                                           " nothing", "tests")
+            "copyByTargetTable",
+            "takes the pointers of both sides from dstTable; srcTable is tested and otherwise not read",
+            "values",
+            "",
+            Instead(f"{copy}_PP", {"width": "len", "height": "1"}),
+        )
+        yield f"zelmExtract_m_{element_type}_P", Departure(
+            "extractUntested", "tests nothing; a dimension of zero moves" " nothing", "tests"
+        )
         # The source as stored has `width` rows of `height` elements; a copy to a strided matrix transposes by strides.
-        transposing = {"dstObjStride": f"width * height * {sz}", "dstRowStride": sz, "dstElemStride": f"width * {sz}",
-                       "width": "height", "height": "width"}
+        transposing = {
+            "dstObjStride": f"width * height * {sz}",
+            "dstRowStride": sz,
+            "dstElemStride": f"width * {sz}",
+            "width": "height",
+            "height": "width",
+        }
         yield f"zelmExtract_mT_{element_type}_P", Departure(
-            "extractColumnsUntested", "tests nothing; srcShift is not read; takes srcTable as height rows of width entries"
-            " and packs width rows of height elements", "values", "where width differs from height, or srcShift is not 0",
-            Instead(f"{copy}_PS", transposing | {"srcObjStride": "0", "count": "1"}))
-        yield f"zelmExtract_maT_{element_type}_PS2", Departure("extractUntransposed", "does not transpose", "values", "",
-                                                               Instead(f"{copy}_PS", transposing))
+            "extractColumnsUntested",
+            "tests nothing; srcShift is not read; takes srcTable as height rows of width entries"
+            " and packs width rows of height elements",
+            "values",
+            "where width differs from height, or srcShift is not 0",
+            Instead(f"{copy}_PS", transposing | {"srcObjStride": "0", "count": "1"}),
+        )
+        yield f"zelmExtract_maT_{element_type}_PS2", Departure(
+            "extractUntransposed", "does not transpose", "values", "", Instead(f"{copy}_PS", transposing)
+        )
         for kind, layout in (("m", "P"), ("ma", "P"), ("ma", "PS2")):
             step = "0" if kind == "m" else sz if layout == "P" else "srcObjStride"
             yield f"zelmTranspose_{kind}_{element_type}_{layout}", Departure(
-                "", "the tables are numbered with the row length of the other operand: element (i, j) of src is at"
-                " srcTable[i*height + j]", "values", "where width differs from height",
-                Instead(f"{copy}_PP", {"srcObjStride": step, "dstObjStride": step.replace("src", "dst"),
-                                       "dstTable": "dstTransposed"} | ({"count": "1"} if kind == "m" else {}),
-                        "dstTransposed: a table with the entries of dstTable in the order of src's elements"))
+                "",
+                "the tables are numbered with the row length of the other operand: element (i, j) of src is at"
+                " srcTable[i*height + j]",
+                "values",
+                "where width differs from height",
+                Instead(
+                    f"{copy}_PP",
+                    {"srcObjStride": step, "dstObjStride": step.replace("src", "dst"), "dstTable": "dstTransposed"}
+                    | ({"count": "1"} if kind == "m" else {}),
+                    "dstTransposed: a table with the entries of dstTable in the order of src's elements",
+                ),
+            )
     yield "zelmExtract_v_64f_P", Departure("extractUntested", "tests nothing; a dimension of zero moves nothing", "tests")
-    for name, function in (("m_32f", "transposeSingleWhole"), ("m_64f", "transposeSingleWhole"),
-                           ("ma_32f", "transposeArrayWhole")):
-        yield f"zelmTranspose_{name}_4x4", Departure(function, "reads a whole matrix first: dst may be src", "permits",
-                                                     "where dst is src")
+    for name, function in (
+        ("m_32f", "transposeSingleWhole"),
+        ("m_64f", "transposeSingleWhole"),
+        ("ma_32f", "transposeArrayWhole"),
+    ):
+        yield f"zelmTranspose_{name}_4x4", Departure(
+            function, "reads a whole matrix first: dst may be src", "permits", "where dst is src"
+        )
 
 
 def _multiplied():
     for element_type in TYPES:
         yield f"zelmMul_mmT_{element_type}", Departure(
-            "multiplyByTranspose", "dst has src2Height columns, and the sums have src2Width terms: the true product by the"
-            " transpose of src2", "permits", "where src2 is not square")
+            "multiplyByTranspose",
+            "dst has src2Height columns, and the sums have src2Width terms: the true product by the" " transpose of src2",
+            "permits",
+            "where src2 is not square",
+        )
     for row in ("mama", "maTma", "mamaT", "maTmaT"):
         for size in MATRIX_SIZES[1:]:
             name = f"zelmMul_{row}_64f_{size}"
             yield name, Departure(
-                "advancingByAlignment", "every object is computed from object 0 of src1", "values",
-                "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16", strided(name))
+                "advancingByAlignment",
+                "every object is computed from object 0 of src1",
+                "values",
+                "where src2, src2RowStride, dst, dstObjStride and dstRowStride are multiples of 16",
+                strided(name),
+            )
     for row in ("mam", "maTm", "mamT"):
         for layout in ("P", "PS2"):
             yield f"zelmMul_{row}_32f_3x3_{layout}", Departure(
-                "multiplyUntested", "tests no table entry; src2 may be read also where count is 0", "tests")
+                "multiplyUntested", "tests no table entry; src2 may be read also where count is 0", "tests"
+            )
     for row in ("mam", "maTm", "mamT", "maTmT"):
-        yield f"zelmMul_{row}_32f_3x3_LS2", Departure("multiplyUntestedLists", "tests no entry of src1Table or dstTable",
-                                                      "tests")
+        yield f"zelmMul_{row}_32f_3x3_LS2", Departure(
+            "multiplyUntestedLists", "tests no entry of src1Table or dstTable", "tests"
+        )
 
 
 def _solved():
@@ -191,8 +272,12 @@ def _solved():
                 for size in MATRIX_SIZES:
                     name = "_".join(part for part in (f"zelmCholeskyDecomp_{kind}", element_type, size, layout) if part)
                     order = "" if size else ", where n is 3 to 6"
-                    yield name, Departure("", f"element strides are rounded down to whole elements{order}", "permits",
-                                          "where an element stride is not a multiple of the element's size")
+                    yield name, Departure(
+                        "",
+                        f"element strides are rounded down to whole elements{order}",
+                        "permits",
+                        "where an element stride is not a multiple of the element's size",
+                    )
 
 
 # ---- products of run-time size
@@ -201,20 +286,28 @@ def _solved():
 # read and write otherwise.
 BOUNDS = {}
 for _row in ("mma", "mama"):
-    BOUNDS[_row] = ("src1Width = src2Height",
-                    "src1Height = src2Width is asked for, so that only square results can be had, and each sum has"
-                    " src2Height terms, whatever src1Width is")
+    BOUNDS[_row] = (
+        "src1Width = src2Height",
+        "src1Height = src2Width is asked for, so that only square results can be had, and each sum has"
+        " src2Height terms, whatever src1Width is",
+    )
 for _row in ("mTm", "mTma", "maTm", "maTma"):
     BOUNDS[_row] = ("src1 is square", "dst has src1Height rows, and src1 is read as a square of that order")
 for _row in ("mmT", "mmaT", "mamT", "mamaT"):
-    BOUNDS[_row] = ("src2 is square", "dst has src2Width columns, each sum src2Height terms, and src2 is read as src2Width"
-                    " rows of src2Height elements")
+    BOUNDS[_row] = (
+        "src2 is square",
+        "dst has src2Width columns, each sum src2Height terms, and src2 is read as src2Width" " rows of src2Height elements",
+    )
 for _row in ("mTmT", "mTmaT", "maTmT", "maTmaT"):
-    BOUNDS[_row] = ("src1 and src2 are square", "dst is a square of order src1Height = src2Width, and each sum has"
-                    " src2Height terms")
+    BOUNDS[_row] = (
+        "src1 and src2 are square",
+        "dst is a square of order src1Height = src2Width, and each sum has" " src2Height terms",
+    )
 for _row in ("mTv", "mTva", "maTv", "maTva"):
-    BOUNDS[_row] = ("src1 is square", "dst has src1Height elements, and each sum src1Width terms, so that as many elements"
-                    " of src2 are read")
+    BOUNDS[_row] = (
+        "src1 is square",
+        "dst has src1Height elements, and each sum src1Width terms, so that as many elements" " of src2 are read",
+    )
 
 
 def _strides(operand, layout, sz, transposed):
@@ -260,7 +353,7 @@ def _invariant_second(kinds, element_type, layout, first="src1", second="src2", 
         else:
             given |= _strides(operand, layout, sz, transposed)
             given |= {f"{operand}{word}": f"{operand}{word}" for word in ("", "ObjStride", "Table", "Shift")}
-        arguments |= {name + key[len(operand):]: value for key, value in given.items()}
+        arguments |= {name + key[len(operand) :]: value for key, value in given.items()}
     if layout.startswith("P"):
         arguments |= _table("dst", exchanged)
     else:
@@ -275,8 +368,12 @@ def _arrays(kinds, element_type, layout):
     t1, t2 = (kinds[operand].endswith("T") for operand in ("src1", "src2"))
     columns = "src2Height" if t2 else "src2Width"
     terms = "src2Width" if t2 else "src2Height"
-    arguments = {"src1Width": columns, "src1Height": "src1Width" if t1 else "src1Height", "src2Width": columns,
-                 "src2Height": terms}
+    arguments = {
+        "src1Width": columns,
+        "src1Height": "src1Width" if t1 else "src1Height",
+        "src2Width": columns,
+        "src2Height": terms,
+    }
     arguments |= _strides("src1", layout, sz, t1) | _strides("src2", layout, sz, not t2) | _strides("dst", layout, sz, False)
     return "mamaT", "LS2" if layout.startswith("L") else "S2", arguments
 
@@ -295,13 +392,19 @@ def _product_instead(descriptor, element_type, layout):
         form = _arrays(kinds, element_type, layout)
     else:
         copies = f"zelmCopy_ma_{element_type}_PS"
-        return Instead(f"zelmMul_mamaT_{element_type}_S2", None,
-                       f"no form in tables gives the product of two arrays of any shape: copy both by {copies}")
+        return Instead(
+            f"zelmMul_mamaT_{element_type}_S2",
+            None,
+            f"no form in tables gives the product of two arrays of any shape: copy both by {copies}",
+        )
     target, to, arguments = form
-    made = sorted({value[:-len("Transposed")] for value in arguments.values() if value.endswith("Transposed")},
-                  key=("src1", "src2", "dst").index)
-    return Instead("_".join(("zelmMul", target, element_type, to)), arguments,
-                   "; ".join(note.format(operand) for operand in made))
+    made = sorted(
+        {value[: -len("Transposed")] for value in arguments.values() if value.endswith("Transposed")},
+        key=("src1", "src2", "dst").index,
+    )
+    return Instead(
+        "_".join(("zelmMul", target, element_type, to)), arguments, "; ".join(note.format(operand) for operand in made)
+    )
 
 
 def _products_of_any_shape():
@@ -315,34 +418,42 @@ def _products_of_any_shape():
                 if row.descriptor == "mmT" and not layout:
                     continue
                 name = "_".join(part for part in ("zelmMul", row.descriptor, element_type, layout) if part)
-                yield name, Departure("", f"the product only where {true_where}; otherwise {otherwise}", "values",
-                                      f"unless {true_where}",
-                                      _product_instead(row.descriptor, element_type, layout))
+                yield name, Departure(
+                    "",
+                    f"the product only where {true_where}; otherwise {otherwise}",
+                    "values",
+                    f"unless {true_where}",
+                    _product_instead(row.descriptor, element_type, layout),
+                )
 
 
 # ---- forms that follow their row, of which a caller must know one thing more than the formula
+
 
 def _cautions():
     for operation, kinds, sizes in (("L2Norm", ("v", "va"), VECTOR_SIZES), ("FrobNorm", ("m", "ma"), MATRIX_SIZES)):
         thing = "vector" if operation == "L2Norm" else "matrix"
         for kind in kinds:
             for size in sizes[1:]:
-                for name in both(f"zelm{operation}_{kind}_32f_{size}")[:len(kind)]:
-                    yield name, f"the length of a zero {thing} is NaN, not 0, and that of an infinite one too", \
-                        "where src is zero or the sum of its squares is infinite", \
-                        Instead(strided(name).name, {"srcElemStride": "4"})
+                for name in both(f"zelm{operation}_{kind}_32f_{size}")[: len(kind)]:
+                    yield name, f"the length of a zero {thing} is NaN, not 0, and that of an infinite one too", "where src is zero or the sum of its squares is infinite", Instead(
+                        strided(name).name, {"srcElemStride": "4"}
+                    )
     for kind in ("m", "ma"):
-        for name in both(f"zelmInvert_{kind}_64f_3x3")[:len(kind)]:
-            yield name, "a singular matrix gives infinities and NaN with ZELM_OK", "where the determinant is 0", \
-                Instead(strided(name).name, {"srcElemStride": "8", "dstElemStride": "8"})
+        for name in both(f"zelmInvert_{kind}_64f_3x3")[: len(kind)]:
+            yield name, "a singular matrix gives infinities and NaN with ZELM_OK", "where the determinant is 0", Instead(
+                strided(name).name, {"srcElemStride": "8", "dstElemStride": "8"}
+            )
     for element_type in TYPES:
         for layout in ("S", "P", "L"):
-            yield f"zelmLoadIdentity_ma_{element_type}_{layout}", "only object 0 is an identity: the column of the one" \
-                " runs on from object to object, behind the rows of the later ones", "where count is above 1", None
+            yield f"zelmLoadIdentity_ma_{element_type}_{layout}", "only object 0 is an identity: the column of the one" " runs on from object to object, behind the rows of the later ones", "where count is above 1", None
 
 
-DEPARTURES = {name: departure for group in (_added_and_subtracted, _scaled, _vector_algebra, _moved, _multiplied, _solved)
-              for name, departure in group()}
+DEPARTURES = {
+    name: departure
+    for group in (_added_and_subtracted, _scaled, _vector_algebra, _moved, _multiplied, _solved)
+    for name, departure in group()
+}
 
 # Kept apart from the departures of single members: what holds for the run-time forms of whole rows.
 PRODUCT_BOUNDS = dict(_products_of_any_shape())

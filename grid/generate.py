@@ -18,8 +18,19 @@ from itertools import groupby
 from pathlib import Path
 
 import page
-from catalogue import (CLASSES, CONSTANTS, DIMENSIONS, FAMILIES, KERNEL_LAYOUTS, KERNEL_NOTES, KERNEL_ROWS,
-                       LETTER_LAYOUT, ROWS, TYPES, operand_kinds)
+from catalogue import (
+    CLASSES,
+    CONSTANTS,
+    DIMENSIONS,
+    FAMILIES,
+    KERNEL_LAYOUTS,
+    KERNEL_NOTES,
+    KERNEL_ROWS,
+    LETTER_LAYOUT,
+    ROWS,
+    TYPES,
+    operand_kinds,
+)
 from departures import BOUNDS, CAUTIONS, DEPARTURES, PRODUCT_BOUNDS, RANKS, TESTS_NOTHING
 
 C_TYPE = {"32f": "float", "64f": "double"}
@@ -103,8 +114,7 @@ def operand_layout(member, name):
     letters = member.layout
     if member.row.operation == "Copy":
         letters = letters[1] if name == "dst" else letters[0]
-    return LETTER_LAYOUT.get(letters, member.layout) if member.row.operation in ("Copy", "LoadIdentity") \
-        else member.layout
+    return LETTER_LAYOUT.get(letters, member.layout) if member.row.operation in ("Copy", "LoadIdentity") else member.layout
 
 
 def make_operand(member, name, kind):
@@ -115,11 +125,12 @@ def make_operand(member, name, kind):
         return Operand(name, (pointer,), name)
 
     layout = operand_layout(member, name)
-    table = Argument(f"{name}Table", "table", f"{element} *const *" if name == "dst" else
-                     f"const {element} *const *", name)
+    table = Argument(f"{name}Table", "table", f"{element} *const *" if name == "dst" else f"const {element} *const *", name)
     shift = Argument(f"{name}Shift", "shift", "int32_t ", name)
-    obj, row, elem = (Argument(f"{name}{suffix}Stride", f"{suffix[0].lower()}{suffix[1:]}Stride", "int32_t ", name)
-                      for suffix in ("Obj", "Row", "Elem"))
+    obj, row, elem = (
+        Argument(f"{name}{suffix}Stride", f"{suffix[0].lower()}{suffix[1:]}Stride", "int32_t ", name)
+        for suffix in ("Obj", "Row", "Elem")
+    )
     rows = (row,) if kind[0] == "m" else ()
     row_value = row.name if rows else "0"
     unread = (Argument(obj.name, obj.kind, obj.ctype, name, unread=True),) if kind.endswith("+obj") else ()
@@ -131,20 +142,17 @@ def make_operand(member, name, kind):
     if "a" in kind.split("+")[0]:
         arguments, expression = {
             "": ((pointer, obj, *rows), f"DenseArray<{T}>{{{name}, {obj.name}, {row_value}}}"),
-            "S2": ((pointer, obj, *rows, elem),
-                   f"StridedArray<{T}>{{{name}, {obj.name}, {row_value}, {elem.name}}}"),
+            "S2": ((pointer, obj, *rows, elem), f"StridedArray<{T}>{{{name}, {obj.name}, {row_value}, {elem.name}}}"),
             "P": ((table, shift), f"PackedTableArray<{T}>{{{table.name}, {shift.name}}}"),
             "PS2": ((table, shift, obj), f"TableArray<{T}>{{{table.name}, {shift.name}, {obj.name}}}"),
             "L": ((table, shift, *rows), f"DenseList<{T}>{{{table.name}, {shift.name}, {row_value}}}"),
-            "LS2": ((table, shift, *rows, elem),
-                    f"StridedList<{T}>{{{table.name}, {shift.name}, {row_value}, {elem.name}}}"),
+            "LS2": ((table, shift, *rows, elem), f"StridedList<{T}>{{{table.name}, {shift.name}, {row_value}, {elem.name}}}"),
         }[layout]
     else:
         dense = ((pointer, *unread, *rows), f"Dense<{T}>{{{name}, {row_value}}}")
         strided = ((pointer, *unread, *rows, elem), f"Strided<{T}>{{{name}, {row_value}, {elem.name}}}")
         scattered = ((table, shift), f"Table<{T}>{{{table.name}, {shift.name}}}")
-        arguments, expression = {"": dense, "L": dense, "S2": strided, "LS2": strided, "P": scattered,
-                                 "PS2": scattered}[layout]
+        arguments, expression = {"": dense, "L": dense, "S2": strided, "LS2": strided, "P": scattered, "PS2": scattered}[layout]
     return Operand(name, arguments, used(expression))
 
 
@@ -171,8 +179,11 @@ def size_expression(member):
 def plan(member):
     """The member's arguments in order, and what its wrapper passes on, each under the word of the row's list."""
     kernel = KERNELS.get((member.row.operation, member.row.descriptor, member.type, member.size, member.layout))
-    arguments, passed = [], {"size": size_expression(member), "kernel": kernel.name if kernel else "nullptr",
-                             "scratch": "nullptr"}
+    arguments, passed = [], {
+        "size": size_expression(member),
+        "kernel": kernel.name if kernel else "nullptr",
+        "scratch": "nullptr",
+    }
     element = C_TYPE[member.type]
     for word in member.row.arguments.split():
         base, _, runtime = word.partition("@")
@@ -224,15 +235,19 @@ def instead_arguments(member, instead):
 def call_text(head, texts, indent=""):
     """`head(text, text, ...)`, broken between the texts where a line would be too long."""
     unbroken = ", ".join(text.replace(" ", "\0") for text in texts)
-    lines = textwrap.wrap(f"{indent}{head}(".replace(" ", "\0") + unbroken + ")", WIDTH,
-                          subsequent_indent=indent + "        ", break_long_words=False, break_on_hyphens=False)
+    lines = textwrap.wrap(
+        f"{indent}{head}(".replace(" ", "\0") + unbroken + ")",
+        WIDTH,
+        subsequent_indent=indent + "        ",
+        break_long_words=False,
+        break_on_hyphens=False,
+    )
     return "\n".join(lines).replace("\0", " ")
 
 
 def declaration(member, definition=False):
     arguments, _ = plan(member)
-    texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}"
-             for a in arguments]
+    texts = [f"{a.ctype}/* {a.name}, never read */" if definition and a.unread else f"{a.ctype}{a.name}" for a in arguments]
     result = getattr(member, "result", "ZelmStatus")
     if definition:
         return call_text(f"{result} {member.name}", texts)
@@ -241,8 +256,11 @@ def declaration(member, definition=False):
 
 def warning(member):
     """What the compiler says of a call of a member whose values are not those of its formula."""
-    macro, departure = ("ZELM_DEPARTS", DEPARTURES[member.name]) if member.name in DEPARTURES \
+    macro, departure = (
+        ("ZELM_DEPARTS", DEPARTURES[member.name])
+        if member.name in DEPARTURES
         else ("ZELM_DEPARTS_UNLESS_SQUARE", PRODUCT_BOUNDS.get(member.name))
+    )
     if not departure or departure.rank != "values":
         return ""
     note = departure.note.partition(";")[0]
@@ -250,8 +268,12 @@ def warning(member):
     form = f"use {departure.instead.name}" if departure.instead.name != member.name else "name other dimensions"
     sentence = f"{when}{note}: {form}, see docs/before-you-choose.md"
     lines = textwrap.wrap(sentence, WIDTH - 10, break_long_words=False, break_on_hyphens=False)
-    return f"{macro}(" + "\n        ".join(f'"{line} "' for line in lines[:-1]) + "\n        " * (len(lines) > 1) \
+    return (
+        f"{macro}("
+        + "\n        ".join(f'"{line} "' for line in lines[:-1])
+        + "\n        " * (len(lines) > 1)
         + f'"{lines[-1]}")\n'
+    )
 
 
 def definition(member):
@@ -297,8 +319,7 @@ def row_paragraphs(row):
         if ":" in word:
             name, kind = word.split(":")
             base = kind.split("+")[0].rstrip("T")
-            text = {"scalar": "one number per object, packed", "packed": "a packed buffer"}.get(base) \
-                or KIND_TEXT[base]
+            text = {"scalar": "one number per object, packed", "packed": "a packed buffer"}.get(base) or KIND_TEXT[base]
             if row.is_array and base in ("v", "m"):
                 text += ", the same for every object"
             shapes.append(f"{name}: {text}{' used transposed' if kind.endswith('T') else ''}")
@@ -310,23 +331,30 @@ def row_paragraphs(row):
     dimensions = [w for w in words if w in DIMENSIONS]
     units = []
     if dimensions:
-        units.append(", ".join(dimensions) + " in elements (a size in the name stands for "
-                     + ("it" if len(dimensions) == 1 else "them") + ")")
+        units.append(
+            ", ".join(dimensions)
+            + " in elements (a size in the name stands for "
+            + ("it" if len(dimensions) == 1 else "them")
+            + ")"
+        )
     if row.is_array:
         units.append("count in objects")
     units.append("strides and shifts in bytes")
     return [
         row_formula(row) + ".",
         "Shapes: " + "; ".join(shapes) + ". Units: " + "; ".join(units) + ".",
-        "Status: " + "; ".join(f"{s}: {(STATUS_TEXT | family.meanings)[s]}" for s in family.statuses
-                               if s not in row.never) + ".",
+        "Status: "
+        + "; ".join(f"{s}: {(STATUS_TEXT | family.meanings)[s]}" for s in family.statuses if s not in row.never)
+        + ".",
         "Overlap: " + family.overlap,
     ]
 
 
 def block_comment(paragraphs):
-    texts = ["\n".join(textwrap.wrap(paragraph, WIDTH - 3, break_long_words=False, break_on_hyphens=False))
-             for paragraph in paragraphs]
+    texts = [
+        "\n".join(textwrap.wrap(paragraph, WIDTH - 3, break_long_words=False, break_on_hyphens=False))
+        for paragraph in paragraphs
+    ]
     lines = "\n\n".join(texts).split("\n")
     return "/**\n" + "\n".join(f" * {line}" for line in lines) + "\n */\n"
 
@@ -341,8 +369,9 @@ def kernel_declarations(family):
     if not declared:
         return []
     operation = declared[0].row.operation
-    return member_group(f"a6_{operation}", [block_comment([KERNEL_NOTES]),
-                                            *(declaration(kernel) + ";\n" for kernel in declared)])
+    return member_group(
+        f"a6_{operation}", [block_comment([KERNEL_NOTES]), *(declaration(kernel) + ";\n" for kernel in declared)]
+    )
 
 
 def departure_text(member):
@@ -351,8 +380,9 @@ def departure_text(member):
     text = f"Departs from its row ({RANKS[departure.rank]}){when}: {departure.note}."
     if departure.instead:
         given = instead_arguments(member, departure.instead)
-        text += f" Instead: {departure.instead.name}({', '.join(given)})" \
-            + (f", {departure.instead.note}." if departure.instead.note else ".")
+        text += f" Instead: {departure.instead.name}({', '.join(given)})" + (
+            f", {departure.instead.note}." if departure.instead.note else "."
+        )
     return text
 
 
@@ -369,9 +399,11 @@ def row_declarations(row, row_members):
 
 def header(subsystem, all_members):
     guard = f"ZELM_{subsystem.upper()}_H"
-    out = [f"/** @file\n * Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py.\n */\n",
-           f"#ifndef {guard}\n#define {guard}\n\n#include \"types.h\"\n\n",
-           "/* clang-format off */\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n"]
+    out = [
+        f"/** @file\n * Subsystem {subsystem} of zelm. Written by grid/generate.py from grid/catalogue.py.\n */\n",
+        f'#ifndef {guard}\n#define {guard}\n\n#include "types.h"\n\n',
+        '/* clang-format off */\n#ifdef __cplusplus\nextern "C" {\n#endif\n',
+    ]
     for family, family_members in groupby(all_members, key=lambda m: m.row.family):
         about = FAMILIES[family]
         title = f"@defgroup {family.replace('-', '_')} {about.title}"
@@ -388,25 +420,39 @@ def write_headers(directory):
     order = list(FAMILIES)
     everything = sorted(members(), key=lambda m: order.index(m.row.family))
     subsystems = sorted({FAMILIES[m.row.family].subsystem for m in everything})
-    return {directory / "zelm" / f"{subsystem}.h":
-            header(subsystem, [m for m in everything if FAMILIES[m.row.family].subsystem == subsystem])
-            for subsystem in subsystems}
+    return {
+        directory
+        / "zelm"
+        / f"{subsystem}.h": header(subsystem, [m for m in everything if FAMILIES[m.row.family].subsystem == subsystem])
+        for subsystem in subsystems
+    }
 
 
 # ---- the build tree
 
+
 def unit(family, unit_members):
     subsystem = FAMILIES[family].subsystem
-    out = ["// Written by grid/generate.py from grid/catalogue.py.\n"
-           f"#include \"zelm/{subsystem}.h\"\n#include \"{FAMILIES[family].kernels}\"\n\n"
-           f"using namespace zelm::frame;\nusing namespace zelm::{subsystem};\n"]
+    out = [
+        "// Written by grid/generate.py from grid/catalogue.py.\n"
+        f'#include "zelm/{subsystem}.h"\n#include "{FAMILIES[family].kernels}"\n\n'
+        f"using namespace zelm::frame;\nusing namespace zelm::{subsystem};\n"
+    ]
     out += ["\n" + definition(m) for m in unit_members]
     return "".join(out)
 
 
 def argument_list(member):
-    return [{"name": a.name, "operand": a.operand, "kind": a.kind, "type": a.ctype.strip(),
-             **({"unread": True} if a.unread else {})} for a in plan(member)[0]]
+    return [
+        {
+            "name": a.name,
+            "operand": a.operand,
+            "kind": a.kind,
+            "type": a.ctype.strip(),
+            **({"unread": True} if a.unread else {}),
+        }
+        for a in plan(member)[0]
+    ]
 
 
 def statuses(member):
@@ -440,8 +486,14 @@ def grid_json(all_members):
     for m in all_members:
         family = FAMILIES[m.row.family]
         entry = {
-            "name": m.name, "operation": m.row.operation, "family": m.row.family, "subsystem": family.subsystem,
-            "descriptor": m.row.descriptor, "type": m.type, "size": m.size, "layout": m.layout,
+            "name": m.name,
+            "operation": m.row.operation,
+            "family": m.row.family,
+            "subsystem": family.subsystem,
+            "descriptor": m.row.descriptor,
+            "type": m.type,
+            "size": m.size,
+            "layout": m.layout,
             "formula": m.row.formula,
             "arguments": argument_list(m),
             "statuses": statuses(m),
@@ -452,10 +504,27 @@ def grid_json(all_members):
         if m.name in CAUTIONS:
             entry["caution"] = departure_entry(m, "note", CAUTIONS[m.name])
         lines.append(json.dumps(entry))
-    beside = [json.dumps({"name": k.name, "family": k.row.family, "type": k.type, "size": k.size, "layout": k.layout,
-                          "result": k.result, "arguments": argument_list(k)}) for k in kernels()]
-    return f'{{"version": "{version()}", "functions": [\n' + ",\n".join(lines) + '\n],\n"kernels": [\n' \
-        + ",\n".join(beside) + "\n]}\n"
+    beside = [
+        json.dumps(
+            {
+                "name": k.name,
+                "family": k.row.family,
+                "type": k.type,
+                "size": k.size,
+                "layout": k.layout,
+                "result": k.result,
+                "arguments": argument_list(k),
+            }
+        )
+        for k in kernels()
+    ]
+    return (
+        f'{{"version": "{version()}", "functions": [\n'
+        + ",\n".join(lines)
+        + '\n],\n"kernels": [\n'
+        + ",\n".join(beside)
+        + "\n]}\n"
+    )
 
 
 TABLE_HEADER = """\
@@ -536,24 +605,36 @@ def grid_table(functions):
         signature = result, ", ".join(a.ctype.strip() for a in arguments)
         values = ", ".join(value_expression(a, i) for i, a in enumerate(arguments))
         caller = callers.setdefault(signature, (f"call{len(callers)}", values))[0]
-        kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}'
-                          for a in arguments)
+        kinds = ", ".join(f'{{"{a.name}", "{a.operand}", ArgumentKind::{a.kind[0].upper()}{a.kind[1:]}}}' for a in arguments)
         array = lists.setdefault(kinds, f"arguments{len(lists)}")
         void = ", true" if result == "void" else ""
         operation = m.name.removeprefix("zelm").partition(f"_{m.row.descriptor}_")[0]
-        entries.append(f'    {{"{m.name}", "{operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
-                       f'"{m.layout}", {array}, {len(arguments)}, {caller}{void}}},\n')
+        entries.append(
+            f'    {{"{m.name}", "{operation}", "{m.row.descriptor}", "{m.type}", "{m.size}", '
+            f'"{m.layout}", {array}, {len(arguments)}, {caller}{void}}},\n'
+        )
         checks.append(f"static_assert(std::is_same_v<decltype({m.name}), {result}({signature[1]})>);\n")
-    out = ["// Written by grid/generate.py from grid/catalogue.py.\n#include \"grid_table.h\"\n\n"
-           "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"]
+    out = [
+        '// Written by grid/generate.py from grid/catalogue.py.\n#include "grid_table.h"\n\n'
+        "#include <type_traits>\n\nnamespace zelmtest {\nnamespace {\n\n"
+    ]
     out += [f"const Argument {array}[] = {{{kinds}}};\n" for kinds, array in lists.items()]
-    out += [f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n    "
-            + ("" if result == "void" else "return ")
-            + f"reinterpret_cast<{result} (*)({types})>(f)({values});\n"
-            + ("    return 0;\n" if result == "void" else "") + "}\n"
-            for (result, types), (caller, values) in callers.items()]
-    out += ["\n} // namespace\n\n", *checks, "\nconst Function functions[] = {\n", *entries, "};\n",
-            f"const std::size_t functionCount = {len(entries)};\n\n}} // namespace zelmtest\n"]
+    out += [
+        f"ZelmStatus {caller}(void (*f)(), const Value *v)\n{{\n    "
+        + ("" if result == "void" else "return ")
+        + f"reinterpret_cast<{result} (*)({types})>(f)({values});\n"
+        + ("    return 0;\n" if result == "void" else "")
+        + "}\n"
+        for (result, types), (caller, values) in callers.items()
+    ]
+    out += [
+        "\n} // namespace\n\n",
+        *checks,
+        "\nconst Function functions[] = {\n",
+        *entries,
+        "};\n",
+        f"const std::size_t functionCount = {len(entries)};\n\n}} // namespace zelmtest\n",
+    ]
     return "".join(out)
 
 
@@ -565,8 +646,10 @@ def write_build(directory):
         units.setdefault((m.row.family, m.layout or "standard"), []).append(m)
     for (family, layout), unit_members in units.items():
         files[directory / f"{family.replace('-', '_')}_{layout}.cpp"] = unit(family, unit_members)
-    listed = "\n".join([f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files)]
-                       + [f"    {unit}" for unit in sorted({kernel.unit for kernel in kernels()})])
+    listed = "\n".join(
+        [f"    ${{CMAKE_CURRENT_LIST_DIR}}/{path.name}" for path in sorted(files)]
+        + [f"    {unit}" for unit in sorted({kernel.unit for kernel in kernels()})]
+    )
     files[directory / "sources.cmake"] = f"set(ZELM_GENERATED_SOURCES\n{listed})\n"
     exports = sorted([m.name for m in everything + list(kernels())] + ["zelmGetLibVersion"])
     files[directory / "exports.txt"] = "\n".join(exports) + "\n"

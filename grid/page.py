@@ -58,8 +58,9 @@ def call(name, arguments):
 def wrapped(line):
     """A line of C, broken behind a comma where it is too long."""
     kept = re.sub(r"(?<![,;]) ", "\0", line)
-    return "\n".join(textwrap.wrap(kept, WIDTH, subsequent_indent="    ", break_long_words=False,
-                                   break_on_hyphens=False)).replace("\0", " ")
+    return "\n".join(
+        textwrap.wrap(kept, WIDTH, subsequent_indent="    ", break_long_words=False, break_on_hyphens=False)
+    ).replace("\0", " ")
 
 
 def sentence(departure):
@@ -86,11 +87,15 @@ def example(context, name, declarations, given, got, formula, value, true_value)
     own, instead = context.arguments(name), context.departure(name).instead
     first = {key: text.format(d="d") for key, text in given.items()}
     second = {key: text.format(d="e") for key, text in given.items()}
-    expressions = [re.sub(r"[a-zA-Z]\w*", lambda word: second[word.group()], expression)
-                   for expression in context.instead_arguments(name)]
-    lines = [*declarations, call(name, [first[a] for a in own]) + ";", call(instead.name, expressions) + ";",
-             f'printf("%g where the formula gives %g; instead: %g\\n", {got.format(d="d")}, {formula}, '
-             f'{got.format(d="e")});']
+    expressions = [
+        re.sub(r"[a-zA-Z]\w*", lambda word: second[word.group()], expression) for expression in context.instead_arguments(name)
+    ]
+    lines = [
+        *declarations,
+        call(name, [first[a] for a in own]) + ";",
+        call(instead.name, expressions) + ";",
+        f'printf("%g where the formula gives %g; instead: %g\\n", {got.format(d="d")}, {formula}, ' f'{got.format(d="e")});',
+    ]
     code = "\n".join(wrapped(line) for line in lines)
     return f"```c\n{code}\n```\n\n```text\n{value} where the formula gives {true_value}; instead: {true_value}\n```\n"
 
@@ -109,20 +114,34 @@ def lists(type_):
 
 
 def numbered(letter, rows, columns, value="10 * r + c", cast=""):
-    return (f"for (int r = 0; r < {rows}; ++r) for (int c = 0; c < {columns}; ++c)"
-            f" {letter}[r][c] = {f'({cast})({value})' if cast else value};")
+    return (
+        f"for (int r = 0; r < {rows}; ++r) for (int c = 0; c < {columns}; ++c)"
+        f" {letter}[r][c] = {f'({cast})({value})' if cast else value};"
+    )
 
 
 def advancing(context, name):
     n = int(name.split("_")[3][0])
     m = n + n % 2
     shape = f"[2][{n}][{m}]"
-    arrays = {f"{operand}{suffix}": text.format(letter) for operand, letter in (("src1", "a"), ("src2", "b"), ("dst", "{d}"))
-              for suffix, text in (("", "{}[0][0]"), ("ObjStride", "sizeof {}[0]"), ("RowStride", "sizeof {}[0][0]"))}
-    return example(context, name,
-                   [f"__attribute__((aligned(16))) double a{shape} = {{{{{{0}}}}}}, b{shape} = {{{{{{0}}}}}}, d{shape}, e{shape};",
-                    f"for (int i = 0; i < {n}; ++i) a[0][i][i] = 1, a[1][i][i] = 2, b[0][i][i] = b[1][i][i] = 3;"],
-                   arrays | {"count": "2"}, "{d}[1][0][0]", "a[1][0][0] * b[1][0][0]", "3", "6")
+    arrays = {
+        f"{operand}{suffix}": text.format(letter)
+        for operand, letter in (("src1", "a"), ("src2", "b"), ("dst", "{d}"))
+        for suffix, text in (("", "{}[0][0]"), ("ObjStride", "sizeof {}[0]"), ("RowStride", "sizeof {}[0][0]"))
+    }
+    return example(
+        context,
+        name,
+        [
+            f"__attribute__((aligned(16))) double a{shape} = {{{{{{0}}}}}}, b{shape} = {{{{{{0}}}}}}, d{shape}, e{shape};",
+            f"for (int i = 0; i < {n}; ++i) a[0][i][i] = 1, a[1][i][i] = 2, b[0][i][i] = b[1][i][i] = 3;",
+        ],
+        arrays | {"count": "2"},
+        "{d}[1][0][0]",
+        "a[1][0][0] * b[1][0][0]",
+        "3",
+        "6",
+    )
 
 
 def signed(name, value):
@@ -136,10 +155,20 @@ def sign(name):
 def at_first_row_stride(context, name):
     is_list = name.endswith("_L")
     given = listed("a", "src1") | listed("{d}", "dst") if is_list else dense("a", "src1") | dense("{d}", "dst")
-    return example(context, name, ["float a[3][4] = {{0}}, b[4][3], d[3][3], e[3][3];", numbered("b", 4, 3, cast="float"),
-                                   *([lists("float")] if is_list else [])],
-                   given | {"src2": "b[0]", "src2RowStride": "sizeof b[0]", "count": "1"}, "{d}[0][1]",
-                   f"a[0][1] {sign(name)} b[1][0]", signed(name, 11), signed(name, 10))
+    return example(
+        context,
+        name,
+        [
+            "float a[3][4] = {{0}}, b[4][3], d[3][3], e[3][3];",
+            numbered("b", 4, 3, cast="float"),
+            *([lists("float")] if is_list else []),
+        ],
+        given | {"src2": "b[0]", "src2RowStride": "sizeof b[0]", "count": "1"},
+        "{d}[0][1]",
+        f"a[0][1] {sign(name)} b[1][0]",
+        signed(name, 11),
+        signed(name, 10),
+    )
 
 
 def last_column(context, name):
@@ -147,9 +176,16 @@ def last_column(context, name):
     given = listed("a", "src1") | listed("{d}", "dst") if is_list else dense("a", "src1") | dense("{d}", "dst")
     given |= listed("b", "src2") if is_list and pairs else dense("b", "src2")
     tables = [lists("double").replace("{a[0]};", "{a[0]}, *bs[1] = {b[0]};") if pairs else lists("double")]
-    return example(context, name, ["double a[5][6], b[5][5] = {{0}}, d[5][5], e[5][5];", numbered("a", 5, 6),
-                                   *(tables if is_list else [])],
-                   given | {"count": "1"}, "{d}[1][4]", f"a[1][4] {sign(name)} b[1][4]", "13", "14")
+    return example(
+        context,
+        name,
+        ["double a[5][6], b[5][5] = {{0}}, d[5][5], e[5][5];", numbered("a", 5, 6), *(tables if is_list else [])],
+        given | {"count": "1"},
+        "{d}[1][4]",
+        f"a[1][4] {sign(name)} b[1][4]",
+        "13",
+        "14",
+    )
 
 
 def held(context, name):
@@ -159,33 +195,72 @@ def held(context, name):
     true, other = (10, 20) if transposed else (1, 2)
     formula = f"{m} - a[0][1]" if invariant_first else f"a[0][1] {sign(name)} {m}"
     shown = str if invariant_first else lambda value: signed(name, value)
-    return example(context, name, ["__attribute__((aligned(16))) double m[3][4], a[3][3] = {{0}}, d[3][3], e[3][3];",
-                                   numbered("m", 3, 4), lists("double")],
-                   listed("a", array) | dense("m", invariant) | listed("{d}", "dst") | {"count": "1"}, "{d}[0][1]", formula,
-                   shown(other), shown(true))
+    return example(
+        context,
+        name,
+        [
+            "__attribute__((aligned(16))) double m[3][4], a[3][3] = {{0}}, d[3][3], e[3][3];",
+            numbered("m", 3, 4),
+            lists("double"),
+        ],
+        listed("a", array) | dense("m", invariant) | listed("{d}", "dst") | {"count": "1"},
+        "{d}[0][1]",
+        formula,
+        shown(other),
+        shown(true),
+    )
 
 
 def at_first_elem_stride(context, name):
-    given = dense("a", "src1") | dense("b", "src2") | dense("{d}", "dst") | {
-        "src1ElemStride": "sizeof(double)", "src2ElemStride": "2 * sizeof(double)", "dstElemStride": "sizeof(double)"}
-    return example(context, name, ["double a[6][6] = {{0}}, b[6][12], d[6][6], e[6][6];", numbered("b", 6, 12, "c")], given,
-                   "{d}[0][1]", "a[1][0] - b[0][2]", "-1", "-2")
+    given = (
+        dense("a", "src1")
+        | dense("b", "src2")
+        | dense("{d}", "dst")
+        | {"src1ElemStride": "sizeof(double)", "src2ElemStride": "2 * sizeof(double)", "dstElemStride": "sizeof(double)"}
+    )
+    return example(
+        context,
+        name,
+        ["double a[6][6] = {{0}}, b[6][12], d[6][6], e[6][6];", numbered("b", 6, 12, "c")],
+        given,
+        "{d}[0][1]",
+        "a[1][0] - b[0][2]",
+        "-1",
+        "-2",
+    )
 
 
 def row_two(context, name):
-    return example(context, name, ["float a[6][6], b[6][6] = {{0}}, d[6][6], e[6][6];", numbered("a", 6, 6, "c", "float")],
-                   dense("a", "src1") | dense("b", "src2") | dense("{d}", "dst"), "{d}[3][0]", "a[0][3] - b[0][3]", "2", "3")
+    return example(
+        context,
+        name,
+        ["float a[6][6], b[6][6] = {{0}}, d[6][6], e[6][6];", numbered("a", 6, 6, "c", "float")],
+        dense("a", "src1") | dense("b", "src2") | dense("{d}", "dst"),
+        "{d}[3][0]",
+        "a[0][3] - b[0][3]",
+        "2",
+        "3",
+    )
 
 
 def table_of_elements(context, name):
     is_list = name.endswith("_L")
     operands = (("a", "src1"), ("b", "src2"), ("{d}", "dst"))
-    given = {key: text for letter, operand in operands
-             for key, text in (listed if is_list else dense)(letter, operand).items()}
-    return example(context, name, ["float a[6][6], b[6][6] = {{0}}, d[6][6], e[6][6];",
-                                   numbered("a", 6, 6, cast="float"),
-                                   *([lists("float").replace("{a[0]};", "{a[0]}, *bs[1] = {b[0]};")] if is_list else [])],
-                   given | {"count": "1"}, "{d}[0][1]", "a[1][0] - b[1][0]", "40", "10")
+    given = {key: text for letter, operand in operands for key, text in (listed if is_list else dense)(letter, operand).items()}
+    return example(
+        context,
+        name,
+        [
+            "float a[6][6], b[6][6] = {{0}}, d[6][6], e[6][6];",
+            numbered("a", 6, 6, cast="float"),
+            *([lists("float").replace("{a[0]};", "{a[0]}, *bs[1] = {b[0]};")] if is_list else []),
+        ],
+        given | {"count": "1"},
+        "{d}[0][1]",
+        "a[1][0] - b[1][0]",
+        "40",
+        "10",
+    )
 
 
 def element_type(name):
@@ -194,30 +269,84 @@ def element_type(name):
 
 def copied(context, name):
     t = element_type(name)
-    return example(context, name, [f"{t} a[2] = {{1, 2}}, d[2] = {{0}}, e[2] = {{0}};",
-                                   f"const {t} *as[2] = {{a, a + 1}}; {t} *ds[2] = {{d, d + 1}}, *es[2] = {{e, e + 1}};"],
-                   {"srcTable": "as", "srcShift": "0", "srcObjStride": f"sizeof({t})", "dstTable": "{d}s", "dstShift": "0",
-                    "dstObjStride": f"sizeof({t})", "len": "2", "count": "1"}, "{d}[1]", "a[1]", "0", "2")
+    return example(
+        context,
+        name,
+        [
+            f"{t} a[2] = {{1, 2}}, d[2] = {{0}}, e[2] = {{0}};",
+            f"const {t} *as[2] = {{a, a + 1}}; {t} *ds[2] = {{d, d + 1}}, *es[2] = {{e, e + 1}};",
+        ],
+        {
+            "srcTable": "as",
+            "srcShift": "0",
+            "srcObjStride": f"sizeof({t})",
+            "dstTable": "{d}s",
+            "dstShift": "0",
+            "dstObjStride": f"sizeof({t})",
+            "len": "2",
+            "count": "1",
+        },
+        "{d}[1]",
+        "a[1]",
+        "0",
+        "2",
+    )
 
 
 def extracted(context, name, value):
     t = element_type(name)
-    return example(context, name, [f"{t} a[2][3], d[6], e[6]; const {t} *as[6];",
-                                   numbered("a", 2, 3, cast="float" if t == "float" else ""),
-                                   "for (int i = 0; i < 6; ++i) as[i] = &a[i / 3][i % 3];"],
-                   {"srcTable": "as", "srcShift": "0", "srcObjStride": "sizeof a", "dst": "{d}", "width": "2", "height": "3",
-                    "count": "1"}, "{d}[1]", "a[1][0]", value, "10")
+    return example(
+        context,
+        name,
+        [
+            f"{t} a[2][3], d[6], e[6]; const {t} *as[6];",
+            numbered("a", 2, 3, cast="float" if t == "float" else ""),
+            "for (int i = 0; i < 6; ++i) as[i] = &a[i / 3][i % 3];",
+        ],
+        {
+            "srcTable": "as",
+            "srcShift": "0",
+            "srcObjStride": "sizeof a",
+            "dst": "{d}",
+            "width": "2",
+            "height": "3",
+            "count": "1",
+        },
+        "{d}[1]",
+        "a[1][0]",
+        value,
+        "10",
+    )
 
 
 def transposed_in_tables(context, name):
     t = element_type(name)
-    return example(context, name, [f"{t} a[2][3], d[8], e[6], *ds[8], *es[6]; const {t} *as[6];",
-                                   numbered("a", 2, 3, cast="float" if t == "float" else ""),
-                                   "for (int i = 0; i < 8; ++i) ds[i] = &d[i];",
-                                   "for (int i = 0; i < 6; ++i) as[i] = &a[i / 3][i % 3], es[i] = &e[i % 3 * 2 + i / 3];"],
-                   {"srcTable": "as", "srcShift": "0", "srcObjStride": "sizeof a", "width": "3", "height": "2",
-                    "dstTable": "{d}s", "dstTransposed": "es", "dstShift": "0", "dstObjStride": "sizeof a", "count": "1"},
-                   "{d}[1]", "a[1][0]", "2", "10")
+    return example(
+        context,
+        name,
+        [
+            f"{t} a[2][3], d[8], e[6], *ds[8], *es[6]; const {t} *as[6];",
+            numbered("a", 2, 3, cast="float" if t == "float" else ""),
+            "for (int i = 0; i < 8; ++i) ds[i] = &d[i];",
+            "for (int i = 0; i < 6; ++i) as[i] = &a[i / 3][i % 3], es[i] = &e[i % 3 * 2 + i / 3];",
+        ],
+        {
+            "srcTable": "as",
+            "srcShift": "0",
+            "srcObjStride": "sizeof a",
+            "width": "3",
+            "height": "2",
+            "dstTable": "{d}s",
+            "dstTransposed": "es",
+            "dstShift": "0",
+            "dstObjStride": "sizeof a",
+            "count": "1",
+        },
+        "{d}[1]",
+        "a[1][0]",
+        "2",
+        "10",
+    )
 
 
 EXAMPLES = {
@@ -299,37 +428,72 @@ def products_section(context):
         out.append(f"| {named} | {where} | {otherwise} |\n")
     out.append(PRODUCTS_INSTEAD)
     square = "double a[6][6], b[6][6], d[6][6], e[6][6];"
-    strides = {f"{operand}{suffix}": text for operand, letter in (("src1", "a"), ("src2", "b"), ("dst", "{d}"))
-               for suffix, text in (("", f"{letter}[0]"), ("ObjStride", f"sizeof {letter}"),
-                                    ("RowStride", f"sizeof {letter}[0]"))} | {"count": "1"}
+    strides = {
+        f"{operand}{suffix}": text
+        for operand, letter in (("src1", "a"), ("src2", "b"), ("dst", "{d}"))
+        for suffix, text in (("", f"{letter}[0]"), ("ObjStride", f"sizeof {letter}"), ("RowStride", f"sizeof {letter}[0]"))
+    } | {"count": "1"}
 
     def sizes(w1, h1, w2, h2):
         return strides | dict(zip(("src1Width", "src1Height", "src2Width", "src2Height"), map(str, (w1, h1, w2, h2))))
 
-    out.append("A 3x6 by the transpose of a 3x6, of ones: each element is a sum of six terms. `zelmMul_mamT_64f` sums three of"
-               " them, and writes three rows of six:\n\n")
+    out.append(
+        "A 3x6 by the transpose of a 3x6, of ones: each element is a sum of six terms. `zelmMul_mamT_64f` sums three of"
+        " them, and writes three rows of six:\n\n"
+    )
     out.append(example(context, "zelmMul_mamT_64f", [square, ones("a", "b")], sizes(6, 3, 6, 3), "{d}[0][0]", "6.0", "3", "6"))
-    out.append("\nThe transpose of a 5x2 by a 5x2: a 2x2 of sums of five terms. `zelmMul_mTm_64f` computes five rows, from a square"
-               " of five columns, the last three of which are not `src1`'s (-1: not written):\n\n")
-    out.append(example(context, "zelmMul_mTm_64f", [
-        square, "for (int i = 0; i < 36; ++i) a[i / 6][i % 6] = b[i / 6][i % 6] = 1, d[i / 6][i % 6] = e[i / 6][i % 6] = -1;"], sizes(2, 5, 2, 5),
-        "{d}[2][0]", "-1.0", "5", "-1"))
+    out.append(
+        "\nThe transpose of a 5x2 by a 5x2: a 2x2 of sums of five terms. `zelmMul_mTm_64f` computes five rows, from a square"
+        " of five columns, the last three of which are not `src1`'s (-1: not written):\n\n"
+    )
+    out.append(
+        example(
+            context,
+            "zelmMul_mTm_64f",
+            [
+                square,
+                "for (int i = 0; i < 36; ++i) a[i / 6][i % 6] = b[i / 6][i % 6] = 1, d[i / 6][i % 6] = e[i / 6][i % 6] = -1;",
+            ],
+            sizes(2, 5, 2, 5),
+            "{d}[2][0]",
+            "-1.0",
+            "5",
+            "-1",
+        )
+    )
     out.append("\nA 3x6 by an array of 6x6: the call is refused, as `zelmMul_mma_64f` asks for src1Height = src2Width.\n\n")
     given = {k: v.format(d="d") for k, v in sizes(6, 3, 6, 6).items()}
     second = {k: v.format(d="e") for k, v in sizes(6, 3, 6, 6).items()}
     name = "zelmMul_mma_64f"
     expressions = [re.sub(r"[a-zA-Z]\w*", lambda w: second[w.group()], x) for x in context.instead_arguments(name)]
-    lines = [square, ones("a", "b"), f"int refused = {call(name, [given[a] for a in context.arguments(name)])};",
-             f"int done = {call(context.departure(name).instead.name, expressions)};",
-             'printf("status %d; instead: status %d, %g\\n", refused, done, e[2][5]);']
-    out.append("```c\n" + "\n".join(wrapped(line) for line in lines) + "\n```\n\n```text\nstatus -6; instead: status 0, 6\n```\n")
-    out.append("\nThe transpose of a 5x2 times a vector of 5: two elements of five terms each. `zelmMul_mTv_64f` gives five of"
-               " two:\n\n")
-    vector = {"src1": "a[0]", "src1RowStride": "sizeof a[0]", "src1Width": "2", "src1Height": "5", "src2": "b[0]",
-              "src2Len": "5", "dst": "{d}[0]"}
+    lines = [
+        square,
+        ones("a", "b"),
+        f"int refused = {call(name, [given[a] for a in context.arguments(name)])};",
+        f"int done = {call(context.departure(name).instead.name, expressions)};",
+        'printf("status %d; instead: status %d, %g\\n", refused, done, e[2][5]);',
+    ]
+    out.append(
+        "```c\n" + "\n".join(wrapped(line) for line in lines) + "\n```\n\n```text\nstatus -6; instead: status 0, 6\n```\n"
+    )
+    out.append(
+        "\nThe transpose of a 5x2 times a vector of 5: two elements of five terms each. `zelmMul_mTv_64f` gives five of"
+        " two:\n\n"
+    )
+    vector = {
+        "src1": "a[0]",
+        "src1RowStride": "sizeof a[0]",
+        "src1Width": "2",
+        "src1Height": "5",
+        "src2": "b[0]",
+        "src2Len": "5",
+        "dst": "{d}[0]",
+    }
     out.append(example(context, "zelmMul_mTv_64f", [square, ones("a", "b")], vector, "{d}[0][0]", "5.0", "2", "5"))
-    out.append("\nThe arguments of the other form, for every run-time product:\n\n<details>\n<summary>All"
-               f" {len(PRODUCT_BOUNDS)}</summary>\n\n| Member | Instead |\n|---|---|\n")
+    out.append(
+        "\nThe arguments of the other form, for every run-time product:\n\n<details>\n<summary>All"
+        f" {len(PRODUCT_BOUNDS)}</summary>\n\n| Member | Instead |\n|---|---|\n"
+    )
     for name, departure in PRODUCT_BOUNDS.items():
         given = context.instead_arguments(name)
         text = f"`{call(departure.instead.name, given)}`" if given else f"`{departure.instead.name}`"
@@ -339,15 +503,20 @@ def products_section(context):
 
 
 def cautions_section(context):
-    out = ["## Forms that follow their row, and surprise\n\nNo call of these warns.\n\n| Members | What to know | Instead |\n"
-           "|---|---|---|\n"]
+    out = [
+        "## Forms that follow their row, and surprise\n\nNo call of these warns.\n\n| Members | What to know | Instead |\n"
+        "|---|---|---|\n"
+    ]
     groups = {}
     for name, departure in CAUTIONS.items():
         groups.setdefault((departure.when, departure.note), []).append(name)
     for (when, note), names in groups.items():
         instead = context.cautioned_arguments(names[0])
-        text = f"`{call(CAUTIONS[names[0]].instead.name, instead)}`" + (", and so on" if len(names) > 1 else "") if instead \
+        text = (
+            f"`{call(CAUTIONS[names[0]].instead.name, instead)}`" + (", and so on" if len(names) > 1 else "")
+            if instead
             else "one call per object, with a count of 1; or one identity, copied by `zelmCopy_ma` with a `srcObjStride` of 0"
+        )
         out.append(f"| {' '.join(f'`{n}`' for n in names)} | {when}: {note} | {text} |\n")
     return "".join(out) + "\n"
 
@@ -357,8 +526,9 @@ def others_section(context):
     for rank, meaning in RANKS.items():
         if rank == "values":
             continue
-        out.append(f"\n### Rank `{rank}`\n\nA member of this rank {meaning}.\n\n| Members | Departure | Instead |\n"
-                   "|---|---|---|\n")
+        out.append(
+            f"\n### Rank `{rank}`\n\nA member of this rank {meaning}.\n\n| Members | Departure | Instead |\n" "|---|---|---|\n"
+        )
         groups = {}
         for name, departure in DEPARTURES.items():
             if departure.rank == rank:
@@ -373,5 +543,9 @@ def others_section(context):
 
 
 def text(context):
-    return "\n".join((INTRODUCTION, members_section(context) + products_section(context) + cautions_section(context)
-                      + others_section(context)))
+    return "\n".join(
+        (
+            INTRODUCTION,
+            members_section(context) + products_section(context) + cautions_section(context) + others_section(context),
+        )
+    )

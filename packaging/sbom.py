@@ -24,21 +24,31 @@ def digest(path, method):
 
 def files_of(root):
     # The folder DEBIAN holds what the package manager reads and no installed file.
-    return [p for p in sorted(root.rglob("*")) if p.is_file() and not p.is_symlink() and p.relative_to(root).parts[0] != "DEBIAN"
-            and p.suffixes[-2:] != [".spdx", ".json"]]
+    return [
+        p
+        for p in sorted(root.rglob("*"))
+        if p.is_file()
+        and not p.is_symlink()
+        and p.relative_to(root).parts[0] != "DEBIAN"
+        and p.suffixes[-2:] != [".spdx", ".json"]
+    ]
 
 
 def document(options):
     files = []
     for number, path in enumerate(files_of(options.root)):
-        files.append({
-            "SPDXID": f"SPDXRef-File-{number}",
-            "fileName": "./" + str(path.relative_to(options.root)),
-            "checksums": [{"algorithm": method.upper(), "checksumValue": digest(path, method)} for method in ("sha1", "sha256")],
-            "licenseConcluded": "MIT",
-            "licenseInfoInFiles": ["NOASSERTION"],
-            "copyrightText": "NOASSERTION",
-        })
+        files.append(
+            {
+                "SPDXID": f"SPDXRef-File-{number}",
+                "fileName": "./" + str(path.relative_to(options.root)),
+                "checksums": [
+                    {"algorithm": method.upper(), "checksumValue": digest(path, method)} for method in ("sha1", "sha256")
+                ],
+                "licenseConcluded": "MIT",
+                "licenseInfoInFiles": ["NOASSERTION"],
+                "copyrightText": "NOASSERTION",
+            }
+        )
     sums = sorted(file["checksums"][0]["checksumValue"] for file in files)
     verification = hashlib.sha1("".join(sums).encode()).hexdigest()
     described = f"{options.package}-{options.version}-{verification}"
@@ -52,25 +62,29 @@ def document(options):
             "created": time.strftime("%Y-%m-%dT%H:%M:%SZ", time.gmtime(options.date)),
             "creators": ["Organization: zelm maintainers", "Tool: packaging/sbom.py"],
         },
-        "packages": [{
-            "SPDXID": "SPDXRef-Package",
-            "name": options.package,
-            "versionInfo": options.version,
-            "supplier": "Organization: zelm maintainers",
-            "downloadLocation": "NOASSERTION",
-            "filesAnalyzed": True,
-            "packageVerificationCode": {"packageVerificationCodeValue": verification},
-            "licenseConcluded": "MIT",
-            "licenseInfoFromFiles": ["NOASSERTION"],
-            "licenseDeclared": "MIT",
-            "copyrightText": "Copyright (c) zelm maintainers",
-            "comment": "All code is zelm's own; nothing of others is compiled or linked in, and the libraries need no other.",
-        }],
+        "packages": [
+            {
+                "SPDXID": "SPDXRef-Package",
+                "name": options.package,
+                "versionInfo": options.version,
+                "supplier": "Organization: zelm maintainers",
+                "downloadLocation": "NOASSERTION",
+                "filesAnalyzed": True,
+                "packageVerificationCode": {"packageVerificationCodeValue": verification},
+                "licenseConcluded": "MIT",
+                "licenseInfoFromFiles": ["NOASSERTION"],
+                "licenseDeclared": "MIT",
+                "copyrightText": "Copyright (c) zelm maintainers",
+                "comment": "All code is zelm's own; nothing of others is compiled or linked in, and the libraries need no other.",
+            }
+        ],
         "files": files,
         "relationships": [
             {"spdxElementId": "SPDXRef-DOCUMENT", "relationshipType": "DESCRIBES", "relatedSpdxElement": "SPDXRef-Package"},
-            *({"spdxElementId": "SPDXRef-Package", "relationshipType": "CONTAINS", "relatedSpdxElement": file["SPDXID"]}
-              for file in files),
+            *(
+                {"spdxElementId": "SPDXRef-Package", "relationshipType": "CONTAINS", "relatedSpdxElement": file["SPDXID"]}
+                for file in files
+            ),
         ],
     }
 

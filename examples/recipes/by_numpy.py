@@ -98,12 +98,24 @@ def column_major():
 
 def volumes():
     vertex = np.array([[0, 0, 0], [1, 0, 0], [0, 2, 0], [0, 0, 3], [1, 1, 1]])
-    return [[np.linalg.det(vertex[list(rest)] - vertex[apex]) / 6]
-            for apex, *rest in ((0, 1, 2, 3), (0, 2, 1, 3), (4, 1, 2, 3))]
+    return [
+        [np.linalg.det(vertex[list(rest)] - vertex[apex]) / 6] for apex, *rest in ((0, 1, 2, 3), (0, 2, 1, 3), (4, 1, 2, 3))
+    ]
 
 
-RECIPES = {"bodies": bodies, "column-major": column_major, "fit": fit, "gather": gather, "kalman": kalman, "mesh": mesh,
-           "points": points, "poses": poses, "scaling": scaling, "volumes": volumes, "whitening": whitening}
+RECIPES = {
+    "bodies": bodies,
+    "column-major": column_major,
+    "fit": fit,
+    "gather": gather,
+    "kalman": kalman,
+    "mesh": mesh,
+    "points": points,
+    "poses": poses,
+    "scaling": scaling,
+    "volumes": volumes,
+    "whitening": whitening,
+}
 
 
 def main(names):

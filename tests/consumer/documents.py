@@ -45,11 +45,30 @@ def main():
         for number, (source, expected) in enumerate(found):
             program = folder / f"{document.stem}_{number}"
             program.with_suffix(".c").write_text(source)
-            subprocess.run([options.compiler, *shlex.split(options.flags), "-std=c99", "-Wall", "-Wextra", "-Wpedantic",
-                            "-Wconversion", "-Werror", "-I", f"{options.prefix}/include", "-o", program,
-                            program.with_suffix(".c"), "-L", libraries, f"-lzelm{options.target}"], check=True)
-            output = subprocess.run([program], stdout=subprocess.PIPE, text=True, check=True,
-                                    env=os.environ | {"LD_LIBRARY_PATH": str(libraries)}).stdout
+            subprocess.run(
+                [
+                    options.compiler,
+                    *shlex.split(options.flags),
+                    "-std=c99",
+                    "-Wall",
+                    "-Wextra",
+                    "-Wpedantic",
+                    "-Wconversion",
+                    "-Werror",
+                    "-I",
+                    f"{options.prefix}/include",
+                    "-o",
+                    program,
+                    program.with_suffix(".c"),
+                    "-L",
+                    libraries,
+                    f"-lzelm{options.target}",
+                ],
+                check=True,
+            )
+            output = subprocess.run(
+                [program], stdout=subprocess.PIPE, text=True, check=True, env=os.environ | {"LD_LIBRARY_PATH": str(libraries)}
+            ).stdout
             if expected is None or output != expected:
                 failures += 1
                 print(f"prints {output!r}, the document says {expected!r}")

@@ -28,11 +28,19 @@ class Tree:
         self.folder = options.folder / name
         shutil.rmtree(self.folder, ignore_errors=True)
         environment = {key: value for key, value in os.environ.items() if key not in ("CFLAGS", "CXXFLAGS")}
-        environment |= {"CC": options.c_compiler, "CXX": options.cxx_compiler, "CFLAGS": f"{options.flags} {flags}",
-                        "CXXFLAGS": f"{options.flags} {flags}"}
+        environment |= {
+            "CC": options.c_compiler,
+            "CXX": options.cxx_compiler,
+            "CFLAGS": f"{options.flags} {flags}",
+            "CXXFLAGS": f"{options.flags} {flags}",
+        }
         self.done = subprocess.run(
             ["cmake", "-S", source, "-B", self.folder, "-G", options.generator, *(f"-D{d}" for d in definitions)],
-            env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+            env=environment,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+        )
 
     def cache(self, name):
         for line in (self.folder / "CMakeCache.txt").read_text().splitlines():
@@ -65,7 +73,10 @@ def main():
     def expect(what, found, wanted):
         nonlocal failures
         failures += found != wanted
-        print(f"{'ok' if found == wanted else 'FAILED'}: {what}: {found!r}" + ("" if found == wanted else f", not {wanted!r}"), flush=True)
+        print(
+            f"{'ok' if found == wanted else 'FAILED'}: {what}: {found!r}" + ("" if found == wanted else f", not {wanted!r}"),
+            flush=True,
+        )
 
     plain = Tree(options, "plain", options.source)
     expect("no arguments: status", plain.done.returncode, 0)
@@ -76,28 +87,53 @@ def main():
     expect("no arguments: warnings", "-Wconversion" in plain.flags_of("frame/version.cpp"), True)
     expect("no arguments: archive", plain.cache("ZELM_BUILD_STATIC"), "OFF")
 
-    bare = Tree(options, "without_googletest", options.source, "-fstack-protector-all -D_FORTIFY_SOURCE=2",
-                ["ZELM_GOOGLETEST_DIR=/nonexistent"])
+    bare = Tree(
+        options,
+        "without_googletest",
+        options.source,
+        "-fstack-protector-all -D_FORTIFY_SOURCE=2",
+        ["ZELM_GOOGLETEST_DIR=/nonexistent"],
+    )
     expect("without GoogleTest: status", bare.done.returncode, 0)
     expect("without GoogleTest: tests", bare.cache("ZELM_BUILD_TESTS"), "OFF")
     flags = bare.flags_of("frame/version.cpp")
-    expect("flags that would import something: taken back",
-           (flags.index("-fno-stack-protector") > flags.index("-fstack-protector-all"),
-            flags.index("-U_FORTIFY_SOURCE") > flags.index("-D_FORTIFY_SOURCE=2")), (True, True))
+    expect(
+        "flags that would import something: taken back",
+        (
+            flags.index("-fno-stack-protector") > flags.index("-fstack-protector-all"),
+            flags.index("-U_FORTIFY_SOURCE") > flags.index("-D_FORTIFY_SOURCE=2"),
+        ),
+        (True, True),
+    )
 
-    asked = Tree(options, "asked_for_tests", options.source,
-                 definitions=["ZELM_GOOGLETEST_DIR=/nonexistent", "ZELM_BUILD_TESTS=ON"])
-    expect("tests asked for without GoogleTest: refused", (asked.done.returncode != 0,
-           "need GoogleTest's sources" in asked.done.stdout), (True, True))
+    asked = Tree(
+        options, "asked_for_tests", options.source, definitions=["ZELM_GOOGLETEST_DIR=/nonexistent", "ZELM_BUILD_TESTS=ON"]
+    )
+    expect(
+        "tests asked for without GoogleTest: refused",
+        (asked.done.returncode != 0, "need GoogleTest's sources" in asked.done.stdout),
+        (True, True),
+    )
 
     other = "t7" if options.target == "x64" else "x64"
     wrong = Tree(options, "other_target", options.source, definitions=[f"ZELM_TARGET={other}"])
     expect("the other target: refused", (wrong.done.returncode != 0, "use the preset" in wrong.done.stdout), (True, True))
 
     for flag in ("-O2", "-ffast-math", "-funsafe-math-optimizations", "-ffinite-math-only"):
-        made = subprocess.run([options.cxx_compiler, *shlex.split(options.flags), "-msse3", "-mfpmath=sse", flag, "-fsyntax-only",
-                               options.source / "frame" / "compiler_flags.cpp"], stdout=subprocess.PIPE,
-                              stderr=subprocess.STDOUT, text=True)
+        made = subprocess.run(
+            [
+                options.cxx_compiler,
+                *shlex.split(options.flags),
+                "-msse3",
+                "-mfpmath=sse",
+                flag,
+                "-fsyntax-only",
+                options.source / "frame" / "compiler_flags.cpp",
+            ],
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+        )
         said = "zelm gives the same bits everywhere" in made.stdout
         # clang++ has no macro for the third one.
         if flag != "-funsafe-math-optimizations" or "clang" not in options.cxx_compiler:

@@ -31,20 +31,21 @@ def exports(library, options):
     """The exported names are those of the grid and its kernels, and the version query."""
     expected = expected_exports(json.loads(Path(options.grid).read_text()))
     found = {s.name for s in library.dynamic_symbols() if s.section != elf.SHN_UNDEF}
-    return [f"missing: {name}" for name in sorted(expected - found)] \
-        + [f"exported but not in the grid: {name}" for name in sorted(found - expected)]
+    return [f"missing: {name}" for name in sorted(expected - found)] + [
+        f"exported but not in the grid: {name}" for name in sorted(found - expected)
+    ]
 
 
 def visibility(library, _):
     """Every exported name can be found by a caller."""
-    return [f"{s.name} has visibility {s.visibility}" for s in library.dynamic_symbols()
-            if s.visibility != elf.STV_DEFAULT]
+    return [f"{s.name} has visibility {s.visibility}" for s in library.dynamic_symbols() if s.visibility != elf.STV_DEFAULT]
 
 
 def imports(library, _):
     """No symbol is undefined and no other library is needed."""
-    return [f"undefined symbol {s.name}" for s in library.dynamic_symbols() if s.section == elf.SHN_UNDEF] \
-        + [f"NEEDED {name}" for name in library.dynamic_texts("NEEDED")]
+    return [f"undefined symbol {s.name}" for s in library.dynamic_symbols() if s.section == elf.SHN_UNDEF] + [
+        f"NEEDED {name}" for name in library.dynamic_texts("NEEDED")
+    ]
 
 
 def startup(library, _):
@@ -76,59 +77,160 @@ def protection(library, _):
     stack = [s for s in library.segments if s.type == elf.PT_GNU_STACK]
     if not stack or stack[0].flags & elf.PF_X:
         broken.append("executable stack")
-    broken += [f"segment at {s.address:#x} is writable and executable" for s in library.segments
-               if s.type == elf.PT_LOAD and s.flags & elf.PF_W and s.flags & elf.PF_X]
+    broken += [
+        f"segment at {s.address:#x} is writable and executable"
+        for s in library.segments
+        if s.type == elf.PT_LOAD and s.flags & elf.PF_W and s.flags & elf.PF_X
+    ]
     relro = [s for s in library.segments if s.type == elf.PT_GNU_RELRO]
     if not relro:
         return broken + ["no PT_GNU_RELRO"]
     start, stop = relro[0].address, relro[0].address + relro[0].size
-    return broken + [f"{s.name} stays writable" for s in library.sections
-                     if s.flags & elf.SHF_ALLOC and s.flags & elf.SHF_WRITE and s.size
-                     and not (start <= s.address and s.address + s.size <= stop)]
+    return broken + [
+        f"{s.name} stays writable"
+        for s in library.sections
+        if s.flags & elf.SHF_ALLOC
+        and s.flags & elf.SHF_WRITE
+        and s.size
+        and not (start <= s.address and s.address + s.size <= stop)
+    ]
 
 
 def _sse_mnemonics():
     """Every instruction on XMM registers up to SSE3."""
-    scalar_and_packed = ("add", "sub", "mul", "div", "sqrt", "min", "max", *(
-        f"cmp{test}" for test in ("eq", "lt", "le", "unord", "neq", "nlt", "nle", "ord")))
+    scalar_and_packed = (
+        "add",
+        "sub",
+        "mul",
+        "div",
+        "sqrt",
+        "min",
+        "max",
+        *(f"cmp{test}" for test in ("eq", "lt", "le", "unord", "neq", "nlt", "nle", "ord")),
+    )
     names = {stem + form for stem in scalar_and_packed for form in ("ps", "ss", "pd", "sd")}
     names |= {stem + form for stem in ("rcp", "rsqrt") for form in ("ps", "ss")}
-    names |= {stem + form for form in ("ps", "pd") for stem in (
-        "and", "andn", "or", "xor", "shuf", "unpckl", "unpckh", "mova", "movu", "movl", "movh", "movmsk", "movnt",
-        "addsub", "hadd", "hsub")}
+    names |= {
+        stem + form
+        for form in ("ps", "pd")
+        for stem in (
+            "and",
+            "andn",
+            "or",
+            "xor",
+            "shuf",
+            "unpckl",
+            "unpckh",
+            "mova",
+            "movu",
+            "movl",
+            "movh",
+            "movmsk",
+            "movnt",
+            "addsub",
+            "hadd",
+            "hsub",
+        )
+    }
     names |= {"movss", "movsd", "movlhps", "movhlps", "comiss", "ucomiss", "comisd", "ucomisd"}
-    names |= {f"cvt{a}2{b}" for a, b in (
-        ("ps", "pd"), ("pd", "ps"), ("ss", "sd"), ("sd", "ss"), ("dq", "ps"), ("ps", "dq"), ("tps", "dq"),
-        ("dq", "pd"), ("pd", "dq"), ("tpd", "dq"), ("si", "ss"), ("si", "sd"), ("ss", "si"), ("sd", "si"),
-        ("tss", "si"), ("tsd", "si"))}
-    names |= {"movd", "movq", "movdqa", "movdqu", "movntdq", "maskmovdqu", "lddqu", "movddup", "movshdup",
-              "movsldup"}
+    names |= {
+        f"cvt{a}2{b}"
+        for a, b in (
+            ("ps", "pd"),
+            ("pd", "ps"),
+            ("ss", "sd"),
+            ("sd", "ss"),
+            ("dq", "ps"),
+            ("ps", "dq"),
+            ("tps", "dq"),
+            ("dq", "pd"),
+            ("pd", "dq"),
+            ("tpd", "dq"),
+            ("si", "ss"),
+            ("si", "sd"),
+            ("ss", "si"),
+            ("sd", "si"),
+            ("tss", "si"),
+            ("tsd", "si"),
+        )
+    }
+    names |= {"movd", "movq", "movdqa", "movdqu", "movntdq", "maskmovdqu", "lddqu", "movddup", "movshdup", "movsldup"}
     names |= {stem + width for stem in ("padd", "psub") for width in ("b", "w", "d", "q", "sb", "sw", "usb", "usw")}
     names |= {stem + width for stem in ("pcmpeq", "pcmpgt") for width in "bwd"}
     names |= {stem + width for stem in ("psll", "psrl") for width in ("w", "d", "q", "dq")} | {"psraw", "psrad"}
     names |= {f"punpck{half}{width}" for half in "lh" for width in ("bw", "wd", "dq", "qdq")}
-    names |= {"pand", "pandn", "por", "pxor", "pshufd", "pshuflw", "pshufhw", "packsswb", "packssdw", "packuswb",
-              "pmullw", "pmulhw", "pmulhuw", "pmuludq", "pmaddwd", "psadbw", "pavgb", "pavgw", "pmaxsw", "pmaxub",
-              "pminsw", "pminub", "pinsrw", "pextrw", "pmovmskb"}
+    names |= {
+        "pand",
+        "pandn",
+        "por",
+        "pxor",
+        "pshufd",
+        "pshuflw",
+        "pshufhw",
+        "packsswb",
+        "packssdw",
+        "packuswb",
+        "pmullw",
+        "pmulhw",
+        "pmulhuw",
+        "pmuludq",
+        "pmaddwd",
+        "psadbw",
+        "pavgb",
+        "pavgw",
+        "pmaxsw",
+        "pmaxub",
+        "pminsw",
+        "pminub",
+        "pinsrw",
+        "pextrw",
+        "pmovmskb",
+    }
     return names
 
 
 SSE = _sse_mnemonics()
 # Newer instructions on general registers. `tzcnt` isn't among them: compilers write it for `rep bsf`, which an old
 # processor runs as bsf with the same result for every operand but 0, whose result they don't use.
-NEWER = re.compile(r"^(popcnt|lzcnt|andn|bextr|bls(i|r|msk)|bzhi|pdep|pext|mulx|rorx|sarx|shlx|shrx|ad[co]x|movbe"
-                   r"|crc32|rdrand|rdseed|xgetbv|xsave|xrstor|v[a-z].*|k[a-z]+[bwdq]|sha.*|aes.*|gf2.*)[lqwb]?$")
-PREFIXES = {"rep", "repz", "repe", "repnz", "repne", "lock", "data16", "addr32", "addr16", "cs", "ds", "es", "ss",
-            "fs", "gs", "notrack", "bnd", "rex", "rex.W", "rex.WX"}
+NEWER = re.compile(
+    r"^(popcnt|lzcnt|andn|bextr|bls(i|r|msk)|bzhi|pdep|pext|mulx|rorx|sarx|shlx|shrx|ad[co]x|movbe"
+    r"|crc32|rdrand|rdseed|xgetbv|xsave|xrstor|v[a-z].*|k[a-z]+[bwdq]|sha.*|aes.*|gf2.*)[lqwb]?$"
+)
+PREFIXES = {
+    "rep",
+    "repz",
+    "repe",
+    "repnz",
+    "repne",
+    "lock",
+    "data16",
+    "addr32",
+    "addr16",
+    "cs",
+    "ds",
+    "es",
+    "ss",
+    "fs",
+    "gs",
+    "notrack",
+    "bnd",
+    "rex",
+    "rex.W",
+    "rex.WX",
+}
 FUNCTION = re.compile(r"^[0-9a-f]+ <(.+)>:$")
 INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(.+)$")
 
 
 def disassemble(options):
     """(function, mnemonic, operands) of every instruction."""
-    text = subprocess.run([options.objdump, "-d", "--no-show-raw-insn", "-M", "att", options.file], check=True,
-                          stdout=subprocess.PIPE, text=True,
-                          env=os.environ | {"LC_ALL": "C"}).stdout
+    text = subprocess.run(
+        [options.objdump, "-d", "--no-show-raw-insn", "-M", "att", options.file],
+        check=True,
+        stdout=subprocess.PIPE,
+        text=True,
+        env=os.environ | {"LC_ALL": "C"},
+    ).stdout
     function = "?"
     for line in text.splitlines():
         if match := FUNCTION.match(line):
@@ -181,13 +283,18 @@ def rounding(_, options):
 
 def x87(_, options):
     """No x87 or MMX instruction: x87 rounds twice, and already its moves quieten a signalling NaN."""
-    return _per_function((function, mnemonic, operands) for function, mnemonic, operands in disassemble(options)
-                         if (mnemonic.startswith("f") or re.search(r"%mm\d", operands) or mnemonic == "emms")
-                         and not X87_FUNCTIONS.match(function))
+    return _per_function(
+        (function, mnemonic, operands)
+        for function, mnemonic, operands in disassemble(options)
+        if (mnemonic.startswith("f") or re.search(r"%mm\d", operands) or mnemonic == "emms")
+        and not X87_FUNCTIONS.match(function)
+    )
 
 
-RULES = {rule.__name__: rule for rule in (
-    exports, visibility, imports, startup, soname, position, protection, instructions, rounding, x87)}
+RULES = {
+    rule.__name__: rule
+    for rule in (exports, visibility, imports, startup, soname, position, protection, instructions, rounding, x87)
+}
 
 
 def main():

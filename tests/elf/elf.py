@@ -10,8 +10,21 @@ SHT_DYNSYM, SHT_NOBITS = 11, 8
 SHF_WRITE, SHF_ALLOC = 1, 2
 SHN_UNDEF = 0
 STV_DEFAULT = 0
-DT = {"NULL": 0, "NEEDED": 1, "STRTAB": 5, "INIT": 12, "FINI": 13, "SONAME": 14, "RPATH": 15, "TEXTREL": 22,
-      "INIT_ARRAY": 25, "FINI_ARRAY": 26, "RUNPATH": 29, "FLAGS": 30, "PREINIT_ARRAY": 32}
+DT = {
+    "NULL": 0,
+    "NEEDED": 1,
+    "STRTAB": 5,
+    "INIT": 12,
+    "FINI": 13,
+    "SONAME": 14,
+    "RPATH": 15,
+    "TEXTREL": 22,
+    "INIT_ARRAY": 25,
+    "FINI_ARRAY": 26,
+    "RUNPATH": 29,
+    "FLAGS": 30,
+    "PREINIT_ARRAY": 32,
+}
 DF_TEXTREL = 4
 
 
@@ -52,8 +65,9 @@ class Elf:
             raise ValueError(f"{path} is not a little-endian ELF file")
         self.wide = self.data[4] == 2
         word = "Q" if self.wide else "I"
-        (self.type, self.machine, _, _, phoff, shoff, _, _, phentsize, phnum, shentsize, shnum, shstrndx) = \
-            self._unpack(f"HHI{word}{word}{word}IHHHHHH", 16)
+        (self.type, self.machine, _, _, phoff, shoff, _, _, phentsize, phnum, shentsize, shnum, shstrndx) = self._unpack(
+            f"HHI{word}{word}{word}IHHHHHH", 16
+        )
         self.segments = [self._segment(phoff + i * phentsize) for i in range(phnum)]
         raw = [self._unpack(f"II{word * 4}II{word}{word}", shoff + i * shentsize) for i in range(shnum)]
         names = raw[shstrndx][4]
@@ -64,7 +78,7 @@ class Elf:
         return struct.unpack_from("<" + layout, self.data, offset)
 
     def _text(self, offset):
-        return self.data[offset:self.data.index(b"\0", offset)].decode()
+        return self.data[offset : self.data.index(b"\0", offset)].decode()
 
     def _segment(self, offset):
         if self.wide:
@@ -78,10 +92,12 @@ class Elf:
         for segment in self.segments:
             if segment.type == PT_DYNAMIC:
                 size = 16 if self.wide else 8
-                entries = [self._unpack("qQ" if self.wide else "iI", segment.offset + i * size)
-                           for i in range(segment.file_size // size)]
+                entries = [
+                    self._unpack("qQ" if self.wide else "iI", segment.offset + i * size)
+                    for i in range(segment.file_size // size)
+                ]
                 tags = [tag for tag, _ in entries]
-                return entries[:tags.index(DT["NULL"])]
+                return entries[: tags.index(DT["NULL"])]
         return []
 
     def _file_offset(self, address):

@@ -26,27 +26,46 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parents[2]
 FOLDERS = ("frame", "elementwise", "vector", "products", "solvers", "movement")
 COPIED = FOLDERS + ("include",)
-TIMEOUT = 300 # seconds
+TIMEOUT = 300  # seconds
 CASES = 60
 NAME = r"[A-Za-z_]\w*"
 
 # (kind, pattern, what may stand there instead); the formatting tells an operator from a template's bracket.
 CHANGES = (
-    ("operator", r" \+ ", (" - ",)), ("operator", r" - ", (" + ",)), ("operator", r" \* ", (" + ", " / ")),
-    ("operator", r" / ", (" * ",)), ("operator", r" % ", (" / ",)), ("operator", r" \+= ", (" -= ",)),
-    ("operator", r" -= ", (" += ",)), ("operator", r" \*= ", (" += ",)), ("operator", r"(?<=[(= ])-(?=[A-Za-z(])", ("",)),
-    ("comparison", r" < ", (" <= ", " > ")), ("comparison", r" <= ", (" < ",)), ("comparison", r" > ", (" >= ", " < ")),
-    ("comparison", r" >= ", (" > ",)), ("comparison", r" == ", (" != ",)), ("comparison", r" != ", (" == ",)),
-    ("comparison", r"!(?=[A-Za-z(])", ("",)), ("condition", r" && ", (" || ",)), ("condition", r" \|\| ", (" && ",)),
+    ("operator", r" \+ ", (" - ",)),
+    ("operator", r" - ", (" + ",)),
+    ("operator", r" \* ", (" + ", " / ")),
+    ("operator", r" / ", (" * ",)),
+    ("operator", r" % ", (" / ",)),
+    ("operator", r" \+= ", (" -= ",)),
+    ("operator", r" -= ", (" += ",)),
+    ("operator", r" \*= ", (" += ",)),
+    ("operator", r"(?<=[(= ])-(?=[A-Za-z(])", ("",)),
+    ("comparison", r" < ", (" <= ", " > ")),
+    ("comparison", r" <= ", (" < ",)),
+    ("comparison", r" > ", (" >= ", " < ")),
+    ("comparison", r" >= ", (" > ",)),
+    ("comparison", r" == ", (" != ",)),
+    ("comparison", r" != ", (" == ",)),
+    ("comparison", r"!(?=[A-Za-z(])", ("",)),
+    ("condition", r" && ", (" || ",)),
+    ("condition", r" \|\| ", (" && ",)),
     ("constant", r"(?<![\w.<])\d+(?![\w.>])", ("+1", "-1")),
     ("dropped check", r"return (?:ZELM_ERR_\w+|status);", (";",)),
     ("dropped statement", rf"^\s+(?:store|storePack|copyElement|{NAME}(?:\.\w+)*\()[^;{{}}]*\);$", (";",)),
     ("exchange", rf"\(({NAME}), ({NAME})([,)])", (r"(\2, \1\3",)),
-    ("exchange", r"\browStride\b", ("elemStride",)), ("exchange", r"\belemStride\b", ("rowStride",)),
-    ("exchange", r"\bobjStride\b", ("rowStride",)), ("exchange", r"\bwidth\b", ("height",)),
-    ("exchange", r"\bheight\b", ("width",)), ("exchange", r"\brow\b", ("column",)), ("exchange", r"\bcolumn\b", ("row",)),
-    ("order of a sum", rf"\(({NAME}(?:\[[^][]*\])?) \+ ({NAME}(?:\[[^][]*\])?)\) \+ ({NAME}(?:\[[^][]*\])?)",
-     (r"\1 + (\2 + \3)", r"(\1 + \3) + \2")),
+    ("exchange", r"\browStride\b", ("elemStride",)),
+    ("exchange", r"\belemStride\b", ("rowStride",)),
+    ("exchange", r"\bobjStride\b", ("rowStride",)),
+    ("exchange", r"\bwidth\b", ("height",)),
+    ("exchange", r"\bheight\b", ("width",)),
+    ("exchange", r"\brow\b", ("column",)),
+    ("exchange", r"\bcolumn\b", ("row",)),
+    (
+        "order of a sum",
+        rf"\(({NAME}(?:\[[^][]*\])?) \+ ({NAME}(?:\[[^][]*\])?)\) \+ ({NAME}(?:\[[^][]*\])?)",
+        (r"\1 + (\2 + \3)", r"(\1 + \3) + \2"),
+    ),
 )
 
 
@@ -64,8 +83,11 @@ def code_lines(path):
     for number, text in enumerate(path.read_text().splitlines(), 1):
         code = text.split("//")[0].rstrip()
         # Parameter lists of templates and unrolling are no arithmetic.
-        if code.strip() and not re.match(r"\s*(#|template|static_assert|using |namespace |struct |ZELM_INLINE [^=]*\)( const)? \{$)",
-                                         code) and "__builtin_expect" not in code:
+        if (
+            code.strip()
+            and not re.match(r"\s*(#|template|static_assert|using |namespace |struct |ZELM_INLINE [^=]*\)( const)? \{$)", code)
+            and "__builtin_expect" not in code
+        ):
             yield number, code
 
 
@@ -82,7 +104,7 @@ def mutations_of(path):
                             continue
                     else:
                         new = found.expand(substitute)
-                    after = code[:found.start()] + new + code[found.end():]
+                    after = code[: found.start()] + new + code[found.end() :]
                     if after != code:
                         yield Mutation(file, number, kind, code, after)
 
@@ -130,7 +152,7 @@ class Library:
             if not re.search(r"CMakeFiles/zelm(_objects)?\.dir/", entry["command"]):
                 continue
             words = [w for w in shlex.split(entry["command"]) if w not in ("-O2", "-Werror") and not w.startswith("-W")]
-            words = words[next(i for i, w in enumerate(words) if "g++" in Path(w).name):words.index("-o")]
+            words = words[next(i for i, w in enumerate(words) if "g++" in Path(w).name) : words.index("-o")]
             words = [w.replace(str(SOURCE / "include"), str(self.copy / "include")) for w in words]
             words = [f"-I{self.copy}" if w == f"-I{SOURCE}" else w for w in words]
             source = Path(entry["file"])
@@ -144,8 +166,14 @@ class Library:
         folder.mkdir(parents=True, exist_ok=True)
 
         def one(name):
-            return subprocess.run([*self.commands[name], str(folder / f"{name}.o"), "-MD"],
-                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
+            return (
+                subprocess.run(
+                    [*self.commands[name], str(folder / f"{name}.o"), "-MD"],
+                    stdout=subprocess.DEVNULL,
+                    stderr=subprocess.DEVNULL,
+                ).returncode
+                == 0
+            )
 
         with ThreadPoolExecutor(jobs) as pool:
             return all(pool.map(one, names))
@@ -174,20 +202,27 @@ class Library:
         """The units to compile, the cheapest first: those with code of the line or, if none has any, those that
         include the file."""
         base = Path(mutation.file).name
-        with_code = [n for n in self.commands if (base, mutation.line) in self.lines[n]
-                     and str(self.copy / mutation.file) in self.includes[n]]
+        with_code = [
+            n
+            for n in self.commands
+            if (base, mutation.line) in self.lines[n] and str(self.copy / mutation.file) in self.includes[n]
+        ]
         units = with_code or [n for n in self.commands if str(self.copy / mutation.file) in self.includes[n]]
         return sorted(units, key=lambda n: (self.folder / "base" / f"{n}.o").stat().st_size)
 
     def link(self, changed, folder, target, whole):
         """The changed units with what all units need, or with all others. False if that fails."""
         others = [n for n in self.commands if n not in changed and (whole or not n.startswith("generated_"))]
-        objects = [folder / f"{n}.o" for n in changed] # first: of an inline function the first definition is taken
+        objects = [folder / f"{n}.o" for n in changed]  # first: of an inline function the first definition is taken
         objects += [self.folder / "base" / f"{n}.o" for n in others]
         flags = [f for f in self.commands[changed[0]] if f in ("-m32", "-m64")] + ["-shared", "-nostdlib", "-Wl,-Bsymbolic"]
         target.parent.mkdir(parents=True, exist_ok=True)
-        return subprocess.run(["g++", *flags, "-o", target, *objects],
-                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
+        return (
+            subprocess.run(
+                ["g++", *flags, "-o", target, *objects], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+            ).returncode
+            == 0
+        )
 
     def names_in(self, units):
         """A filter for the conformance test: the functions that the units export, or that call them."""
@@ -196,8 +231,12 @@ class Library:
             before = set(callers)
             defined = set().union(*(self.symbols[unit][0] for unit in callers if not unit.startswith("generated_")))
             callers |= {unit for unit, (_, used) in self.symbols.items() if not defined.isdisjoint(used)}
-        names = [name for unit in sorted(callers) for name in self.symbols[unit][0] if re.match("zelm[A-Z]|a6_", name)
-                 and name != "zelmGetLibVersion"]
+        names = [
+            name
+            for unit in sorted(callers)
+            for name in self.symbols[unit][0]
+            if re.match("zelm[A-Z]|a6_", name) and name != "zelmGetLibVersion"
+        ]
         return ":".join(f"Grid/Conformance.EqualsTheModel/{name}" for name in names)
 
     def symbols_of(self, unit):
@@ -208,8 +247,9 @@ class Library:
 
 def fails(command, environment):
     try:
-        done = subprocess.run(command, env=os.environ | environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              timeout=TIMEOUT)
+        done = subprocess.run(
+            command, env=os.environ | environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TIMEOUT
+        )
         return done.returncode != 0
     except subprocess.TimeoutExpired:
         return True
@@ -225,9 +265,8 @@ def noticed(library, units, folder):
     small = all(unit.startswith("generated_") for unit in units)
     if not library.link(units, folder, target, not small):
         return "invalid"
-    filtered = f"--gtest_filter={names if 0 < len(names) < 100_000 else 'Grid/Conformance.*'}" # an argument has 128 KB
-    if fails([tests / "conformance", "--gtest_brief=1", "--gtest_fail_fast", f"--cases={CASES}", filtered],
-             environment):
+    filtered = f"--gtest_filter={names if 0 < len(names) < 100_000 else 'Grid/Conformance.*'}"  # an argument has 128 KB
+    if fails([tests / "conformance", "--gtest_brief=1", "--gtest_fail_fast", f"--cases={CASES}", filtered], environment):
         return "conformance"
     if small and not library.link(units, folder, target, True):
         return "invalid"
@@ -316,8 +355,10 @@ def main():
     for path, results in table.items():
         total += results
         print(f"{path}: {sum(results.values()) - results['invalid']} mutations, {results['survived']} survived")
-    print(f"{sum(total.values()) - total['invalid']} mutations, {total['survived']} survived; caught by the conformance test "
-          f"{total['conformance']}, by the edge cases alone {total['edge cases']}")
+    print(
+        f"{sum(total.values()) - total['invalid']} mutations, {total['survived']} survived; caught by the conformance test "
+        f"{total['conformance']}, by the edge cases alone {total['edge cases']}"
+    )
     return 0
 
 
