@@ -124,9 +124,11 @@ struct View {
             if constexpr (detail::is_list(L)) {
                 view.table = table + k;
             } else {
-                const auto bytes = static_cast<std::ptrdiff_t>(k) * object;
+                // Addresses are counted modulo the word size, as the functions do.
+                const auto bytes = static_cast<std::ptrdiff_t>(k * static_cast<std::size_t>(object));
                 if constexpr (detail::is_by_element(L)) {
-                    view.shift += bytes;
+                    view.shift = static_cast<std::ptrdiff_t>(static_cast<std::size_t>(shift) +
+                                                             static_cast<std::size_t>(bytes));
                 } else {
                     view.first = detail::moved(first, bytes);
                 }
