@@ -12,6 +12,7 @@ option(ZELM_BUILD_STATIC "Build an archive as well" OFF)
 option(ZELM_BUILD_BENCH "Build the benchmark" OFF)
 option(ZELM_INSTALL "Install with the project" ${PROJECT_IS_TOP_LEVEL})
 option(ZELM_WARNINGS_AS_ERRORS "Take every warning for an error" OFF)
+option(ZELM_SLOW_TESTS "Build also the tests that take long to build or to run" OFF)
 option(ZELM_SANITIZE "Build everything with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 
 # Optimised, if nothing else is said.
