@@ -19,11 +19,13 @@ namespace {
 using namespace zelmbench;
 
 constexpr const char *usage =
-    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--filter REGEX] [--quick | --check] [--json FILE] [--list]
+    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--target NAME] [--filter REGEX] [--quick | --check]
+           [--json FILE] [--list]
 
   --library FILE  the library that is measured, instead of the one built beside this program
   --beside FILE   another build of it, measured in the same samples: own time over its time
   --peers FILE    other peers ("none" measures none)
+  --target NAME   what the results call this build of library and peers
   --filter REGEX  rows that it is found in, like 'zelmMul_.*_P/'
   --quick         few short samples, and no rows of 1,000,000 objects
   --check         runs every contender once: does it compute what the library computes?
@@ -32,21 +34,19 @@ constexpr const char *usage =
 )";
 
 struct Options {
-    std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS, filter = ".", json;
+    std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS;
+    std::string target = ZELM_BENCH_TARGET, filter = ".", json;
     Effort effort = thorough;
     bool isList = false;
 };
 
 Options parse(int argc, char **argv) {
-    static const option known[] = {{"library", required_argument, nullptr, 'l'},
-                                   {"beside", required_argument, nullptr, 'b'},
-                                   {"peers", required_argument, nullptr, 'p'},
-                                   {"filter", required_argument, nullptr, 'f'},
-                                   {"json", required_argument, nullptr, 'j'},
-                                   {"quick", no_argument, nullptr, 'q'},
-                                   {"check", no_argument, nullptr, 'c'},
-                                   {"list", no_argument, nullptr, 'n'},
-                                   {}};
+    static const option known[] = {
+        {"library", required_argument, nullptr, 'l'}, {"beside", required_argument, nullptr, 'b'},
+        {"peers", required_argument, nullptr, 'p'},   {"target", required_argument, nullptr, 't'},
+        {"filter", required_argument, nullptr, 'f'},  {"json", required_argument, nullptr, 'j'},
+        {"quick", no_argument, nullptr, 'q'},         {"check", no_argument, nullptr, 'c'},
+        {"list", no_argument, nullptr, 'n'},          {}};
     Options options;
     for (int letter = 0; (letter = getopt_long(argc, argv, "", known, nullptr)) != -1;) {
         switch (letter) {
@@ -58,6 +58,9 @@ Options parse(int argc, char **argv) {
             break;
         case 'p':
             options.peers = optarg;
+            break;
+        case 't':
+            options.target = optarg;
             break;
         case 'f':
             options.filter = optarg;
@@ -96,7 +99,7 @@ int run(const Options &options) {
     }
     const Library library(options.measured);
     const auto beside = options.beside.empty() ? nullptr : std::make_unique<Library>(options.beside);
-    Results results(options.json, options.measured, options.beside, options.peers);
+    Results results(options.json, options.target, options.measured, options.beside, options.peers);
     const auto peers = options.peers == "none" ? nullptr : std::make_unique<Library>(options.peers);
     const PeerTable table(peers.get());
     for (const Row &row : rows) {

@@ -50,6 +50,7 @@ struct Member {
     std::size_t elementBytes;
     std::size_t n; // length or order in the name; 0 in run-time forms
     bool isArray;  // one call serves all objects
+    bool departs;  // writes other values than its row
     const OperandKind *operands;
     std::size_t operandCount;
     const Argument *arguments;

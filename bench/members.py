@@ -10,6 +10,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "grid"))
 from catalogue import FAMILIES  # noqa: E402
+from departures import DEPARTURES  # noqa: E402
 from generate import members, operand_layout, plan  # noqa: E402
 
 ARRANGEMENT = {"": "Adjacent", "S2": "Adjacent", "P": "Planes", "PS2": "Planes", "L": "List", "LS2": "List"}
@@ -20,6 +21,12 @@ SHAPE = {"v": "v", "m": "m", "s": "s"}
 def is_array(member):
     """Whether one call serves many objects: only object 0 of LoadIdentity becomes an identity, so it is called for each."""
     return member.row.is_array and member.row.family != "identity"
+
+
+def departs(member):
+    """Whether it writes other values than its row does, whatever its operands are: no peer does."""
+    departure = DEPARTURES.get(member.name)
+    return departure is not None and departure.rank == "values" and not departure.when
 
 
 def is_measured(member):
@@ -68,7 +75,7 @@ def main(path):
         types = ", ".join(map(passed_type, arguments))
         entries.append(
             f'    {{"{member.name}", "{member.row.family}", "{member.row.descriptor}", '
-            f'{4 if member.type == "32f" else 8}, {member.size[:1] or 0}, {str(is_array(member)).lower()}, '
+            f'{4 if member.type == "32f" else 8}, {member.size[:1] or 0}, {str(is_array(member)).lower()}, {str(departs(member)).lower()}, '
             f"{operands}, {len(words)}, {given}, {len(arguments)}, callEach<{types}>}},\n"
         )
     lines = [

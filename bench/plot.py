@@ -1,4 +1,4 @@
-"""The plot of docs/benchmarks.md: how the ratios of each group of rows are spread."""
+"""The plot of docs/benchmarks.md: how the ratios of each group of rows are spread, a panel for each build."""
 
 import matplotlib
 
@@ -8,37 +8,41 @@ from matplotlib import pyplot  # noqa: E402
 
 from results import groups  # noqa: E402
 
-COLOURS = ("#3465a4", "#c17d11")
+
+def draw_build(axes, run, names):
+    members = {name: [row.ratio for row in rows if row.ratio] for name, rows in groups(run["rows"])}
+    boxes = axes.boxplot(
+        [members.get(name, []) for name in names],
+        positions=[-place for place in range(len(names))],
+        vert=False,
+        widths=0.6,
+        whis=(5, 95),
+        showfliers=False,
+        patch_artist=True,
+        manage_ticks=False,
+        medianprops={"color": "black"},
+    )
+    for box in boxes["boxes"]:
+        box.set(facecolor="#3465a4", alpha=0.7)
+    axes.axvline(1, color="black", linewidth=1)
+    axes.set_xscale("log")
+    axes.set_xlim(0.05, 5)
+    axes.set_ylim(0.6 - len(names), 0.6)
+    ticks = (0.1, 0.2, 0.5, 1, 2)
+    axes.set_xticks(ticks, map(str, ticks))
+    axes.minorticks_off()
+    axes.grid(axis="x", alpha=0.3)
+    axes.set_title(run["target"], fontsize=11)
 
 
 def draw(runs, path):
     names = [name for name, _ in groups(runs[0]["rows"])]
-    figure, axes = pyplot.subplots(figsize=(9, 0.42 * len(names) + 1.2))
-    for number, (run, colour) in enumerate(zip(runs, COLOURS)):
-        members = dict(groups(run["rows"]))
-        places = [-place + 0.18 - 0.36 * number for place in range(len(names))]
-        ratios = [[row.ratio for row in members.get(name, ()) if row.ratio] for name in names]
-        boxes = axes.boxplot(
-            ratios,
-            positions=places,
-            vert=False,
-            widths=0.3,
-            whis=(5, 95),
-            showfliers=False,
-            patch_artist=True,
-            manage_ticks=False,
-        )
-        for box in boxes["boxes"]:
-            box.set(facecolor=colour, alpha=0.7)
-        axes.plot([], [], color=colour, linewidth=6, alpha=0.7, label=run["target"])
-    axes.axvline(1, color="black", linewidth=1)
-    axes.set_xscale("log")
-    ticks = (0.1, 0.2, 0.5, 1, 2, 5, 10)
-    axes.set_xticks(ticks, map(str, ticks))
-    axes.minorticks_off()
-    axes.set_yticks([-place for place in range(len(names))], names)
-    axes.set_xlabel("own time over the fastest peer's: median, half of the rows, nine tenths of the rows")
-    axes.grid(axis="x", alpha=0.3)
-    axes.legend(loc="lower right")
+    figure, panels = pyplot.subplots(
+        1, len(runs), sharey=True, squeeze=False, figsize=(2.2 + 2.4 * len(runs), 0.28 * len(names) + 1.2)
+    )
+    for axes, run in zip(panels[0], runs):
+        draw_build(axes, run, names)
+    panels[0][0].set_yticks([-place for place in range(len(names))], names)
+    figure.supxlabel("own time over the fastest peer's: median, half of the rows, nine tenths of the rows", fontsize=10)
     figure.tight_layout()
-    figure.savefig(path, metadata={"Date": None})
+    figure.savefig(path, metadata={"Date": None} if str(path).endswith("svg") else None)

@@ -23,12 +23,12 @@ void writeField(std::ostream &out, const char *name, const std::string &value) {
 
 } // namespace
 
-Results::Results(const std::string &json, const std::string &library, const std::string &beside,
-                 const std::string &peers) {
+Results::Results(const std::string &json, const std::string &target, const std::string &library,
+                 const std::string &beside, const std::string &peers) {
     if (!json.empty()) {
         file_.open(json);
         file_ << "{\n";
-        writeField(file_, "target", ZELM_BENCH_TARGET);
+        writeField(file_, "target", target);
         writeField(file_, "processor", processorName());
         writeField(file_, "compiler", ZELM_BENCH_COMPILER);
         writeField(file_, "flags", ZELM_BENCH_FLAGS);

@@ -11,8 +11,8 @@ namespace zelmbench {
 class Results {
 public:
     // `json` may be empty.
-    Results(const std::string &json, const std::string &library, const std::string &beside,
-            const std::string &peers);
+    Results(const std::string &json, const std::string &target, const std::string &library,
+            const std::string &beside, const std::string &peers);
 
     void add(const Row &row, const Figures &figures);
     // Whether every peer computed what the library computed.

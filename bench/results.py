@@ -7,7 +7,7 @@ from itertools import groupby
 from pathlib import Path
 
 OWN, BESIDE = "zelm", "beside"
-SLOWER = 1.05
+SLOWER, SLOWER_SINGLE = 1.05, 1.15
 NAME = re.compile(r"zelm([A-Za-z0-9]+)_([a-zA-Z]+)_(?:32f|64f)(?:_\dx\d)?(?:_(\w+))?(?:/(\d+x\d+))?/(single|\d+)$")
 SOLVERS = {
     "Det": "determinant",
@@ -16,14 +16,15 @@ SOLVERS = {
     "Ch": "Cholesky, with solver",
     "QR": "QR, with solver",
 }
+LAYOUTS = ("standard", "S2", "P", "PS2", "L", "LS2")
 
 
 class Row:
     def __init__(self, name, nanoseconds):
         self.name, self.own, self.beside = name, nanoseconds[OWN], nanoseconds.get(BESIDE)
-        peers = {peer: ns for peer, ns in nanoseconds.items() if peer not in (OWN, BESIDE)}
-        self.peer = min(peers, key=peers.get) if peers else None
-        self.peer_ns = peers.get(self.peer)
+        self.peers = {peer: ns for peer, ns in nanoseconds.items() if peer not in (OWN, BESIDE)}
+        self.peer = min(self.peers, key=self.peers.get) if self.peers else None
+        self.peer_ns = self.peers.get(self.peer)
         self.ratio = self.own / self.peer_ns if self.peer else None
         self.operation, self.descriptor, layout, size, objects = NAME.match(name).groups()
         self.is_single, self.is_run_time = objects == "single", size is not None
@@ -33,6 +34,11 @@ class Row:
         self.layout = {"S": "S2", "P": "PS2", "L": "LS2"}[layout[0]] if lettered else layout or "standard"
 
     @property
+    def limit(self):
+        """The ratio that a row should not be above."""
+        return SLOWER_SINGLE if self.is_single else SLOWER
+
+    @property
     def subject(self):
         op, descriptor = self.operation, self.descriptor
         if op in ("Copy", "Extract", "LoadIdentity", "Transpose"):
@@ -40,7 +46,7 @@ class Row:
         if op in ("Add", "Sub", "Saxpy", "LComb") or op == "Mul" and "c" in descriptor:
             return "element-wise"
         if op in ("Mul", "Gaxpy"):
-            return "products by vectors" if "v" in descriptor else "matrix products"
+            return "products by vectors" if "v" in descriptor or op == "Gaxpy" else "matrix products"
         if op in ("DotProduct", "CrossProduct", "L2Norm", "FrobNorm", "Trace"):
             return "dot, cross, norms, traces"
         return SOLVERS.get(op) or SOLVERS[op[:2]]
@@ -51,33 +57,57 @@ def peer_ratio(row):
 
 
 def beside_ratio(row):
-    return row.own / row.beside if row.beside else 0
+    return row.own / row.beside if row.beside else None
 
 
 def mean(ratios):
     return math.exp(sum(map(math.log, ratios)) / len(ratios))
 
 
-def above(ratios):
-    return sum(ratio > SLOWER for ratio in ratios)
+def above(rows, ratio=peer_ratio):
+    return sum(ratio(row) > row.limit for row in rows)
+
+
+def changes(rows, before):
+    """How much longer each row takes than in an older run, and its row there.
+
+    A peer that was measured in both runs is the measure: the machine may have been faster or slower. Where there is none,
+    times are compared.
+    """
+    then = {row.name: row for row in before}
+    for row in rows:
+        if old := then.get(row.name):
+            same = old.peer in row.peers
+            yield row.own / old.own * (old.peer_ns / row.peers[old.peer] if same else 1), row, old
+
+
+def columns(rows):
+    """Rows by how they are called: arrays in each layout, single calls, run-time sizes, all."""
+    arrays = [row for row in rows if not row.is_single]
+    return {
+        **{layout: [row for row in arrays if row.layout == layout] for layout in LAYOUTS},
+        "single": [row for row in rows if row.is_single],
+        "run-time": [row for row in rows if row.is_run_time],
+        "all": rows,
+    }
+
+
+def subjects(rows):
+    """The same rows by what they compute."""
+    return {name: [row for row in rows if row.subject == name] for name in dict.fromkeys(row.subject for row in rows)}
 
 
 def groups(rows):
-    """Name and rows of each group of which a summary gives the mean."""
-    large = [row for row in rows if row.is_large]
-    rows = [row for row in rows if not row.is_large]
-    arrays = [row for row in rows if not row.is_single]
+    """Name and rows of each group that the plot shows."""
+    small = [row for row in rows if not row.is_large]
+    by_column = columns(small)
     named = [
-        ("all", rows),
-        ("arrays: P, PS2, L, LS2, S2", [row for row in arrays if row.layout != "standard"]),
-        *(
-            (f"arrays: {layout}", [row for row in arrays if row.layout == layout])
-            for layout in ("standard", "S2", "P", "PS2", "L", "LS2")
-        ),
-        ("single calls", [row for row in rows if row.is_single]),
-        ("run-time sizes", [row for row in rows if row.is_run_time]),
-        *((subject, [row for row in rows if row.subject == subject]) for subject in dict.fromkeys(row.subject for row in rows)),
-        ("1,000,000 objects", large),
+        ("all", small),
+        *((f"arrays: {layout}", by_column[layout]) for layout in LAYOUTS),
+        ("single calls", by_column["single"]),
+        ("run-time sizes", by_column["run-time"]),
+        *subjects(small).items(),
+        ("1,000,000 objects", [row for row in rows if row.is_large]),
     ]
     return [(name, members) for name, members in named if members]
 

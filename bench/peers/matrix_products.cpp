@@ -26,23 +26,26 @@ struct Product : KernelTraits {
         }
     }
 
-    // Everything is read before anything is written, so that nothing is read twice.
+    // Everything is read before anything is written, so that nothing is read twice. The attributes: where a
+    // file has many of them, g++ calls the inner functions, and takes no objects side by side.
     template <class T, std::size_t n>
-    static void sideBySide(Unrolled<n> order, const auto &a, const auto &b, auto d) {
+    static void sideBySide(Unrolled<n>, const auto &a, const auto &b, auto d) {
         T left[n][n], right[n][n];
-        each(order, [&](std::size_t i) {
-            each(order, [&](std::size_t j) {
-                left[i][j] = a(i, j);
-                right[i][j] = b(i, j);
-            });
-        });
-        each(order, [&](std::size_t i) {
-            each(order, [&](std::size_t j) {
-                T sum = 0;
-                each(order, [&](std::size_t t) { sum += left[i][t] * right[t][j]; });
-                d(i, j) = sum;
-            });
-        });
+        const auto read = [&](std::size_t i, std::size_t j) __attribute__((always_inline)) {
+            left[i][j] = a(i, j);
+            right[i][j] = b(i, j);
+        };
+        const auto multiply = [&](std::size_t i, std::size_t j) __attribute__((always_inline)) {
+            T sum = 0;
+            each(
+                Unrolled<n>{}, [&](std::size_t t)
+                                   __attribute__((always_inline)) { sum += left[i][t] * right[t][j]; });
+            d(i, j) = sum;
+        };
+        each(
+            Unrolled<n * n>{}, [&](std::size_t e) __attribute__((always_inline)) { read(e / n, e % n); });
+        each(
+            Unrolled<n * n>{}, [&](std::size_t e) __attribute__((always_inline)) { multiply(e / n, e % n); });
     }
 };
 

@@ -71,16 +71,43 @@ void copyByObjects(const Problem &problem) {
 }
 
 template <class T, Place from>
+[[gnu::always_inline]] inline void extractTransposedOne(const Operand &src, const Operand &dst, std::size_t n,
+                                                        std::size_t k) {
+    for (std::size_t i = 0; i < n; ++i) {
+#pragma GCC ivdep
+        for (std::size_t j = 0; j < n; ++j) {
+            at<T, Place::Adjacent>(dst, n * n, k, i * n + j) = at<T, from>(src, n * n, k, j * n + i);
+        }
+    }
+}
+
+template <class T, Place from>
 void extractTransposed(const Problem &problem) {
     const Operand src = problem.src1, dst = problem.dst;
     const std::size_t n = problem.n, count = problem.count;
     for (std::size_t k = 0; k < count; ++k) {
-        for (std::size_t i = 0; i < n; ++i) {
+        extractTransposedOne<T, from>(src, dst, n, k);
+    }
+}
+
+// A call for each object.
+template <class T, Place from, bool isMatrix, bool isTransposed>
+[[gnu::noinline]] void extractOne(Operand src, Operand dst, std::size_t n, std::size_t k) {
+    if constexpr (isTransposed) {
+        extractTransposedOne<T, from>(src, dst, n, k);
+    } else {
+        const std::size_t elements = isMatrix ? n * n : n;
 #pragma GCC ivdep
-            for (std::size_t j = 0; j < n; ++j) {
-                at<T, Place::Adjacent>(dst, n * n, k, i * n + j) = at<T, from>(src, n * n, k, j * n + i);
-            }
+        for (std::size_t e = 0; e < elements; ++e) {
+            at<T, Place::Adjacent>(dst, elements, k, e) = at<T, from>(src, elements, k, e);
         }
+    }
+}
+
+template <class T, Place from, bool isMatrix, bool isTransposed>
+void extractEach(const Problem &problem) {
+    for (std::size_t k = 0; k < problem.count; ++k) {
+        extractOne<T, from, isMatrix, isTransposed>(problem.src1, problem.dst, problem.n, k);
     }
 }
 
@@ -166,9 +193,9 @@ private:
         }
         if constexpr (from != Place::List) {
             const std::string single = from == Place::Adjacent ? "_S2" : "_P";
-            add("Extract", "v", single, "loops", &copyByObjects<T, from, Place::Adjacent, false>);
-            add("Extract", "m", single, "loops", &copyByObjects<T, from, Place::Adjacent, true>);
-            add("Extract", "mT", single, "loops", &extractTransposed<T, from>, from != Place::Planes);
+            add("Extract", "v", single, "loops", &extractEach<T, from, false, false>);
+            add("Extract", "m", single, "loops", &extractEach<T, from, true, false>);
+            add("Extract", "mT", single, "loops", &extractEach<T, from, true, true>, from != Place::Planes);
         }
     }
 

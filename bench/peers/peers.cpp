@@ -6,6 +6,8 @@ extern "C" const std::vector<Peer> &zelmBenchPeers() {
     static const std::vector<Peer> all = [] {
         std::vector<Peer> peers;
         addDecompositionPeers(peers);
+        addEigenProductPeers(peers);
+        addEigenSolverPeers(peers);
         addEigenVectorPeers(peers);
         addCglmPeers(peers);
         addGlmPeers(peers);
