@@ -108,21 +108,57 @@ ZELM_INLINE bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Re
 
 constexpr std::uint32_t kStretch = 64;
 
+struct Extremes {
+    Address lowest, highest;
+};
+
+// Of the entries from first to before last.
+template <typename List>
+ZELM_INLINE Extremes extremesOf(const List &list, std::uint32_t first, std::uint32_t last) {
+    std::uint32_t k = first;
+    Extremes of = {addressOf(list.table[k]), addressOf(list.table[k])};
+    if constexpr (kWidestBytes > kBlockBytes) {
+        // As signed numbers, which these processors compare in packs: no object lies in the upper half.
+        typedef std::int64_t Entries __attribute__((vector_size(kWidestBytes), aligned(8), may_alias));
+        constexpr unsigned lanes = kWidestBytes / 8;
+        if (last - first >= lanes) {
+            const auto entriesAt = [&](std::uint32_t at) __attribute__((always_inline)) {
+                return *reinterpret_cast<const Entries *>(list.table + at);
+            };
+            Entries lowest = entriesAt(k), highest = lowest;
+            for (k += lanes; last - k >= lanes; k += lanes) {
+                const Entries entries = entriesAt(k);
+                lowest = entries < lowest ? entries : lowest;
+                highest = entries > highest ? entries : highest;
+            }
+            std::int64_t low = lowest[0], high = highest[0];
+            for (unsigned lane = 1; lane < lanes; ++lane) {
+                low = lowest[lane] < low ? lowest[lane] : low;
+                high = highest[lane] > high ? highest[lane] : high;
+            }
+            if (low < 0)
+                return {0, 0};
+            of = {static_cast<Address>(low), static_cast<Address>(high)};
+        }
+    }
+    for (; k < last; ++k) {
+        const Address entry = addressOf(list.table[k]);
+        of.lowest = entry < of.lowest ? entry : of.lowest;
+        of.highest = entry > of.highest ? entry : of.highest;
+    }
+    return of;
+}
+
 // The starts of the objects from first to before last of a list, the lowest and the highest. Unknown where an
 // entry among them is null, or comes to null by its shift.
 template <typename List>
 ZELM_INLINE Range startsOfStretch(const List &list, std::uint32_t first, std::uint32_t last) {
-    Address lowest = addressOf(list.table[first]), highest = lowest;
-    for (std::uint32_t k = first + 1; k < last; ++k) {
-        const Address entry = addressOf(list.table[k]);
-        lowest = entry < lowest ? entry : lowest;
-        highest = entry > highest ? entry : highest;
-    }
+    const Extremes of = extremesOf(list, first, last);
     const std::int64_t shift = signedDistance(list.shift);
-    const std::int64_t low = rangeFrom(lowest, 0).low + shift, high = rangeFrom(highest, 0).low + shift;
+    const std::int64_t low = rangeFrom(of.lowest, 0).low + shift, high = rangeFrom(of.highest, 0).low + shift;
     // An entry that a positive shift brings to null is the highest of all numbers, and negative as a
     // distance.
-    if (lowest == 0 || low <= 0 || high < low)
+    if (of.lowest == 0 || low <= 0 || high < low)
         return {-1, -1};
     return {low, high};
 }
@@ -149,7 +185,8 @@ ZELM_INLINE Range rangeOfStretch(const Touched &touched, std::uint32_t first, st
 }
 
 // Whether the objects of a list miss a range of bytes: whether all entries lie in a window, the first one
-// deciding whether that is the one above the range or the one below it. No null entry lies in either.
+// deciding whether that is the one above the range or the one below it. No null entry lies in either. Entry
+// by entry that is one comparison, where their extremes take two.
 template <typename S>
 ZELM_INLINE bool listMisses(const Source<S> &s, const Range &target, std::uint32_t first,
                             std::uint32_t last) {
@@ -173,7 +210,7 @@ ZELM_INLINE bool listMisses(const Source<S> &s, const Range &target, std::uint32
 template <typename S>
 ZELM_INLINE bool stretchMisses(const Source<S> &s, const Range &target, std::uint32_t first,
                                std::uint32_t last) {
-    if constexpr (S::isList) {
+    if constexpr (S::isList && kWidestBytes == kBlockBytes) {
         return listMisses(s, target, first, last);
     } else {
         const Range source = rangeOfStretch(s, first, last);
@@ -240,26 +277,42 @@ ZELM_INLINE bool tablesAreApart(std::uint32_t first, std::uint32_t last, const R
 // own.
 template <typename D>
 ZELM_INLINE bool resultsAscend(const Result<D> &d, std::uint32_t first, std::uint32_t last) {
-    bool ascend = true;
     if constexpr (D::isList) {
         const Address bytes = extentOf(d.operand, d.rows, d.columns).bytes;
         for (std::uint32_t k = first + 1; k < last; ++k) {
             const Address before = addressOf(d.operand.table[k - 1]), here = addressOf(d.operand.table[k]);
-            ascend &= here >= before && here - before >= bytes;
+            if (here < before || here - before < bytes)
+                return false;
         }
     }
-    return ascend;
+    return true;
 }
 
 // Whether a group's results lie apart from each other.
 template <unsigned lanes, typename D>
 ZELM_INLINE bool resultsAreApart(const Result<D> &d, std::uint32_t k) {
-    if constexpr (D::isList) {
-        const Extent written = extentOf(d.operand, d.rows, d.columns);
-        return areApartFromEachOther(lowestOf<lanes>(d.operand, written, k), written.bytes);
-    } else {
+    const Extent written = extentOf(d.operand, d.rows, d.columns);
+    return areApartFromEachOther(lowestOf<lanes>(d.operand, written, k), written.bytes);
+}
+
+template <unsigned lanes, typename D>
+__attribute__((noinline)) bool farResultsAreApart(const Result<D> &d, std::uint32_t k) {
+    return resultsAreApart<lanes>(d, k);
+}
+
+// The same; `near`: whether all of the stretch lie near each other.
+template <unsigned lanes, typename D>
+ZELM_INLINE bool resultsAreApart(const Result<D> &d, std::uint32_t k, bool near) {
+    if constexpr (!D::isList)
         return true;
-    }
+    else if constexpr (lanes < 4)
+        return resultsAreApart<lanes>(d, k);
+    else if (near)
+        return nearOnesAreApart<lanes>(
+            lowerHalvesOf<lanes>(d.operand.table + k),
+            static_cast<std::uint32_t>(extentOf(d.operand, d.rows, d.columns).bytes));
+    else
+        return farResultsAreApart<lanes>(d, k);
 }
 
 template <typename Operand>
@@ -381,9 +434,10 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
         const bool lasting = grouped && tablesAreApart(first, last, target, buffer, d.operand, s.operand...);
         const bool apart = lasting && stretchIsApart(first, last, target, buffer, s...);
         const bool ascend = lasting && resultsAscend(d, first, last);
+        const bool near = lasting && target.high - target.low < kNear;
         const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
-            return (ascend || resultsAreApart<lanes>(d, k)) &&
+            return (ascend || resultsAreApart<lanes>(d, k, near)) &&
                    (apart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);
         };
         if (ZelmStatus status = runObjects<V>(first, last, grouped, guarded, one, s.operand..., d.operand);

@@ -7,6 +7,9 @@
 #pragma once
 
 #include "frame/operands.h"
+#include "frame/shuffles.h"
+
+#include <utility>
 
 namespace zelm::frame {
 
@@ -252,6 +255,73 @@ ZELM_INLINE bool areApartFromEachOther(const Lowest<lanes> &a, Address bytes) {
         for (unsigned other = 0; other < lane; ++other)
             apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
     return apart;
+}
+
+// The same for entries of a list that lie near each other: the lower halves of addresses tell their
+// distances.
+
+constexpr std::int64_t kNear = std::int64_t{1} << 30;
+
+// Unsigned, as their differences are taken modulo the word size.
+template <unsigned lanes>
+struct LowerHalvesType {
+    typedef std::uint32_t type __attribute__((vector_size(4 * lanes)));
+    typedef std::int32_t signedType __attribute__((vector_size(4 * lanes)));
+};
+template <unsigned lanes>
+using LowerHalves = typename LowerHalvesType<lanes>::type;
+template <unsigned lanes>
+using Distances = typename LowerHalvesType<lanes>::signedType;
+
+// In the order of the entries or in another.
+template <unsigned lanes, typename T>
+ZELM_INLINE LowerHalves<lanes> lowerHalvesOf(T *const *entries) {
+    using V = Pack<float, 4 * lanes>;
+    const Address at = addressOf(entries);
+    if constexpr (sizeof(Address) == 4)
+        return (LowerHalves<lanes>)loadAs<V>(at);
+    else
+        return (LowerHalves<lanes>)shuffle<0, 2, 0, 2>(loadAs<V>(at), loadAs<V>(at + sizeof(V)));
+}
+
+template <unsigned by, unsigned lanes, std::size_t... lane>
+ZELM_INLINE LowerHalves<lanes> rotated(LowerHalves<lanes> a, std::index_sequence<lane...>) {
+    return __builtin_shufflevector(a, a, ((lane + by) % lanes)...);
+}
+
+template <unsigned lanes>
+ZELM_INLINE bool allExceed(Distances<lanes> a, Distances<lanes> b) {
+    const Distances<lanes> exceeds = a > b;
+    if constexpr (lanes == 4)
+        return _mm_movemask_epi8((__m128i)exceeds) == 0xffff;
+#if defined(__AVX2__)
+    else if constexpr (lanes == 8)
+        return _mm256_movemask_epi8((__m256i)exceeds) == -1;
+#endif
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+    else
+        return _mm512_cmpgt_epi32_mask((__m512i)a, (__m512i)b) == 0xffff;
+#endif
+}
+
+// Whether objects lie apart from each other whose bytes all lie within kNear. Each lane with as many behind
+// it as make up all pairs: two objects overlap where -bytes < distance < bytes, which is one comparison once
+// that range is moved to the lowest of all numbers.
+template <unsigned lanes>
+ZELM_INLINE bool nearOnesAreApart(LowerHalves<lanes> starts, std::uint32_t bytes) {
+    constexpr std::uint32_t lowest = std::uint32_t{1} << 31;
+    constexpr auto all = std::make_index_sequence<lanes>();
+    const LowerHalves<lanes> moved = starts + (lowest + (bytes - 1));
+    Distances<lanes> least = (Distances<lanes>)(moved - rotated<1, lanes>(starts, all));
+    const auto take = [&](LowerHalves<lanes> others) __attribute__((always_inline)) {
+        const auto distances = (Distances<lanes>)(moved - others);
+        least = distances < least ? distances : least;
+    };
+    [&]<std::size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+        (take(rotated<i + 2, lanes>(starts, all)), ...);
+    }
+    (std::make_index_sequence<lanes / 2 - 1>());
+    return allExceed<lanes>(least, (Distances<lanes>)(LowerHalves<lanes>{} + (lowest + 2 * (bytes - 1))));
 }
 
 template <unsigned lanes>
