@@ -1,365 +1,239 @@
 #!/usr/bin/env python3
-"""How many wrong kernels the tests notice: changes one line of a kernel at a time and runs the tests on the result.
+"""How many wrong kernels and wrong catalogues the tests notice: changes one place of a source at a time.
 
-    mutate.py [--build build/t7] [--count 250] [--seed 1] [--only FILE[:LINE]] [--thorough] [--list]
+    mutate.py run [SUBSYSTEM...] [--build build/x64] [--count N] [--minutes M] [--per-unit 2] [--seed 1]
+    mutate.py prepare [SUBSYSTEM...]   only compiles what a run needs
+    mutate.py report              the counts so far, survivors that the list doesn't have, listed ones that are killed now
+    mutate.py list SUBSYSTEM      what could be tried
 
-Needs a finished build. The work lies in BUILD/mutation: a copy of the kernels, and the library compiled without
-optimisation. A mutation is compiled in the units that hold code of its line, so that the answer takes seconds; what
-the conformance test (with a fifth of its usual cases) or the edge cases report, a crash and a timeout count as caught. Mutations
-that don't compile, or that leave every object file as it was, don't count.
+Needs a finished build. A run may be stopped at any time, and goes on where it was stopped: its results lie in
+BUILD/mutation/state.json, until a source of the subsystem changes. README.md says how it works.
 """
 
 import argparse
+import hashlib
 import json
-import os
 import random
 import re
-import shlex
-import shutil
-import subprocess
+import os
 import sys
-from collections import Counter
-from concurrent.futures import ThreadPoolExecutor
-from dataclasses import dataclass
+import time
 from pathlib import Path
 
-SOURCE = Path(__file__).resolve().parents[2]
-FOLDERS = ("frame", "elementwise", "vector", "products", "solvers", "movement")
-COPIED = FOLDERS + ("include",)
-TIMEOUT = 300  # seconds
-CASES = 60
-NAME = r"[A-Za-z_]\w*"
+sys.dont_write_bytecode = True
 
-# (kind, pattern, what may stand there instead); the formatting tells an operator from a template's bracket.
-CHANGES = (
-    ("operator", r" \+ ", (" - ",)),
-    ("operator", r" - ", (" + ",)),
-    ("operator", r" \* ", (" + ", " / ")),
-    ("operator", r" / ", (" * ",)),
-    ("operator", r" % ", (" / ",)),
-    ("operator", r" \+= ", (" -= ",)),
-    ("operator", r" -= ", (" += ",)),
-    ("operator", r" \*= ", (" += ",)),
-    ("operator", r"(?<=[(= ])-(?=[A-Za-z(])", ("",)),
-    ("comparison", r" < ", (" <= ", " > ")),
-    ("comparison", r" <= ", (" < ",)),
-    ("comparison", r" > ", (" >= ", " < ")),
-    ("comparison", r" >= ", (" > ",)),
-    ("comparison", r" == ", (" != ",)),
-    ("comparison", r" != ", (" == ",)),
-    ("comparison", r"!(?=[A-Za-z(])", ("",)),
-    ("condition", r" && ", (" || ",)),
-    ("condition", r" \|\| ", (" && ",)),
-    ("constant", r"(?<![\w.<])\d+(?![\w.>])", ("+1", "-1")),
-    ("dropped check", r"return (?:ZELM_ERR_\w+|status);", (";",)),
-    ("dropped statement", rf"^\s+(?:store|storePack|copyElement|{NAME}(?:\.\w+)*\()[^;{{}}]*\);$", (";",)),
-    ("exchange", rf"\(({NAME}), ({NAME})([,)])", (r"(\2, \1\3",)),
-    ("exchange", r"\browStride\b", ("elemStride",)),
-    ("exchange", r"\belemStride\b", ("rowStride",)),
-    ("exchange", r"\bobjStride\b", ("rowStride",)),
-    ("exchange", r"\bwidth\b", ("height",)),
-    ("exchange", r"\bheight\b", ("width",)),
-    ("exchange", r"\brow\b", ("column",)),
-    ("exchange", r"\bcolumn\b", ("row",)),
-    (
-        "order of a sum",
-        rf"\(({NAME}(?:\[[^][]*\])?) \+ ({NAME}(?:\[[^][]*\])?)\) \+ ({NAME}(?:\[[^][]*\])?)",
-        (r"\1 + (\2 + \3)", r"(\1 + \3) + \2"),
-    ),
-)
+import generator
+import survivors
+from build import CASES, SOURCE, SUBSYSTEMS, Switched, all_mutations, call, files_of
+
+EVERYTHING = (*SUBSYSTEMS, "grid")
+MORE_CASES = 600
+# The suites of the edge cases that call a subsystem's functions, beside those of all array forms.
+EDGE_CASES = {
+    "frame": "*",
+    "elementwise": "*AddSub*:*Scaling*:*Saxpy*:*LComb*:*Addressing*:*Checks*:*Vector*:*Matrix*",
+    "movement": "*Copy*:*Extract*:*LoadIdentity*:*Movement*:*Transpose*:*Planes*",
+    "vector": "*Dot*:*Cross*:*Norm*:*Trace*:*Vector*",
+    "products": "*Product*:*Gaxpy*:*Matrix*",
+    "solvers": "*LU*:*Lu*:*QR*:*Qr*:*Cholesky*:*Invers*:*Invert*:*Det*",
+}
 
 
-@dataclass(frozen=True)
-class Mutation:
-    file: str
-    line: int
-    kind: str
-    before: str
-    after: str
-
-
-def code_lines(path):
-    """(number, text) of the lines that compute something."""
-    for number, text in enumerate(path.read_text().splitlines(), 1):
-        code = text.split("//")[0].rstrip()
-        # Parameter lists of templates and unrolling are no arithmetic.
-        if (
-            code.strip()
-            and not re.match(r"\s*(#|template|static_assert|using |namespace |struct |ZELM_INLINE [^=]*\)( const)? \{$)", code)
-            and "__builtin_expect" not in code
-        ):
-            yield number, code
-
-
-def mutations_of(path):
-    file = str(path.relative_to(SOURCE))
-    for number, code in code_lines(path):
-        for kind, pattern, substitutes in CHANGES:
-            for found in re.finditer(pattern, code):
-                for substitute in substitutes:
-                    if kind == "constant":
-                        value = int(found[0]) + int(substitute)
-                        new = str(value)
-                        if value < 0:
-                            continue
-                    else:
-                        new = found.expand(substitute)
-                    after = code[: found.start()] + new + code[found.end() :]
-                    if after != code:
-                        yield Mutation(file, number, kind, code, after)
-
-
-def choose(options):
-    """Mutations of all kernels: each file has its share by its length, at least three, each line at most two."""
-    draw = random.Random(options.seed)
-    file, _, line = (options.only or "").partition(":")
-    pools = {}
-    for folder in FOLDERS:
-        for path in sorted((SOURCE / folder).rglob("*.h")) + sorted((SOURCE / folder).rglob("*.cpp")):
-            pool = [m for m in mutations_of(path) if m.file.startswith(file) and (not line or m.line == int(line))]
-            draw.shuffle(pool)
-            per_line = Counter()
-            kept = []
-            for mutation in pool:
-                per_line[mutation.line] += 1
-                if line or per_line[mutation.line] <= 2:
-                    kept.append(mutation)
-            if kept:
-                pools[path] = kept
-    lengths = {path: sum(1 for _ in code_lines(path)) for path in pools}
-    total = sum(lengths.values())
-    return {path: (pools[path], max(3, round(options.count * lengths[path] / total))) for path in pools}
-
-
-def same_tree(a, b):
-    files = [path.relative_to(a) for path in a.rglob("*") if path.is_file()]
-    return all((b / file).exists() and (a / file).read_bytes() == (b / file).read_bytes() for file in files)
-
-
-class Library:
-    """The library without optimisation, and the units of it that a mutation changes."""
-
+class State:
     def __init__(self, build):
-        self.build, self.folder = build, build / "mutation"
-        self.copy = self.folder / "source"
-        self.is_current = self.copy.exists() and all(same_tree(SOURCE / name, self.copy / name) for name in COPIED)
-        if not self.is_current:
-            shutil.rmtree(self.folder, ignore_errors=True)
-            for name in COPIED:
-                shutil.copytree(SOURCE / name, self.copy / name)
-        self.commands = {}
-        for entry in json.loads((build / "compile_commands.json").read_text()):
-            if not re.search(r"CMakeFiles/zelm(_objects)?\.dir/", entry["command"]):
-                continue
-            words = [w for w in shlex.split(entry["command"]) if w not in ("-O2", "-Werror") and not w.startswith("-W")]
-            words = words[next(i for i, w in enumerate(words) if "g++" in Path(w).name) : words.index("-o")]
-            words = [w.replace(str(SOURCE / "include"), str(self.copy / "include")) for w in words]
-            words = [f"-I{self.copy}" if w == f"-I{SOURCE}" else w for w in words]
-            source = Path(entry["file"])
-            if build not in source.parents:
-                source = self.copy / source.relative_to(SOURCE)
-            name = re.sub(r"\W", "_", str(source.relative_to(build)))
-            self.commands[name] = [*words, "-O0", "-g1", "-w", "-c", str(source), "-o"]
+        self.path = build / "mutation" / "state.json"
+        self.all = json.loads(self.path.read_text()) if self.path.exists() else {}
 
-    def compile(self, names, folder, jobs=1):
-        """True if all compile."""
-        folder.mkdir(parents=True, exist_ok=True)
+    def results(self, subsystem):
+        """{key: result}, empty if the sources are no longer those that were tried."""
+        files = [SOURCE / "grid" / name for name in generator.FILES] if subsystem == "grid" else files_of(subsystem)
+        digest = hashlib.sha256(b"".join(p.read_bytes() for p in files)).hexdigest()
+        mine = self.all.setdefault(subsystem, {"sources": digest, "results": {}, "seconds": 0, "left": {}})
+        if mine["sources"] != digest:
+            mine.update(sources=digest, results={}, seconds=0, left={})
+        return mine["results"]
 
-        def one(name):
-            return (
-                subprocess.run(
-                    [*self.commands[name], str(folder / f"{name}.o"), "-MD"],
-                    stdout=subprocess.DEVNULL,
-                    stderr=subprocess.DEVNULL,
-                ).returncode
-                == 0
-            )
-
-        with ThreadPoolExecutor(jobs) as pool:
-            return all(pool.map(one, names))
-
-    def prepare(self, jobs):
-        base, finished = self.folder / "base", self.folder / "finished"
-        current = self.is_current and finished.exists()
-        if not current and not self.compile(list(self.commands), base, jobs):
-            sys.exit("the library does not compile")
-        self.symbols = {name: self.symbols_of(base / f"{name}.o") for name in self.commands}
-        if not current:
-            if by := noticed(self, ["mutation_source_frame_version_cpp"], base):
-                sys.exit(f"the unchanged library fails: {by}")
-            lines = {name: sorted(self.lines_in(base / f"{name}.o")) for name in self.commands}
-            finished.write_text(json.dumps(lines))
-        self.lines = {name: set(map(tuple, lines)) for name, lines in json.loads(finished.read_text()).items()}
-        self.includes = {name: (base / f"{name}.d").read_text() for name in self.commands}
-
-    def lines_in(self, unit):
-        """The (file, line) pairs that the unit holds code of."""
-        dump = subprocess.run(["objdump", "--dwarf=decodedline", unit], stdout=subprocess.PIPE, text=True).stdout
-        rows = (text.split() for text in dump.splitlines())
-        return {(row[0], int(row[1])) for row in rows if len(row) > 2 and row[1].isdigit()}
-
-    def units_of(self, mutation):
-        """The units to compile, the cheapest first: those with code of the line or, if none has any, those that
-        include the file."""
-        base = Path(mutation.file).name
-        with_code = [
-            n
-            for n in self.commands
-            if (base, mutation.line) in self.lines[n] and str(self.copy / mutation.file) in self.includes[n]
-        ]
-        units = with_code or [n for n in self.commands if str(self.copy / mutation.file) in self.includes[n]]
-        return sorted(units, key=lambda n: (self.folder / "base" / f"{n}.o").stat().st_size)
-
-    def link(self, changed, folder, target, whole):
-        """The changed units with what all units need, or with all others. False if that fails."""
-        others = [n for n in self.commands if n not in changed and (whole or not n.startswith("generated_"))]
-        objects = [folder / f"{n}.o" for n in changed]  # first: of an inline function the first definition is taken
-        objects += [self.folder / "base" / f"{n}.o" for n in others]
-        flags = [f for f in self.commands[changed[0]] if f in ("-m32", "-m64")] + ["-shared", "-nostdlib", "-Wl,-Bsymbolic"]
-        target.parent.mkdir(parents=True, exist_ok=True)
-        return (
-            subprocess.run(
-                ["g++", *flags, "-o", target, *objects], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
-            ).returncode
-            == 0
-        )
-
-    def names_in(self, units):
-        """A filter for the conformance test: the functions that the units export, or that call them."""
-        callers, before = set(units), set()
-        while callers != before:
-            before = set(callers)
-            defined = set().union(*(self.symbols[unit][0] for unit in callers if not unit.startswith("generated_")))
-            callers |= {unit for unit, (_, used) in self.symbols.items() if not defined.isdisjoint(used)}
-        names = [
-            name
-            for unit in sorted(callers)
-            for name in self.symbols[unit][0]
-            if re.match("zelm[A-Z]|a6_", name) and name != "zelmGetLibVersion"
-        ]
-        return ":".join(f"Grid/Conformance.EqualsTheModel/{name}" for name in names)
-
-    def symbols_of(self, unit):
-        """(defined, used) names."""
-        dump = subprocess.run(["nm", unit], stdout=subprocess.PIPE, text=True).stdout
-        return set(re.findall(r" [TW] (\w+)", dump)), set(re.findall(r" U (\w+)", dump))
+    def save(self):
+        self.path.parent.mkdir(parents=True, exist_ok=True)
+        new = self.path.with_suffix(".new")
+        new.write_text(json.dumps(self.all, indent=0))
+        new.replace(self.path)
 
 
-def fails(command, environment):
+def run_kernels(options, state, subsystem, until):
+    results = state.results(subsystem)
+    library = Switched(options.build, subsystem, options.per_unit, options.seed)
+    library.prepare()
+    reached = library.reach()
+    order = sorted(reached)
+    random.Random(options.seed).shuffle(order)
+    state.all[subsystem]["left"] = {
+        "mutations": len(library.mutations),
+        "that the compiler must know": len(library.mutations) - len(library.switched),
+        "switched, but reached by none of the sampled calls": len(library.switched - reached.keys()),
+        "functions": len(library.names),
+    }
+    left = [n for n in order[: options.count] if library.mutations[n].key not in results]
+    print(f"{subsystem}: {len(reached)} mutations in {len(library.names)} functions, {len(left)} to try", flush=True)
+
+    def attempt(numbers, cases, functions):
+        survived = []
+
+        def note(words):
+            number, result = int(words[0]), words[1]
+            if result == "survived":
+                survived.append(number)
+            else:
+                results[library.mutations[number].key] = result
+            if len(results) % 50 == 0:
+                state.save()
+
+        for first in range(0, len(numbers), 50):
+            if time.time() > until:
+                raise TimeoutError
+            lines = []
+            for n in numbers[first : first + 50]:
+                names = reached[n]
+                random.Random(n).shuffle(names)
+                lines.append(f"{n} {' '.join(names[:functions])}\n")
+            library.judge("try", cases, "".join(lines), note)
+            state.save()
+        return survived
+
+    for n in attempt(attempt(attempt(left, CASES, 6), CASES, 100), MORE_CASES, 24):
+        results[library.mutations[n].key] = "survived the model"
+    state.save()
+    try_edge_cases(
+        options,
+        state,
+        library,
+        [n for n in order if results.get(library.mutations[n].key) == "survived the model"],
+        subsystem,
+        until,
+    )
+
+
+def try_edge_cases(options, state, library, numbers, subsystem, until):
+    """The tests by name take seconds: of what survived the model, only what the list doesn't explain."""
+    results, listed = state.results(subsystem), survivors.read()
+    for n in numbers if options.edge_cases else ():
+        mutation = library.mutations[n]
+        if listed.get(mutation.name, ("untested",))[0] != "untested":
+            continue
+        if time.time() > until:
+            raise TimeoutError
+        results[mutation.key] = "edge cases" if edge_cases_fail(options.build, library, subsystem, n) else "survived"
+        state.save()
+
+
+def edge_cases_fail(build, library, subsystem, number):
+    environment = os.environ | {
+        "LD_LIBRARY_PATH": str(library.target.parent),
+        "ZELM_LIBRARY_PATH": str(library.target),
+        "ZELM_MUTANT": str(number),
+        "ZELM_BATCH_CASES": "1",
+    }
+    command = [
+        build / "tests" / "conformance" / "edge_cases",
+        "--gtest_brief=1",
+        "--gtest_fail_fast",
+        f"--gtest_filter={EDGE_CASES[subsystem]}",
+    ]
     try:
-        done = subprocess.run(
-            command, env=os.environ | environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TIMEOUT
-        )
-        return done.returncode != 0
-    except subprocess.TimeoutExpired:
-        return True
+        return call(command, env=environment, capture_output=True, timeout=900).returncode != 0
+    except Exception as error:  # a hang is noticed as well
+        if "timed out" in str(error):
+            return True
+        raise
 
 
-def noticed(library, units, folder):
-    """What notices the library with these units changed; None if nothing does, 'invalid' if it doesn't link."""
-    target = folder / "lib" / next(library.build.glob("libzelm*.so")).name
-    tests = library.build / "tests" / "conformance"
-    environment = {"ZELM_LIBRARY_PATH": str(target), "LD_LIBRARY_PATH": str(target.parent)}
-    names = library.names_in(units)
-    # A unit without exports, such as the eliminations, has its callers all over the library.
-    small = all(unit.startswith("generated_") for unit in units)
-    if not library.link(units, folder, target, not small):
-        return "invalid"
-    filtered = f"--gtest_filter={names if 0 < len(names) < 100_000 else 'Grid/Conformance.*'}"  # an argument has 128 KB
-    if fails([tests / "conformance", "--gtest_brief=1", "--gtest_fail_fast", f"--cases={CASES}", filtered], environment):
-        return "conformance"
-    if small and not library.link(units, folder, target, True):
-        return "invalid"
-    if fails([tests / "edge_cases", "--gtest_brief=1", "--gtest_fail_fast"], environment):
-        return "edge cases"
-    return None
+def run_generator(options, state, until):
+    results = state.results("grid")
+    mutations = generator.all_mutations()
+    random.Random(options.seed).shuffle(mutations)
+    maker = generator.Generator(options.build)
+    state.all["grid"]["left"] = {"mutations": len(mutations)}
+    for mutation in mutations[: options.count]:
+        if mutation.key in results:
+            continue
+        if time.time() > until:
+            raise TimeoutError
+        results[mutation.key] = maker.judge(mutation)
+        state.save()
 
 
-def changed_units(library, units, folder):
-    """The units whose code differs from the unchanged one."""
-    return [n for n in units if stripped(folder / f"{n}.o") != stripped(library.folder / "base" / f"{n}.o")]
+def run(options, state):
+    until = time.time() + 60 * options.minutes
+    for subsystem in options.subsystems or EVERYTHING:
+        start = time.time()
+        try:
+            if subsystem == "grid":
+                run_generator(options, state, until)
+            else:
+                run_kernels(options, state, subsystem, until)
+        except TimeoutError:
+            print("stopped; the same command goes on")
+            break
+        finally:
+            if subsystem in state.all:
+                state.all[subsystem]["seconds"] += time.time() - start
+                state.save()
+    return report(options, state)
 
 
-def stripped(path):
-    copy = path.with_suffix(".stripped")
-    subprocess.run(["objcopy", "--strip-debug", path, copy], check=True)
-    return copy.read_bytes()
+def prepare(options, _):
+    for subsystem in options.subsystems or SUBSYSTEMS:
+        start = time.time()
+        Switched(options.build, subsystem, options.per_unit, options.seed).prepare()
+        print(f"{subsystem}: prepared in {time.time() - start:.0f} s", flush=True)
+    return 0
 
 
-def sample(units, mutation):
-    """Of each family the standard layout and another one, so that a line of the frame isn't compiled in all units."""
-    draw = random.Random(str(mutation))
-    draw.shuffle(units)
-    chosen = {}
-    for unit in units:
-        family, layout = re.fullmatch(r"(.*?)(_standard|_S2|_PS2|_P|_LS2|_L|_[SPL]{2}|_S|)_cpp", unit).groups()
-        chosen[family, layout == "_standard"] = unit
-    return list(chosen.values())
+def report(_, state):
+    """1 if a survivor isn't listed or a subsystem has fewer than 95 % killed."""
+    listed, failed = survivors.read(), False
+    for subsystem in EVERYTHING:
+        if subsystem not in state.all:
+            continue
+        results = {k: r for k, r in state.results(subsystem).items() if not r.startswith("same ")}
+        counts, unlisted = survivors.summary(results, listed)
+        wrong = counts["killed"] + counts["untested"] + counts["unlisted"]
+        share = 100 * counts["killed"] / wrong if wrong else 0
+        others = ", ".join(f"{counts[name]} {name}" for name in (*survivors.CLASSES, "unlisted") if counts[name])
+        print(f"{subsystem}: {counts['killed']} of {wrong} killed, {share:.1f} %; survivors: {others or 'none'}")
+        for name in unlisted:
+            print("  unlisted\t" + name)
+        survived = {key.rpartition("\t")[0] for key, result in results.items() if result.startswith("survived")}
+        tried = {key.rpartition("\t")[0] for key in results}
+        for name in sorted((tried - survived) & listed.keys()):
+            print("  killed now, though listed\t" + name)
+        failed |= bool(unlisted) or (wrong and share < 95)
+    return 1 if failed else 0
 
 
-def judge(library, mutation, everything):
-    """'invalid', 'survived' or what caught it."""
-    path, folder = library.copy / mutation.file, library.folder / "changed"
-    original = path.read_text()
-    lines = original.splitlines(keepends=True)
-    lines[mutation.line - 1] = mutation.after + "\n"
-    path.write_text("".join(lines))
-    try:
-        units = library.units_of(mutation)
-        tried = False
-        rest = units[4:] if everything else sample(units[4:], mutation)
-        for batch in filter(None, (units[:1], units[1:4], rest)):
-            if not library.compile(batch, folder):
-                return "invalid"
-            batch = changed_units(library, batch, folder)
-            if batch:
-                tried = True
-                if by := noticed(library, batch, folder):
-                    return by
-        return "survived" if tried else "invalid"
-    finally:
-        path.write_text(original)
+def show(options, _):
+    for subsystem in options.subsystems:
+        mutations = generator.all_mutations() if subsystem == "grid" else all_mutations(subsystem)
+        for m in mutations:
+            print(f"{m.file}:{m.line}: {m.kind}: {m.before.strip()}  ->  {m.after.strip()}")
+    return 0
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--build", type=Path, default=SOURCE / "build" / "t7")
-    parser.add_argument("--count", type=int, default=250)
+    parser.add_argument("what", choices=("run", "prepare", "report", "list"))
+    parser.add_argument("subsystems", nargs="*", metavar="SUBSYSTEM", help=", ".join(EVERYTHING))
+    parser.add_argument("--build", type=Path, default=SOURCE / "build" / "x64")
+    parser.add_argument("--count", type=int, help="so many of each subsystem, drawn by the seed; otherwise all")
+    parser.add_argument("--minutes", type=float, default=1e6)
+    parser.add_argument("--per-unit", type=int, default=2, help="functions of each family and layout")
+    parser.add_argument("--no-edge-cases", dest="edge_cases", action="store_false", help="the model only")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--only", help="a file or the beginning of its path, and perhaps a line")
-    parser.add_argument("--thorough", action="store_true", help="try each mutation in every unit with code of its line")
-    parser.add_argument("--list", action="store_true", help="show what could be tried, and try nothing")
-    parser.add_argument("--jobs", type=int, default=1, help="for the first build")
     options = parser.parse_args()
-    pools = choose(options)
-    if options.list:
-        for pool, _ in pools.values():
-            for m in pool:
-                print(f"{m.file}:{m.line}: {m.kind}: {m.before.strip()}  ->  {m.after.strip()}")
-        return 0
-
-    library = Library(options.build.resolve())
-    library.prepare(options.jobs)
-    table = {}
-    for path, (pool, share) in pools.items():
-        results = Counter()
-        for m in pool:
-            if sum(results.values()) - results["invalid"] >= share and not (options.only and ":" in options.only):
-                break
-            result = judge(library, m, options.thorough)
-            results[result] += 1
-            if result != "invalid":
-                print(f"{result}: {m.file}:{m.line}: {m.kind}: {m.before.strip()}  ->  {m.after.strip()}", flush=True)
-        table[path.relative_to(SOURCE)] = results
-    total = Counter()
-    for path, results in table.items():
-        total += results
-        print(f"{path}: {sum(results.values()) - results['invalid']} mutations, {results['survived']} survived")
-    print(
-        f"{sum(total.values()) - total['invalid']} mutations, {total['survived']} survived; caught by the conformance test "
-        f"{total['conformance']}, by the edge cases alone {total['edge cases']}"
-    )
-    return 0
+    if wrong := set(options.subsystems) - set(EVERYTHING):
+        parser.error(f"no subsystem {', '.join(wrong)}; there are {', '.join(EVERYTHING)}")
+    options.build = options.build.resolve()
+    return {"run": run, "prepare": prepare, "report": report, "list": show}[options.what](options, State(options.build))
 
 
 if __name__ == "__main__":
