@@ -49,10 +49,11 @@ foreach(folder LIBDIR INCLUDEDIR)
   cmake_path(ABSOLUTE_PATH ZELM_PC_${folder} BASE_DIRECTORY "\${prefix}")
 endforeach()
 
-# The machine's own target can be had without its name: `pkg-config zelm`. What a 64-bit compiler makes with -m32 isn't it.
+# The machine's own target can be had without its name: `pkg-config zelm`. What a 64-bit compiler makes with -m32 isn't it,
+# unless it makes it for a 32-bit machine.
 set(pc_files zelm-${ZELM_TARGET})
 execute_process(COMMAND ${CMAKE_CXX_COMPILER} -dumpmachine OUTPUT_VARIABLE machine ERROR_QUIET)
-if(ZELM_TARGET STREQUAL "x64" OR NOT machine MATCHES "^(x86_64|amd64)")
+if(ZELM_TARGET STREQUAL "x64" OR NOT machine MATCHES "^(x86_64|amd64)" OR CMAKE_SYSTEM_PROCESSOR MATCHES "^i[3-6]86$")
   list(APPEND pc_files zelm)
 endif()
 foreach(ZELM_PC_NAME IN LISTS pc_files)

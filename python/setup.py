@@ -53,7 +53,7 @@ class BuildExt(build_ext):
         trees = {preset: ROOT / READY / preset if READY else work / preset for preset in PRESETS}
         for preset, tree in trees.items():
             if not READY:
-                options = ["-D", "ZELM_BUILD_TESTS=OFF"]
+                options = ["-D", "ZELM_BUILD_TESTS=OFF", "-D", "ZELM_BUILD_SELFTEST=OFF"]
                 subprocess.run(["cmake", "--preset", preset, "-B", tree, *options], cwd=ROOT, check=True)
                 subprocess.run(["cmake", "--build", tree, "--target", "zelm"], check=True)
             if tree.is_dir():
