@@ -21,7 +21,6 @@ OWN = ("zelm", "MIT")
 # What the generator of the web site puts beside zelm's own pages: a pattern of names, and whose they are.
 OTHERS = [
     (re.compile(r"/html/_static/(styles/furo|scripts/|skeleton\.css|debug\.css)"), ("furo", "MIT")),
-    (re.compile(r"/html/_static/styles/normalize\.css$"), ("normalize.css", "MIT")),
     (re.compile(r"/html/_static/site\.css$"), OWN),
     (re.compile(r"/html/_static/"), ("sphinx", "BSD-2-Clause")),
     (re.compile(r"/examples/data/"), ("elevations of NASA and USGS", "NONE")),
