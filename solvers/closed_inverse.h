@@ -42,7 +42,7 @@ ZELM_INLINE V reciprocal(V x) {
 }
 
 ZELM_INLINE float approximateReciprocal(float x) {
-    return firstLane(Floats4(_mm_rcp_ss(inFirstLane(x))));
+    return firstLane(Floats4(_mm_rcp_ss(broadcast(x))));
 }
 ZELM_INLINE Floats4 approximateReciprocal(Floats4 x) {
     return _mm_rcp_ps(x);

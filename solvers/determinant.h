@@ -4,7 +4,9 @@
 
 #include "solvers/determinant_kernels.h"
 #include "solvers/elimination.h"
+#include "solvers/expansion.h"
 #include "solvers/groups.h"
+#include "solvers/tested_matrix.h"
 
 namespace zelm::solvers {
 
@@ -55,12 +57,22 @@ __attribute__((noinline)) ZelmStatus determinantsByElimination(const S &s, void 
 
 // ---- the closed expansion in the element type
 
+// Order 3 is short enough to stand where it is called.
+template <unsigned N, typename T>
+ZELM_INLINE void storeDeterminantOf(const T (&a)[N][N], const Dense<T> &result) {
+    T determinant;
+    if constexpr (N == 3)
+        determinant = determinantOfOrder3(a);
+    else
+        determinantOf(a, determinant);
+    result.set(0, determinant);
+}
+
 template <unsigned N, typename T, typename S>
 ZELM_INLINE void determinantInElementType(const S &s, const Dense<T> &result) {
-    T a[N][N], determinant;
+    T a[N][N];
     readMatrix(s, a);
-    determinantOf(a, determinant);
-    result.set(0, determinant);
+    storeDeterminantOf(a, result);
 }
 
 template <typename V, unsigned N, typename S>
@@ -97,14 +109,16 @@ ZELM_INLINE ZelmStatus determinantSingle(const S &s, void *scratch, T *dst, Size
             return status;
         return determinantByElimination(s, scratch, dst, size.value());
     } else {
-        constexpr unsigned N = Size::fixed;
-        if (ZelmStatus status = checkSingleWhole(false, tested(s, N * N), tested(Pointer(dst), 0));
-            status != kProceed)
+        if (ZelmStatus status = checkSingle(false, s, Pointer(dst)); status != kProceed)
             return status;
-        if constexpr (S::isDense)
+        if constexpr (S::isDense) {
             kernel(reinterpret_cast<const T *>(s.start), static_cast<std::int32_t>(s.rowStride), dst);
-        else
-            determinantInElementType<N>(s, Dense<T>(dst, 0));
+        } else {
+            T a[Size::fixed][Size::fixed];
+            if (!readMatrixTested(s, a))
+                return ZELM_ERR_NULL_PTR;
+            storeDeterminantOf(a, Dense<T>(dst, 0));
+        }
         return ZELM_OK;
     }
 }

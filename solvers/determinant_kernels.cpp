@@ -7,14 +7,12 @@ namespace zelm::solvers {
 
 template <typename V, unsigned N>
 void determinantOf(const V (&a)[N][N], V &determinant) {
-    const auto element = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
-        return a[i][j];
-    };
     if constexpr (N == 3) {
-        V t[3];
-        termsOfOrder3(element, t);
-        determinant = (t[0] + t[1]) + t[2];
+        determinant = determinantOfOrder3(a);
     } else {
+        const auto element = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
+            return a[i][j];
+        };
         determinant = expandByMinors<N, V>(element, MinorsAsTheyAre{});
     }
 }

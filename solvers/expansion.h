@@ -70,4 +70,14 @@ ZELM_INLINE void termsOfOrder3(const Elements &a, V (&t)[3]) {
     t[2] = (a(1, 0) * a(2, 1) - a(2, 0) * a(1, 1)) * a(0, 2);
 }
 
+template <typename V>
+ZELM_INLINE V determinantOfOrder3(const V (&a)[3][3]) {
+    const auto element = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
+        return a[i][j];
+    };
+    V t[3];
+    termsOfOrder3(element, t);
+    return (t[0] + t[1]) + t[2];
+}
+
 } // namespace zelm::solvers

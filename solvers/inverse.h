@@ -4,6 +4,7 @@
 #include "solvers/determinant.h"
 #include "solvers/inverse_kernels.h"
 #include "solvers/inverse_rows.h"
+#include "solvers/tested_matrix.h"
 
 namespace zelm::solvers {
 
@@ -69,6 +70,25 @@ ZELM_INLINE ZelmStatus storeSingular(Outcome outcome, const T (&a)[N][N], const 
     return ZELM_ERR_DIV_BY_ZERO;
 }
 
+ZELM_INLINE ZelmStatus invertRowsOfThree(const Dense<const float> &s, const Dense<float> &d) {
+    constexpr Address third = 2 * sizeof(float);
+    Floats4 rows[3];
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 3; ++i) {
+        const Address row = s.rowStart(i);
+        rows[i] = _mm_movelh_ps(loadTwo(row), inFirstLane(load<float>(row + third)));
+    }
+    if (!invertRows(rows))
+        return ZELM_ERR_DIV_BY_ZERO;
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 3; ++i) {
+        const Address row = d.rowStart(i);
+        _mm_storel_pi(reinterpret_cast<__m64 *>(row), rows[i]);
+        store(row + third, rows[i][2]);
+    }
+    return ZELM_OK;
+}
+
 ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<float> &d) {
     Floats4 rows[4];
 #pragma GCC unroll 4
@@ -99,6 +119,16 @@ ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const double> &s, const Dense
     return ZELM_OK;
 }
 
+// Order 3 is short enough to stand where it is called, and to need no memory.
+template <bool dense, typename T, typename D>
+ZELM_INLINE ZelmStatus invertInRegisters(const T (&a)[3][3], const D &d) {
+    T inverse[3][3];
+    if (anyLane(invertClosed<dense, inverseRule(dense, kIs32<T>, 3).singular>(a, inverse)))
+        return ZELM_ERR_DIV_BY_ZERO;
+    writeMatrix(d, inverse);
+    return ZELM_OK;
+}
+
 template <bool dense, unsigned N, typename S, typename D>
 __attribute__((noinline)) ZelmStatus invertInCopy(const S &s, const D &d) {
     typename D::Element a[N][N];
@@ -113,10 +143,17 @@ __attribute__((noinline)) ZelmStatus invertInCopy(const S &s, const D &d) {
 // `dense` is the rule of the standard and L forms: a form keeps its rule where it is given rows without gaps.
 template <bool dense, unsigned N, typename S, typename D>
 ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
-    if constexpr (dense && N == 4)
+    if constexpr (dense && N == 4) {
         return invertDenseRows(s, d);
-    else
+    } else if constexpr (dense && N == 3 && kIs32<typename D::Element>) {
+        return invertRowsOfThree(s, d);
+    } else if constexpr (N == 3) {
+        typename D::Element a[3][3];
+        readMatrix(s, a);
+        return invertInRegisters<dense>(a, d);
+    } else {
         return invertInCopy<dense, N>(s, d);
+    }
 }
 
 template <typename V, bool dense, unsigned N, typename S, typename D>
@@ -153,6 +190,13 @@ ZELM_INLINE ZelmStatus invertSingle(const S &s, void *scratch, const D &d, Size 
             status != kProceed)
             return status;
         return invertByElimination<T>(s, scratch, d, size.value());
+    } else if constexpr (D::isTable && Size::fixed == 3) {
+        if (ZelmStatus status = checkSingle(false, s, d); status != kProceed)
+            return status;
+        T a[3][3];
+        if (!readMatrixTested(s, a) || hasNullEntry<9>(d))
+            return ZELM_ERR_NULL_PTR;
+        return invertInRegisters<false>(a, d);
     } else {
         if (ZelmStatus status = checkSingleWhole(false, tested(s, n * n), tested(d, n * n));
             status != kProceed)

@@ -33,14 +33,18 @@ Outcome invertAlone(T (&a)[N][N]) {
 #define ZELM_INSTANTIATE_GROUP(V, N)                                                                         \
     template bool invertGroup<true, V, N>(V(&)[N][N]);                                                       \
     template bool invertGroup<false, V, N>(V(&)[N][N]);
-// In the standard and L forms a matrix of order 4 alone is inverted by its rows (inverse_rows.h).
-#define ZELM_INSTANTIATE_ALONE(T, N) template Outcome invertAlone<false, T, N>(T(&)[N][N]);
+// A matrix of order 3 alone is inverted where its form is, of order 4 in the standard and L forms by its
+// rows.
+#define ZELM_INSTANTIATE_ALONE(T)                                                                            \
+    template Outcome invertAlone<false, T, 4>(T(&)[4][4]);                                                   \
+    template Outcome invertAlone<false, T, 5>(T(&)[5][5]);                                                   \
+    template Outcome invertAlone<false, T, 6>(T(&)[6][6]);
 #define ZELM_INSTANTIATE_DENSE(T)                                                                            \
-    template Outcome invertAlone<true, T, 3>(T(&)[3][3]);                                                    \
     template Outcome invertAlone<true, T, 5>(T(&)[5][5]);                                                    \
     template Outcome invertAlone<true, T, 6>(T(&)[6][6]);
 ZELM_PACKS(ZELM_INSTANTIATE_GROUP)
-ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
+ZELM_INSTANTIATE_ALONE(float)
+ZELM_INSTANTIATE_ALONE(double)
 ZELM_INSTANTIATE_DENSE(float)
 ZELM_INSTANTIATE_DENSE(double)
 

@@ -1,4 +1,4 @@
-// One 4x4 inverse with its rows in registers: the bits of invertClosed in a part of its time.
+// One inverse with its rows in registers: the bits of invertClosed in a part of its time.
 #pragma once
 
 #include "solvers/closed_inverse.h"
@@ -10,7 +10,31 @@ ZELM_INLINE Floats4 pick(Floats4 v) {
     return _mm_shuffle_ps(v, v, _MM_SHUFFLE(e3, e2, e1, e0));
 }
 
-// ---- 32-bit float: a row in a pack
+// ---- order 3, 32-bit float: a row in a pack, whose last lane is zero
+
+// In place; false if the matrix is singular, with the rows as they were.
+ZELM_INLINE bool invertRows(Floats4 (&a)[3]) {
+    const Floats4 turned[3] = {pick<1, 2, 0, 3>(a[0]), pick<1, 2, 0, 3>(a[1]), pick<1, 2, 0, 3>(a[2])};
+    // The cofactors of columns 2, 0 and 1 of a row: the cross product of the two rows after it.
+    Floats4 c[3];
+#pragma GCC unroll 3
+    for (unsigned i = 0; i < 3; ++i) {
+        const unsigned p = (i + 1) % 3, q = (i + 2) % 3;
+        c[i] = a[p] * turned[q] - turned[p] * a[q];
+    }
+    const Floats4 terms = pick<2, 0, 1, 3>(a[0]) * c[0];
+    const Floats4 det = pick<0, 0, 0, 0>((pick<1, 1, 1, 1>(terms) + pick<2, 2, 2, 2>(terms)) + terms);
+    if (anyLane(equal(det, Floats4{})))
+        return false;
+    const Floats4 r = reciprocalOfOrder3(det);
+    const Floats4 low = interleaveLow(c[0], c[1]), high = interleaveHigh(c[0], c[1]);
+    a[0] = shuffle<2, 3, 1, 3>(low, c[2]) * r;
+    a[1] = shuffle<0, 1, 2, 3>(high, c[2]) * r;
+    a[2] = shuffle<0, 1, 0, 3>(low, c[2]) * r;
+    return true;
+}
+
+// ---- order 4, 32-bit float: a row in a pack
 
 // The elements that stand first and second in the two differences of the cofactors of a row, and those of the
 // third term: C0 = (v1*m23 - v2*m13) + v3*m12, C1 = (v2*m03 - v0*m23) - v3*m02 and so on.
@@ -57,7 +81,7 @@ ZELM_INLINE bool invertRows(Floats4 (&a)[4]) {
     return true;
 }
 
-// ---- 64-bit float: two rows side by side, lane by lane
+// ---- order 4, 64-bit float: two rows side by side, lane by lane
 
 // The order 2 minors of two rows, each in both lanes: of the columns 01, 02, 03, 12, 13, 23.
 ZELM_INLINE void minorsOfRows(const Doubles2 (&u)[2], const Doubles2 (&l)[2], Doubles2 (&m)[6]) {

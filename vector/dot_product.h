@@ -21,7 +21,10 @@ ZELM_INLINE auto dotOf(const A &a, const B &b) {
 
 template <typename A, typename B>
 ZELM_INLINE auto dotOfLength(const A &a, const B &b, std::uint32_t length) {
-    typename A::Element sum = 0;
+    using T = typename A::Element;
+    T sum = 0;
+    if constexpr (A::isDense && B::isDense)
+        return chainedSum(Products<T>{a.start, b.start}, sum, 0, length);
     for (std::uint32_t j = 0; j < length; ++j)
         sum = sum + a.get(j) * b.get(j);
     return sum;
@@ -94,16 +97,32 @@ ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b,
 
 // ---- one pair
 
+// Entries are tested as they are reached; the result is stored at the end.
+template <typename A, typename B, typename T, typename Shape>
+ZELM_INLINE ZelmStatus dotByTables(const A &a, const B &b, T *dst, Shape shape) {
+    T sum = 0;
+    const bool complete = whileTrue(
+        shape, [&](std::uint32_t, std::uint32_t j) __attribute__((always_inline)) {
+            if (a.elementIsNull(j) || b.elementIsNull(j))
+                return false;
+            const T product = a.get(j) * b.get(j);
+            // Sums of a fixed size begin with the first product.
+            sum = Shape::isFixed && j == 0 ? product : sum + product;
+            return true;
+        });
+    if (!complete)
+        return ZELM_ERR_NULL_PTR;
+    *dst = sum;
+    return ZELM_OK;
+}
+
 template <typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), a, b, Pointer(dst)); status != kProceed)
         return status;
-    if constexpr (A::isTable) {
-        // The result is stored at the end, so that where a null entry stops the sum can't be seen.
-        if (a.hasNullEntry(shape.columns()) || b.hasNullEntry(shape.columns()))
-            return ZELM_ERR_NULL_PTR;
-    }
-    if constexpr (Shape::isFixed)
+    if constexpr (A::isTable)
+        return dotByTables(a, b, dst, shape);
+    else if constexpr (Shape::isFixed)
         *dst = dotOf<kDotOrder<T, A>, Shape::columns()>(a, b);
     else if constexpr (A::isDense)
         *dst = longSum<T>(Products<T>{a.start, b.start}, b.start, shape.columns());

@@ -4,6 +4,7 @@
 
 #include "vector/results.h"
 #include "vector/roots.h"
+#include "vector/tested_squares.h"
 
 namespace zelm::vector {
 
@@ -13,9 +14,11 @@ namespace zelm::vector {
 template <typename S, typename Shape>
 ZELM_INLINE auto squaresByRows(const S &s, Shape shape) {
     typename S::Element sum = 0;
-    for (std::uint32_t i = 0; i < shape.rows(); ++i)
-        for (std::uint32_t j = 0; j < shape.columns(); ++j)
+    whileTrue(
+        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
             sum = sum + s.get(i, j, shape.columns()) * s.get(i, j, shape.columns());
+            return true;
+        });
     return sum;
 }
 
@@ -204,11 +207,11 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), s, Pointer(dst)); status != kProceed)
         return status;
     if constexpr (S::isTable) {
-        // The result is stored at the end, so that where a null entry stops the sum can't be seen.
-        if (s.hasNullEntry(shape.elements()))
+        T squares = 0;
+        if (!sumSquaresTested(s, shape, squares))
             return ZELM_ERR_NULL_PTR;
-    }
-    if constexpr (S::isDense && Shape::isFixed) {
+        *dst = squareRoot(squares);
+    } else if constexpr (S::isDense && Shape::isFixed) {
         const T sum = treeOf(s, shape);
         if constexpr (sizeof(T) == 4)
             *dst = rootByRefinedReciprocal(sum);

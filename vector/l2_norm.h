@@ -4,6 +4,7 @@
 #include "vector/long_sum.h"
 #include "vector/results.h"
 #include "vector/roots.h"
+#include "vector/tested_squares.h"
 
 namespace zelm::vector {
 
@@ -50,11 +51,11 @@ ZELM_INLINE ZelmStatus l2NormSingle(const S &s, T *dst, Shape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), s, Pointer(dst)); status != kProceed)
         return status;
     if constexpr (S::isTable) {
-        // The result is stored at the end, so that where a null entry stops the sum can't be seen.
-        if (s.hasNullEntry(shape.columns()))
+        T squares = 0;
+        if (!sumSquaresTested(s, shape, squares))
             return ZELM_ERR_NULL_PTR;
-    }
-    if constexpr (Shape::isFixed)
+        *dst = squareRoot(squares);
+    } else if constexpr (Shape::isFixed)
         *dst = fixedLength<S::isDense, false, Shape::columns()>(s);
     else if constexpr (S::isDense)
         *dst = squareRoot(longSum<T>(Squares<T>{s.start}, s.start, shape.columns()));

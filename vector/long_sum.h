@@ -47,6 +47,21 @@ ZELM_INLINE double combined(Doubles2 s0to1, Doubles2 s2to3) {
     return firstLane(two + _mm_unpackhi_pd(two, two));
 }
 
+// The terms from t on, one after the other: multiplied by packs, added one by one.
+template <typename T, typename Terms>
+ZELM_INLINE T chainedSum(const Terms &terms, T sum, std::uint32_t t, std::uint32_t length) {
+    constexpr unsigned lanes = kLanes<T>;
+    for (; length - t >= lanes; t += lanes) {
+        const Pack<T> several = terms.terms(t);
+#pragma GCC unroll 4
+        for (unsigned lane = 0; lane < lanes; ++lane)
+            sum = sum + several[lane];
+    }
+    for (; t < length; ++t)
+        sum = sum + terms.term(t);
+    return sum;
+}
+
 // `aligned` is the address that is brought to a multiple of 16 by summing a head of terms one by one. The
 // head's sum is where the first running sum begins.
 template <typename T, typename Terms>
@@ -69,9 +84,7 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
         }
         sum = combined(low, high);
     }
-    for (; t < length; ++t)
-        sum = sum + terms.term(t);
-    return sum;
+    return chainedSum(terms, sum, t, length);
 }
 
 } // namespace zelm::vector
