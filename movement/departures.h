@@ -69,22 +69,26 @@ ZELM_INLINE void loadTransposed(const Dense<const double> &s, Doubles2 (&rows)[8
     }
 }
 
+// Where the rows of dst lie over each other: in the order of elements.
+template <typename T>
+__attribute__((noinline)) void transposeThroughCopy(Dense<const T> s, Dense<T> d) {
+    T whole[16];
+    for (std::uint32_t e = 0; e < 16; ++e)
+        copyElement<T>(addressOf(whole + e), s.address(e / 4, e % 4, 4));
+    for (std::uint32_t e = 0; e < 16; ++e)
+        copyElement<T>(d.address(e % 4, e / 4, 4), addressOf(whole + e));
+}
+
 template <typename T>
 ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, FixedShape<4, 4>, bool apart) {
+    if (!apart)
+        return transposeThroughCopy(s, d);
     constexpr unsigned packs = sizeof(T);
     Pack<T> rows[packs];
     loadTransposed(s, rows);
-    if (apart) {
 #pragma GCC unroll 8
-        for (unsigned p = 0; p < packs; ++p)
-            storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kBlockBytes, rows[p]);
-    } else {
-        T whole[16];
-        for (unsigned p = 0; p < packs; ++p)
-            storePack(addressOf(whole) + p * kBlockBytes, rows[p]);
-        for (std::uint32_t e = 0; e < 16; ++e)
-            copyElement<T>(d.address(e % 4, e / 4, 4), addressOf(whole + e % 4 * 4 + e / 4));
-    }
+    for (unsigned p = 0; p < packs; ++p)
+        storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kBlockBytes, rows[p]);
 }
 
 template <typename T>

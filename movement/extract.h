@@ -15,15 +15,6 @@ ZELM_INLINE DenseArray<T> packedAt(T *dst, RunTimeShape shape) {
     return packed;
 }
 
-// Single objects: the buffer is filled in its order.
-template <typename S, typename T>
-ZELM_INLINE ZelmStatus extractSingle(const S &s, T *dst, RunTimeShape shape) {
-    if (ZelmStatus status = checkSingle(shape.isZero(), s, Pointer(dst)); status != kProceed)
-        return status;
-    moveObject(s, packedAt(dst, shape).object(0), shape);
-    return ZELM_OK;
-}
-
 // Whether the buffer is apart from the source, so that the order in which it is filled can't be seen.
 template <typename S, typename T>
 ZELM_INLINE bool isApart(const S &s, const DenseArray<T> &packed, RunTimeShape shape, std::uint32_t count) {
@@ -34,6 +25,22 @@ ZELM_INLINE bool isApart(const S &s, const DenseArray<T> &packed, RunTimeShape s
                count <= kMostObjectsInRange &&
                isUntouched(s, shape.height, shape.width, packed, shape.height, shape.width, count);
     }
+}
+
+// Single objects: the buffer is filled in its order.
+template <typename S, typename T>
+ZELM_INLINE ZelmStatus extractSingle(const S &s, T *dst, RunTimeShape shape) {
+    if (ZelmStatus status = checkSingle(shape.isZero(), s, Pointer(dst)); status != kProceed)
+        return status;
+    const DenseArray<T> packed = packedAt(dst, shape);
+    if constexpr (!S::isTable && !kIsTransposed<S>)
+        if (isPlainer(s) && isApart(s, packed, shape, 1)) {
+            const auto rows = plainest(s);
+            moveRowsOf(rows, packed.object(0), shape, rowsAreJoined(rows, packed, shape));
+            return ZELM_OK;
+        }
+    moveObject(s, packed.object(0), shape);
+    return ZELM_OK;
 }
 
 // A list's objects lie anywhere: each is moved as it may be.

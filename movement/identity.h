@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/checks.h"
+#include "frame/pack.h"
 
 namespace zelm::movement {
 
@@ -44,6 +45,41 @@ ZELM_INLINE Address position(const Table<T> &d, std::uint32_t row, std::uint32_t
     return addressOf(load<T *>(addressOf(d.table) + entry * sizeof(T *))) + d.shift;
 }
 
+// A matrix without gaps whose ones all lie in their own rows. False where it isn't one.
+template <typename D>
+ZELM_INLINE bool fillGapless(const D &d, std::uint32_t rows, std::uint32_t columns, std::uint32_t diagonal) {
+    using T = typename D::Element;
+    if constexpr (D::isTable) {
+        return false;
+    } else {
+        if (d.elemStride != sizeof(T) || d.rowStride != columns * sizeof(T) || rows > columns ||
+            diagonal > columns - rows)
+            return false;
+        const Address elements = Address{rows} * columns;
+        Address e = 0;
+        for (; elements - e >= kLanes<T>; e += kLanes<T>)
+            storePack(d.start + e * sizeof(T), Pack<T>{});
+        for (; e < elements; ++e)
+            store(d.start + e * sizeof(T), T{0});
+        for (std::uint32_t i = 0; i < rows; ++i)
+            store(d.start + (Address{i} * (Address{columns} + 1) + diagonal) * sizeof(T), T{1});
+        return true;
+    }
+}
+
+template <typename D>
+ZELM_INLINE void zeroRow(const D &d, std::uint32_t row, std::uint32_t columns, std::int32_t width) {
+    using T = typename D::Element;
+    std::uint32_t c = 0;
+    if constexpr (!D::isTable) {
+        if (d.elemStride == sizeof(T))
+            for (; columns - c >= kLanes<T>; c += kLanes<T>)
+                storePack(position(d, row, c, width), Pack<T>{});
+    }
+    for (; c < columns; ++c)
+        store(position(d, row, c, width), T{0});
+}
+
 // The diagonal runs on from object to object: only the first object has its ones where an identity has them.
 template <typename D>
 ZELM_INLINE ZelmStatus identities(const D &dst, std::int32_t width, std::int32_t height,
@@ -61,9 +97,12 @@ ZELM_INLINE ZelmStatus identities(const D &dst, std::int32_t width, std::int32_t
         return ZELM_OK;
     for (std::uint32_t k = 0; k < count; ++k) {
         const auto object = d.object(k);
+        if (fillGapless(object, rows, columns, diagonal)) {
+            diagonal += rows;
+            continue;
+        }
         for (std::uint32_t i = 0; i < rows; ++i, ++diagonal) {
-            for (std::uint32_t c = 0; c < columns; ++c)
-                store(position(object, i, c, width), T{0});
+            zeroRow(object, i, columns, width);
             store(position(object, i, diagonal, width), T{1});
         }
     }

@@ -8,33 +8,61 @@ namespace zelm::movement {
 using namespace zelm::frame;
 
 // From this length on the processor's own move of a string is faster than a loop over packs.
-constexpr Address kStringBytes = 2048;
+constexpr Address kStringBytes = 1536;
 
 ZELM_INLINE void moveString(Address to, Address from, Address bytes) {
     __asm__ volatile("rep movsb" : "+D"(to), "+S"(from), "+c"(bytes) : : "memory");
 }
 
-// The destination must be apart from the source, or be the source. The last pack may cover elements of the
-// one before it once more.
+// Up to four packs, without a loop: the last ones may cover elements of those before them once more.
+template <typename T>
+ZELM_INLINE void moveShortRun(Address to, Address from, Address bytes) {
+    constexpr Address pack = kBlockBytes;
+    if (bytes > 2 * pack) {
+        const Pack<T> packs[4] = {loadPack<T>(from), loadPack<T>(from + pack),
+                                  loadPack<T>(from + bytes - 2 * pack), loadPack<T>(from + bytes - pack)};
+        storePack(to, packs[0]);
+        storePack(to + pack, packs[1]);
+        storePack(to + bytes - 2 * pack, packs[2]);
+        storePack(to + bytes - pack, packs[3]);
+    } else if (bytes >= pack) {
+        const Pack<T> first = loadPack<T>(from), last = loadPack<T>(from + bytes - pack);
+        storePack(to, first);
+        storePack(to + bytes - pack, last);
+    } else {
+        const bool half = bytes >= pack / 2;
+        if (half)
+            copyElement<double>(to, from);
+        const Address at = half ? pack / 2 : 0;
+        if (at != bytes)
+            copyElement<float>(to + at, from + at);
+    }
+}
+
+template <typename T>
+ZELM_INLINE void moveFourPacks(Address to, Address from) {
+    Pack<T> packs[4];
+#pragma GCC unroll 4
+    for (unsigned p = 0; p < 4; ++p)
+        packs[p] = loadPack<T>(from + p * kBlockBytes);
+#pragma GCC unroll 4
+    for (unsigned p = 0; p < 4; ++p)
+        storePack(to + p * kBlockBytes, packs[p]);
+}
+
+// The destination must be apart from the source, or be the source.
 template <typename T>
 ZELM_INLINE void moveRun(Address to, Address from, Address elements) {
+    constexpr Address fourPacks = 4 * kBlockBytes;
     const Address bytes = elements * sizeof(T);
+    if (bytes <= fourPacks)
+        return moveShortRun<T>(to, from, bytes);
     if (bytes >= kStringBytes)
         return moveString(to, from, bytes);
     Address at = 0;
-    if (bytes < kBlockBytes) {
-        if (bytes >= kBlockBytes / 2) {
-            copyElement<double>(to, from);
-            at = kBlockBytes / 2;
-        }
-        if (at != bytes)
-            copyElement<float>(to + at, from + at);
-        return;
-    }
-    for (; bytes - at >= kBlockBytes; at += kBlockBytes)
-        storePack(to + at, loadPack<T>(from + at));
-    if (at != bytes)
-        storePack(to + bytes - kBlockBytes, loadPack<T>(from + bytes - kBlockBytes));
+    for (; bytes - at > fourPacks; at += fourPacks)
+        moveFourPacks<T>(to + at, from + at);
+    moveFourPacks<T>(to + bytes - fourPacks, from + bytes - fourPacks);
 }
 
 } // namespace zelm::movement

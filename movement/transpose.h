@@ -54,6 +54,49 @@ ZELM_INLINE void transposeBlock(const Dense<const double> &s, const Dense<double
     storePack(d.address(j + 1, i, 0), _mm_unpackhi_pd(a, b));
 }
 
+// Nine elements behind each other, by packs.
+ZELM_INLINE void transposeThree(const Dense<const float> &s, const Dense<float> &d) {
+    constexpr Address last = 2 * kBlockBytes;
+    const Floats4 a = loadPack<float>(s.start), b = loadPack<float>(s.start + kBlockBytes);
+    const float corner = load<float>(s.start + last);
+    storePack(d.start, shuffle<0, 3, 0, 2>(a, shuffle<2, 2, 1, 1>(b, a)));
+    storePack(d.start + kBlockBytes, shuffle<0, 3, 0, 2>(b, shuffle<2, 2, 1, 1>(a, b)));
+    store(d.start + last, corner);
+}
+
+ZELM_INLINE void transposeThree(const Dense<const double> &s, const Dense<double> &d) {
+    constexpr Address last = 4 * kBlockBytes;
+    Doubles2 packs[4];
+#pragma GCC unroll 4
+    for (unsigned p = 0; p < 4; ++p)
+        packs[p] = loadPack<double>(s.start + p * kBlockBytes);
+    const double corner = load<double>(s.start + last);
+    storePack(d.start, shuffle<0, 1>(packs[0], packs[1]));
+    storePack(d.start + kBlockBytes, shuffle<0, 1>(packs[3], packs[0]));
+    storePack(d.start + 2 * kBlockBytes, shuffle<0, 1>(packs[2], packs[3]));
+    storePack(d.start + 3 * kBlockBytes, shuffle<0, 1>(packs[1], packs[2]));
+    store(d.start + last, corner);
+}
+
+// Order 6: a block of 4, and pairs.
+ZELM_INLINE void transposeSix(const Dense<const float> &s, const Dense<float> &d) {
+    const auto pairs = [&](std::uint32_t i) __attribute__((always_inline)) {
+        return loadTwoAndTwo(s.address(i, 4, 0), s.address(i + 1, 4, 0));
+    };
+    const auto storeTwoAndTwo = [&](std::uint32_t i, Floats4 pairs) __attribute__((always_inline)) {
+        _mm_storel_pi(reinterpret_cast<__m64 *>(d.address(i, 4, 0)), pairs);
+        _mm_storeh_pi(reinterpret_cast<__m64 *>(d.address(i + 1, 4, 0)), pairs);
+    };
+    transposeBlock(s, d, 0, 0);
+    const Floats4 upper = pairs(0), lower = pairs(2), corner = pairs(4);
+    storePack(d.rowStart(4), shuffle<0, 2, 0, 2>(upper, lower));
+    storePack(d.rowStart(5), shuffle<1, 3, 1, 3>(upper, lower));
+    const Floats4 fifth = loadPack<float>(s.rowStart(4)), sixth = loadPack<float>(s.rowStart(5));
+    storeTwoAndTwo(0, interleaveLow(fifth, sixth));
+    storeTwoAndTwo(2, interleaveHigh(fifth, sixth));
+    storeTwoAndTwo(4, shuffle<0, 2, 1, 3>(corner, corner));
+}
+
 // Square blocks in registers, and the edge element by element: for a dst that is apart from src.
 template <typename T, typename Shape>
 ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Shape shape) {
@@ -62,7 +105,9 @@ ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Sha
     const auto edge = [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
         copyElement<T>(d.address(j, i, 0), s.address(i, j, 0));
     };
-    if constexpr (Shape::isFixed) {
+    if constexpr (sizeof(T) == 4 && Shape::isFixed && Shape::columnsIfFixed == 6) {
+        transposeSix(s, d);
+    } else if constexpr (Shape::isFixed) {
         whileTrue(
             shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
                 if (i >= rows || j >= columns)
@@ -89,9 +134,16 @@ ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Sha
 // then for each object.
 struct Blocks {
     Extent source{}, target{};
-    bool possible;
+    bool possible, gapless = false;
     template <typename S, typename D, typename Shape>
     ZELM_INLINE Blocks(const S &s, const D &d, Shape shape) {
+        constexpr Address size = sizeof(typename D::Element);
+        if constexpr (Shape::columnsIfFixed == 3)
+            if (s.rowStride == 3 * size && d.rowStride == 3 * size) {
+                source = target = {0, 9 * size};
+                possible = gapless = true;
+                return;
+            }
         possible = shape.rows() <= kMostInGroups && shape.columns() <= kMostInGroups;
         if (!possible)
             return;
@@ -106,10 +158,12 @@ struct Blocks {
 
 template <typename S, typename D, typename Shape>
 ZELM_INLINE void transposeObject(const S &s, const D &d, Shape shape, const Blocks &blocks) {
-    if (blocks.suit(s.start, d.start))
-        transposeBlocks(s, d, shape);
-    else
-        transposeInOrder(s, d, shape);
+    if (!blocks.suit(s.start, d.start))
+        return transposeInOrder(s, d, shape);
+    if constexpr (Shape::isFixed && Shape::columnsIfFixed == 3)
+        if (blocks.gapless)
+            return transposeThree(s, d);
+    transposeBlocks(s, d, shape);
 }
 
 // ---- one matrix
