@@ -43,7 +43,7 @@ ZELM_INLINE V productsAt(const Address *a, const Address *b, Address offset) {
 
 template <unsigned N, typename V>
 ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N]) {
-    const auto blocks = [a, b](unsigned object, Address offset) __attribute__((always_inline)) {
+    const auto blocks = [&](unsigned object, Address offset) __attribute__((always_inline)) {
         return loadBlocks<V>(a + object, offset) * loadBlocks<V>(b + object, offset);
     };
     constexpr unsigned lanes = kLanes<ElementOf<V>>;
@@ -71,13 +71,13 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
 }
 
 template <typename S>
-constexpr bool kIsArrayOfRows = kIsArray<S> && decltype(std::declval<const S &>().object(0))::isDense;
+constexpr bool kIsArrayOfRows = kIsArray<S> &&decltype(std::declval<const S &>().object(0))::isDense;
 
 // Three elements are transposed in fewer steps by the frame, where they follow each other without a gap.
 template <unsigned N, typename V, typename A, typename B>
 ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,
                                  V (&products)[N]) {
-    if constexpr (kLanesOf<V> > 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
+    if constexpr (kLanesOf < V >> 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
         LaneAddresses<V> first, second;
 #pragma GCC unroll 16
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane) {
@@ -157,8 +157,8 @@ ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, s
             storePack(results.object(k).start, sumOf<order>(products));
             return true;
         };
-        return forEachInGroups<groupingOf<A>(kShortKernels)>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                              reads(a, 1, N), reads(b, 1, N));
+        return forEachInGroups<groupingOf<A>(kShortKernels)>(
+            count, NoBuffer(), group, one, writes(results, 1, 1), reads(a, 1, N), reads(b, 1, N));
     }
 }
 

@@ -191,7 +191,7 @@ ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<3, 3>) {
 
 template <typename V, typename S>
 ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<4, 4>) {
-    return fromBlocks<V>([&s, k](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
         Floats4 sums[4];
 #pragma GCC unroll 4
         for (unsigned object = 0; object < 4; ++object)
@@ -282,8 +282,8 @@ ZELM_INLINE ZelmStatus frobeniusByColumns(const S &s, const DenseArray<T> &resul
             storePack(results.object(k).start, squareRoot(squaresOfGroup<N, V>(s, k)));
             return true;
         };
-        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                              reads(s, N, N));
+        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
+                                                             writes(results, 1, 1), reads(s, N, N));
     } else {
         return forEachObject(count, one, s);
     }
@@ -299,9 +299,10 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
     if constexpr (Shape::isFixed && decltype(s.object(0))::isDense && sizeof(T) == 4)
         return frobeniusByTrees(s, results, shape, count);
     else
-        return withPlainest([&](const auto &plain) __attribute__((
-                                always_inline)) { return frobeniusByColumns(plain, results, shape, count); },
-                            s);
+        return withPlainest(
+            [&](const auto &plain)
+                __attribute__((always_inline)) { return frobeniusByColumns(plain, results, shape, count); },
+            s);
 }
 
 } // namespace zelm::vector
