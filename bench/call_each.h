@@ -13,7 +13,10 @@ Type valueAs(const Value &value) {
     if constexpr (std::is_same_v<Type, float>) {
         return value.f32;
     } else if constexpr (std::is_same_v<Type, double>) {
-        return value.f64;
+        // On t7 it would be pushed in two halves, and its reader, in one piece, would wait for both.
+        double constant = value.f64;
+        asm("" : "+x"(constant));
+        return constant;
     } else if constexpr (std::is_pointer_v<Type>) {
         return value.pointer;
     } else {
