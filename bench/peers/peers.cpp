@@ -7,7 +7,6 @@ extern "C" const std::vector<Peer> &zelmBenchPeers() {
         std::vector<Peer> peers;
         addDecompositionPeers(peers);
         addEigenProductPeers(peers);
-        addEigenSolverPeers(peers);
         addEigenVectorPeers(peers);
         addCglmPeers(peers);
         addGlmPeers(peers);

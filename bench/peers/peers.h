@@ -9,7 +9,6 @@ namespace zelmbench {
 
 void addDecompositionPeers(std::vector<Peer> &peers);
 void addEigenProductPeers(std::vector<Peer> &peers);
-void addEigenSolverPeers(std::vector<Peer> &peers);
 void addEigenVectorPeers(std::vector<Peer> &peers);
 void addCglmPeers(std::vector<Peer> &peers);
 void addGlmPeers(std::vector<Peer> &peers);
