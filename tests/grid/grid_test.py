@@ -5,6 +5,7 @@
 """
 
 import json
+import re
 import subprocess
 import sys
 import tempfile
@@ -133,6 +134,11 @@ class Grid(unittest.TestCase):
         self.assertEqual(len({(f["operation"], f["descriptor"]) for f in self.functions}), 123)
         self.assertEqual(Counter(f["operation"] for f in self.functions), NAMES)
         self.assertEqual(Counter(f["family"] for f in self.functions), NAMES_PER_FAMILY)
+
+    def test_version_is_that_of_the_header(self):
+        header = (SOURCE / "include" / "zelm" / "version.h").read_text()
+        parts = [re.search(rf"ZELM_VERSION_{part} (\d+)", header)[1] for part in ("MAJOR", "MINOR", "PATCH")]
+        self.assertEqual(json.loads((GENERATED / "zelm-grid.json").read_text())["version"], ".".join(parts))
 
     def test_kernels(self):
         names = {

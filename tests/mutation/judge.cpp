@@ -10,6 +10,7 @@
 #include "mutant.h"
 #include "runner.h"
 
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -19,6 +20,7 @@
 #include <sstream>
 #include <string>
 #include <sys/resource.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -28,7 +30,6 @@ namespace {
 using namespace zelmtest;
 
 constexpr std::uint64_t kSeed = 20040717, kFirstCases = 8;
-constexpr rlim_t kSeconds = 2; // of the processor: a hundred times what a mutation that ends needs
 
 Arena &arena() {
     static Arena instance;
@@ -75,6 +76,23 @@ int reach(ZelmMutant &mutant, std::uint64_t cases) {
     return 0;
 }
 
+// An endless loop ends by a signal after many times what the calls take.
+void limitTime(std::uint64_t calls) {
+    const std::uint64_t microseconds = 200'000 + 200 * calls;
+    itimerval limit{};
+    limit.it_value.tv_sec = static_cast<time_t>(microseconds / 1'000'000);
+    limit.it_value.tv_usec = static_cast<suseconds_t>(microseconds % 1'000'000);
+    setitimer(ITIMER_PROF, &limit, nullptr);
+    const rlimit noFile{0, 0};
+    setrlimit(RLIMIT_CORE, &noFile);
+}
+
+const char *resultOf(int status) {
+    if (WIFSIGNALED(status))
+        return WTERMSIG(status) == SIGPROF ? "hangs" : "crashes";
+    return WEXITSTATUS(status) == 0 ? "survived" : "model";
+}
+
 // The function that notices the mutation; its number in the list, or -1.
 int firstToNotice(const std::vector<std::string> &names, std::uint64_t cases) {
     for (const auto &[first, last] :
@@ -97,21 +115,14 @@ int tryAll(ZelmMutant &mutant, std::uint64_t cases) {
         std::cout << std::flush;
         const pid_t child = fork();
         if (child == 0) {
-            const rlimit limit{kSeconds, kSeconds}, noFile{0, 0};
-            setrlimit(RLIMIT_CPU, &limit);
-            setrlimit(RLIMIT_CORE, &noFile);
+            limitTime(cases * names.size());
             mutant.active = id;
             const int noticed = firstToNotice(names, cases);
             _exit(noticed < 0 ? 0 : 1);
         }
         int status = 0;
         waitpid(child, &status, 0);
-        const char *result =
-            WIFSIGNALED(status)
-                ? (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL ? "hangs" : "crashes")
-            : WEXITSTATUS(status) == 0 ? "survived"
-                                       : "model";
-        std::cout << id << ' ' << result << std::endl;
+        std::cout << id << ' ' << resultOf(status) << std::endl;
     }
     return 0;
 }

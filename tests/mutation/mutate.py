@@ -7,7 +7,7 @@
     mutate.py list SUBSYSTEM      what could be tried
 
 Needs a finished build. A run may be stopped at any time, and goes on where it was stopped: its results lie in
-BUILD/mutation/state.json, until a source of the subsystem changes. README.md says how it works.
+BUILD/mutation/state/, until a source of the subsystem changes. README.md says how it works.
 """
 
 import argparse
@@ -40,9 +40,11 @@ EDGE_CASES = {
 
 
 class State:
+    """What was found, a file for each subsystem, so that several may run at once."""
+
     def __init__(self, build):
-        self.path = build / "mutation" / "state.json"
-        self.all = json.loads(self.path.read_text()) if self.path.exists() else {}
+        self.folder = build / "mutation" / "state"
+        self.all = {p.stem: json.loads(p.read_text()) for p in self.folder.glob("*.json")}
 
     def results(self, subsystem):
         """{key: result}, empty if the sources are no longer those that were tried."""
@@ -53,11 +55,11 @@ class State:
             mine.update(sources=digest, results={}, seconds=0, left={})
         return mine["results"]
 
-    def save(self):
-        self.path.parent.mkdir(parents=True, exist_ok=True)
-        new = self.path.with_suffix(".new")
-        new.write_text(json.dumps(self.all, indent=0))
-        new.replace(self.path)
+    def save(self, subsystem):
+        self.folder.mkdir(parents=True, exist_ok=True)
+        new = self.folder / f"{subsystem}.new"
+        new.write_text(json.dumps(self.all[subsystem], indent=0))
+        new.replace(self.folder / f"{subsystem}.json")
 
 
 def run_kernels(options, state, subsystem, until):
@@ -86,7 +88,7 @@ def run_kernels(options, state, subsystem, until):
             else:
                 results[library.mutations[number].key] = result
             if len(results) % 50 == 0:
-                state.save()
+                state.save(subsystem)
 
         for first in range(0, len(numbers), 50):
             if time.time() > until:
@@ -97,12 +99,12 @@ def run_kernels(options, state, subsystem, until):
                 random.Random(n).shuffle(names)
                 lines.append(f"{n} {' '.join(names[:functions])}\n")
             library.judge("try", cases, "".join(lines), note)
-            state.save()
+            state.save(subsystem)
         return survived
 
     for n in attempt(attempt(attempt(left, CASES, 6), CASES, 100), MORE_CASES, 24):
         results[library.mutations[n].key] = "survived the model"
-    state.save()
+    state.save(subsystem)
     try_edge_cases(
         options,
         state,
@@ -123,7 +125,7 @@ def try_edge_cases(options, state, library, numbers, subsystem, until):
         if time.time() > until:
             raise TimeoutError
         results[mutation.key] = "edge cases" if edge_cases_fail(options.build, library, subsystem, n) else "survived"
-        state.save()
+        state.save(subsystem)
 
 
 def edge_cases_fail(build, library, subsystem, number):
@@ -159,7 +161,7 @@ def run_generator(options, state, until):
         if time.time() > until:
             raise TimeoutError
         results[mutation.key] = maker.judge(mutation)
-        state.save()
+        state.save("grid")
 
 
 def run(options, state):
@@ -177,7 +179,7 @@ def run(options, state):
         finally:
             if subsystem in state.all:
                 state.all[subsystem]["seconds"] += time.time() - start
-                state.save()
+                state.save(subsystem)
     return report(options, state)
 
 

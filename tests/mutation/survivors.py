@@ -7,7 +7,7 @@ their entries. Classes:
     careful      an overlap or alignment test that says no more often: the same results, more slowly
     same         the same values by another way
     unreachable  a value that no call can have
-    untested     a test is missing
+    untested     a test is missing, or was not among those that tried it; counts as not noticed
 """
 
 from collections import Counter
