@@ -1,7 +1,7 @@
 // Dot products.
 #pragma once
 
-#include "vector/long_sum.h"
+#include "vector/pairs.h"
 #include "vector/results.h"
 
 namespace zelm::vector {
@@ -12,7 +12,10 @@ constexpr Sum kDotOrder = sizeof(T) == 8 && Object::isDense ? Sum::EvenOddThenRe
 
 template <Sum order, unsigned N, typename A, typename B>
 ZELM_INLINE auto dotOf(const A &a, const B &b) {
-    typename A::Element products[N];
+    using T = typename A::Element;
+    if constexpr (A::isDense && B::isDense && kSumsByPairs<order, T, N>)
+        return sumByPairs<order, N>(Products<T>{a.start, b.start});
+    T products[N];
 #pragma GCC unroll 6
     for (unsigned j = 0; j < N; ++j)
         products[j] = a.get(j) * b.get(j);

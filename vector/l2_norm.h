@@ -1,7 +1,7 @@
 // Euclidean lengths.
 #pragma once
 
-#include "vector/long_sum.h"
+#include "vector/pairs.h"
 #include "vector/results.h"
 #include "vector/roots.h"
 #include "vector/tested_squares.h"
@@ -31,11 +31,14 @@ ZELM_INLINE V lengthOf(V squares) {
 template <bool isDense, bool isArray, unsigned N, typename S>
 ZELM_INLINE auto fixedLength(const S &s) {
     using T = typename S::Element;
+    constexpr Sum order = kSquaresOrder<T, isDense, isArray, N>;
+    if constexpr (S::isDense && kSumsByPairs<order, T, N>)
+        return squareRoot(sumByPairs<order, N>(Squares<T>{s.start}));
     T squares[N];
 #pragma GCC unroll 6
     for (unsigned j = 0; j < N; ++j)
         squares[j] = s.get(j) * s.get(j);
-    return lengthOf<isDense>(sumOf<kSquaresOrder<T, isDense, isArray, N>>(squares));
+    return lengthOf<isDense>(sumOf<order>(squares));
 }
 
 template <typename S>
