@@ -77,6 +77,30 @@ TEST_F(Harness, FindsAWrongBit) {
         EXPECT_GT(found(target(name), wrong), 500) << name;
 }
 
+// Two callees get the same case in either order: each is judged by itself.
+TEST_F(Harness, JudgesASecondCalleeByItself) {
+    const Callee same = [](const Case &c, const auto &) { return right(c); };
+    const Callee wrong = [](const Case &c, const auto &) {
+        zelmref::ComputedElements written;
+        const ZelmStatus status = right(c, written);
+        if (!written.inOrderOfWriting().empty())
+            *bytes(written.inOrderOfWriting().back().address) ^= 1;
+        return status;
+    };
+    const Target add = target("zelmAdd_vv_64f_4x1");
+    Runner runner(arena());
+    int first = 0, second = 0;
+    for (std::uint64_t number = 0; number < cases; ++number) {
+        EXPECT_FALSE(runner.run(add, seed, number, same)) << number;
+        second += runner.again(wrong).has_value();
+        EXPECT_FALSE(runner.again(same)) << number;
+        first += runner.run(add, seed, number, wrong).has_value();
+        EXPECT_FALSE(runner.again(same)) << number;
+    }
+    EXPECT_GT(first, 500);
+    EXPECT_EQ(first, second);
+}
+
 TEST_F(Harness, FindsAWrongStatus) {
     const auto wrong = [](const Case &c, const auto &) {
         const ZelmStatus status = right(c);

@@ -1,5 +1,5 @@
-// conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--digest FILE] [--summary
-// FILE]
+// conformance [gtest options] [--seed N] [--cases N] [--function NAME [--case N]] [--also LIBRARY]...
+// [--digest FILE] [--summary FILE]
 #include "crash.h"
 #include "library.h"
 #include "options.h"
@@ -42,6 +42,10 @@ int main(int argc, char **argv) {
     const auto start = std::chrono::steady_clock::now();
     int result = RUN_ALL_TESTS();
     const std::string text = summary().text(options().seed, std::chrono::steady_clock::now() - start);
+    if (!options().function.empty() && summary().names() == 0) {
+        std::fprintf(stderr, "no function %s\n", options().function.c_str());
+        return 2;
+    }
 
     std::puts(text.c_str());
     if (!options().summary.empty() && !writeLine(options().summary, text)) {

@@ -1,18 +1,25 @@
 #include "options.h"
 
+#include <charconv>
 #include <cstdlib>
 #include <functional>
 #include <map>
 #include <stdexcept>
+#include <system_error>
 
 namespace zelmtest {
 namespace {
 
-std::uint64_t number(const std::string &text) {
-    std::size_t used = 0;
-    const std::uint64_t value = std::stoull(text, &used, 0);
-    if (used != text.size())
-        throw std::invalid_argument("not a number: " + text);
+// In decimal, or in hexadecimal behind 0x.
+std::uint64_t number(const std::string &name, const std::string &text) {
+    const bool isHex = text.starts_with("0x") || text.starts_with("0X");
+    const char *const end = text.data() + text.size();
+    std::uint64_t value = 0;
+    const auto [stop, error] = std::from_chars(text.data() + (isHex ? 2 : 0), end, value, isHex ? 16 : 10);
+    if (error == std::errc::result_out_of_range)
+        throw std::invalid_argument(name + " wants a number below 2^64, not " + text);
+    if (error != std::errc{} || stop != end)
+        throw std::invalid_argument(name + " wants a number of 0 or more, not '" + text + "'");
     return value;
 }
 
@@ -26,17 +33,18 @@ Options &options() {
 void parseOptions(int argc, char **argv) {
     Options &o = options();
     const std::map<std::string, std::function<void(const std::string &)>> known = {
-        {"--seed", [&](const std::string &v) { o.seed = number(v); }},
-        {"--cases", [&](const std::string &v) { o.cases = number(v); }},
-        {"--case", [&](const std::string &v) { o.onlyCase = number(v); }},
+        {"--seed", [&](const std::string &v) { o.seed = number("--seed", v); }},
+        {"--cases", [&](const std::string &v) { o.cases = number("--cases", v); }},
+        {"--case", [&](const std::string &v) { o.onlyCase = number("--case", v); }},
+        {"--also", [&](const std::string &v) { o.also.push_back(v); }},
         {"--function", [&](const std::string &v) { o.function = v; }},
         {"--digest", [&](const std::string &v) { o.digest = v; }},
         {"--summary", [&](const std::string &v) { o.summary = v; }},
     };
     if (const char *seed = std::getenv("ZELM_SEED"))
-        o.seed = number(seed);
+        o.seed = number("ZELM_SEED", seed);
     if (const char *cases = std::getenv("ZELM_CASES"))
-        o.cases = number(cases);
+        o.cases = number("ZELM_CASES", cases);
 
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
@@ -45,7 +53,7 @@ void parseOptions(int argc, char **argv) {
         if (option == known.end())
             throw std::invalid_argument(
                 "unknown option " + argument +
-                "; known: --seed --cases --case --function --digest --summary, each with a value");
+                "; known: --seed --cases --case --also --function --digest --summary, each with a value");
         if (equals != std::string::npos)
             option->second(argument.substr(equals + 1));
         else if (i + 1 < argc)

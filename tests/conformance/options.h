@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zelmtest {
 
@@ -11,6 +12,7 @@ struct Options {
     std::uint64_t seed = 20040717;
     std::uint64_t cases = 300;             // per function
     std::optional<std::uint64_t> onlyCase; // --case: this one alone
+    std::vector<std::string> also;         // --also: files of other builds, which get the same cases
     std::string function;                  // --function: this one alone
     std::string digest;                    // --digest: the file to write
     std::string summary;                   // --summary: likewise

@@ -43,8 +43,7 @@ public:
     std::string program(zelmref::Address differing) {
         std::string arguments;
         std::string before;
-        for (const zelmref::CArgument &argument :
-             zelmref::argumentList(case_.target->cell, case_.target->signature)) {
+        for (const zelmref::CArgument &argument : case_.target->arguments) {
             if (!arguments.empty())
                 arguments += ",\n        ";
             arguments += "/* " + argument.name + " */ " + value(argument, before);

@@ -30,6 +30,10 @@ public:
     std::optional<Mismatch> run(const Target &target, std::uint64_t seed, std::uint64_t number,
                                 const std::function<bool(Arena &, Case &)> &make, const Callee &callee);
 
+    // Runs and compares the case that ran last once more, by another callee.
+    // What it gives is not part of the digest.
+    std::optional<Mismatch> again(const Callee &callee);
+
     // The case that ran last; its memory lies in the arena as it was before the call.
     const Case &last() const { return case_; }
 
@@ -39,14 +43,18 @@ public:
     std::uint64_t takeDigest();
 
 private:
-    std::optional<Mismatch> compare(ZelmStatus expected, ZelmStatus actual);
+    enum class Digest { Leave, Add };
+    std::optional<Mismatch> callAndCompare(const Callee &callee, Digest digest);
+    std::optional<Mismatch> compare(ZelmStatus actual);
     void acceptComputedNans();
     Mismatch describe(const Window &window, std::size_t offset) const;
     void digest(ZelmStatus status);
 
     Arena &arena_;
     Case case_;
+    bool hasCase_ = false;
     zelmref::ComputedElements results_;
+    ZelmStatus expected_ = ZELM_OK;
     std::uint64_t digest_ = 0;
 };
 

@@ -15,6 +15,8 @@ public:
         calls_ += calls;
     }
 
+    std::size_t names() const { return lines_.size(); }
+
     // What the run was, on one line.
     std::string text(std::uint64_t seed, std::chrono::duration<double> time) const;
 

@@ -11,16 +11,19 @@ Target targetOf(const Function &function) {
                   zelmref::parseCell(function.operation, function.descriptor, function.type, function.size,
                                      function.layout),
                   nullptr,
+                  {},
                   {}};
     target.family = zelmref::familyOf(target.cell);
     if (target.family)
         target.signature = target.family->signature(target.cell);
+    target.arguments = zelmref::argumentList(target.cell, target.signature);
     return target;
 }
 
 std::vector<Value> valuesOf(const Target &target, const zelmref::Call &call) {
     std::vector<Value> values;
-    for (const zelmref::CArgument &argument : zelmref::argumentList(target.cell, target.signature)) {
+    values.reserve(target.arguments.size());
+    for (const zelmref::CArgument &argument : target.arguments) {
         const zelmref::Passed &passed = call.passed[argument.parameter];
         Value value{};
         switch (argument.part) {

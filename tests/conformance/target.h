@@ -11,6 +11,7 @@ struct Target {
     zelmref::Cell cell;
     const zelmref::Family *family; // null if there is no model
     zelmref::Signature signature;
+    std::vector<zelmref::CArgument> arguments; // of the C function
 };
 
 Target targetOf(const Function &function);
