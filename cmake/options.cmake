@@ -9,6 +9,7 @@ endif()
 option(ZELM_BUILD_TESTS "Build the tests (if not given: where zelm is the whole project and GoogleTest is there)"
   ${tests_by_default})
 option(ZELM_BUILD_STATIC "Build an archive as well" OFF)
+option(ZELM_BUILD_SELFTEST "Build the program zelm-selftest, which is installed with the library" ${PROJECT_IS_TOP_LEVEL})
 option(ZELM_BUILD_BENCH "Build the benchmark" OFF)
 option(ZELM_INSTALL "Install with the project" ${PROJECT_IS_TOP_LEVEL})
 option(ZELM_WARNINGS_AS_ERRORS "Take every warning for an error" OFF)

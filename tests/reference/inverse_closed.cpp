@@ -1,15 +1,11 @@
 // Invert 3x3 and 4x4: the adjugate times the reciprocal of the determinant.
+#include "approximations.h"
 #include "inverse.h"
 
 #include <algorithm>
-#include <xmmintrin.h>
 
 namespace zelmref {
 namespace {
-
-float approximateReciprocal(float x) {
-    return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x)));
-}
 
 template <class T>
 T difference(T p, T q, T r, T s) {
