@@ -1,6 +1,6 @@
 # What `cmake --install` puts where. Both targets may go into one prefix: their libraries, pkg-config files and
-# exported CMake targets have names of their own, and everything else is the same file in both. Two components, so that
-# a distribution can package them apart: runtime and development.
+# exported CMake targets have names of their own, and everything else is the same file in both. Three components, so that
+# a distribution can package them apart: runtime, development and tools.
 
 # A wide build is the library file alone, for the folder in which the loader looks first.
 if(ZELM_ISA_LEVEL)
@@ -25,6 +25,12 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/cpp/ DESTINATION ${CMAKE_INSTALL_INCLUDE
   FILES_MATCHING PATTERN "*.hpp")
 install(FILES ${ZELM_GENERATED_DIR}/zelm-grid.json DESTINATION ${CMAKE_INSTALL_DATADIR}/zelm COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+
+# The program that checks the installed library. Missing where only the library was built.
+if(ZELM_BUILD_SELFTEST)
+  install(TARGETS zelm-selftest RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools OPTIONAL)
+  install(FILES ${PROJECT_BINARY_DIR}/selftest/${ZELM_SELFTEST}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+endif()
 
 # find_package(zelm): zelm::zelm, for the consumer's pointer size.
 install(EXPORT zelm-${ZELM_TARGET}-targets NAMESPACE zelm:: DESTINATION ${ZELM_CMAKE_DIR} COMPONENT development)

@@ -100,7 +100,7 @@ class Elf:
                 return entries[: tags.index(DT["NULL"])]
         return []
 
-    def _file_offset(self, address):
+    def file_offset(self, address):
         for segment in self.segments:
             if segment.type == PT_LOAD and segment.address <= address < segment.address + segment.file_size:
                 return address - segment.address + segment.offset
@@ -110,7 +110,7 @@ class Elf:
         return [value for t, value in self.dynamic if t == DT[tag]]
 
     def dynamic_texts(self, tag):
-        strings = self._file_offset(self.dynamic_values("STRTAB")[0])
+        strings = self.file_offset(self.dynamic_values("STRTAB")[0])
         return [self._text(strings + value) for value in self.dynamic_values(tag)]
 
     def dynamic_symbols(self):

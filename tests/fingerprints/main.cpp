@@ -6,6 +6,7 @@
 #include "processor.h"
 #include "version.h"
 
+#include <bit>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
@@ -90,6 +91,14 @@ std::map<std::string, std::string> linesOf(const Fingerprints &fingerprints) {
     return lines;
 }
 
+std::size_t callsOf(const Fingerprints &fingerprints) {
+    std::size_t calls = 0;
+    for (std::size_t f = 0; f < functionCount; ++f)
+        calls += Stream::callCount(functions[f]) -
+                 static_cast<std::size_t>(std::popcount(fingerprints.functions[f].leftOut));
+    return calls;
+}
+
 int compare(const char *path) {
     const Fingerprints committed = read(path);
     Fingerprints computed = ofAll();
@@ -108,7 +117,8 @@ int compare(const char *path) {
     for (const auto &[name, line] : found)
         if (!wanted.contains(name) && ++differences)
             std::printf("%s: in the file, but no function has it\n", name.c_str());
-    std::printf("%zu functions, %d lines differ\n", computed.functions.size(), differences);
+    std::printf("%zu functions, %zu calls, %d lines differ\n", computed.functions.size(), callsOf(computed),
+                differences);
     return differences ? 1 : 0;
 }
 
