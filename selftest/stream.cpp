@@ -88,7 +88,7 @@ std::vector<Special> specialsOf(const Function &function) {
     const std::vector<std::string_view> names = operandsOf(function);
     for (std::size_t n = 0; n + 1 < names.size() && n < 2; ++n)
         if (kindsOf(function, names[n]) == kindsOf(function, names.back()))
-            for (const std::size_t variation : {2, 5}) // 2 and 17 objects
+            for (const std::size_t variation : {std::size_t{2}, std::size_t{7}}) // 2 and 17 objects
                 specials.push_back({Aim::InPlace, n, variation});
     for (std::size_t a = 0; a < function.argumentCount; ++a)
         switch (function.arguments[a].kind) {
