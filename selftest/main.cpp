@@ -1,6 +1,6 @@
 // zelm-selftest: does the installed library compute on this machine what zelm computes?
 #include "checks.h"
-#include "library.h"
+#include "loaded_library.h"
 #include "processor.h"
 #include "version.h"
 
