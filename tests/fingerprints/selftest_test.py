@@ -27,8 +27,10 @@ def last_line(text):
 
 def tampered(name, changes):
     """A copy of the library in which other code stands where a function begins."""
-    library = elf.Elf(options.library)
-    symbols = subprocess.run([options.nm, "-D", "--defined-only", options.library], capture_output=True, text=True, check=True)
+    library = elf.Elf(options.shared_object)
+    symbols = subprocess.run(
+        [options.nm, "-D", "--defined-only", options.shared_object], capture_output=True, text=True, check=True
+    )
     address = {line.split()[2]: int(line.split()[0], 16) for line in symbols.stdout.splitlines()}
     data = bytearray(library.data)
     for function, code in changes.items():
@@ -45,9 +47,9 @@ def committed():
 
 class Selftest(unittest.TestCase):
     def test_the_library_agrees(self):
-        status, out, _ = check("--library", options.library)
+        status, out, _ = check("--library", options.shared_object)
         self.assertEqual(status, 0, out)
-        self.assertIn(f"library: {Path(options.library).resolve()}\n", out)
+        self.assertIn(f"library: {Path(options.shared_object).resolve()}\n", out)
         self.assertRegex(out, r"(?m)^processor: .+, approximations [0-9a-f]{16}, (recorded on .+|not recorded yet)$")
         self.assertRegex(out, r"(?m)^OK: ")
 
@@ -72,12 +74,12 @@ class Selftest(unittest.TestCase):
         text, count = re.subn(r"(?m)^(zelmCopy_ma_32f_PL \w+ )\w", r"\1x", committed())
         self.assertEqual(count, 1)
         changed.write_text(text)
-        status, _, error = check("--library", options.library, "--fingerprints", str(changed))
+        status, _, error = check("--library", options.shared_object, "--fingerprints", str(changed))
         self.assertEqual(status, 2)
         self.assertRegex(error, r"line \d+: not a hexadecimal number")
 
         changed.write_text(re.sub(r"(?m)^(zelmCopy_ma_32f_PL \w+ )\w+", r"\g<1>0123456789abcdef", committed()))
-        status, out, _ = check("--library", options.library, "--fingerprints", str(changed))
+        status, out, _ = check("--library", options.shared_object, "--fingerprints", str(changed))
         self.assertEqual(status, 1)
         self.assertEqual(re.findall(r"(?m)^(\w+): other results$", out), ["zelmCopy_ma_32f_PL"])
 
@@ -86,7 +88,7 @@ class Selftest(unittest.TestCase):
         without.write_text(re.sub(r"(?ms)^table .*", "", committed()))
         recorded = Path(options.folder) / "recorded.txt"
         recorded.unlink(missing_ok=True)
-        status, out, _ = check("--library", options.library, "--fingerprints", str(without), "--record", str(recorded))
+        status, out, _ = check("--library", options.shared_object, "--fingerprints", str(without), "--record", str(recorded))
         self.assertEqual(status, 0, out)
         self.assertIn("not recorded yet", out)
         approximate = len(re.findall(r"(?m) approximate$", committed()))
@@ -116,7 +118,7 @@ class Selftest(unittest.TestCase):
             (["--library"], "--library wants a file"),
             (["--fingerprints", "/nonexistent"], "cannot read /nonexistent"),
             (["--fast"], "unknown argument --fast"),
-            (["--library", options.library, "--fingerprints", str(other)], "line 1: not a hexadecimal number"),
+            (["--library", options.shared_object, "--fingerprints", str(other)], "line 1: not a hexadecimal number"),
         ]:
             status, out, error = check(*arguments)
             self.assertEqual((status, out), (2, ""), arguments)
@@ -126,7 +128,7 @@ class Selftest(unittest.TestCase):
 
 if __name__ == "__main__":
     parser = argparse.ArgumentParser()
-    for name in ("program", "library", "fingerprints", "nm", "folder"):
+    for name in ("program", "shared-object", "fingerprints", "nm", "folder"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     Path(options.folder).mkdir(parents=True, exist_ok=True)
