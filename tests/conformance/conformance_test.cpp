@@ -17,7 +17,7 @@ Arena &arena() {
 
 // One build of the function under test, and what it got wrong.
 struct Build {
-    std::string library;
+    std::string file;
     Callee callee;
     std::uint64_t failures = 0, smallest = 0;
     std::size_t smallestElements = ~std::size_t{0};
@@ -50,7 +50,7 @@ std::vector<Build> buildsOf(const Function &function) {
 void tell(const Build &build, const Target &target, Runner &runner, std::uint64_t cases) {
     const char *name = target.function->name;
     const auto mismatch = runner.run(target, options().seed, build.smallest, build.callee);
-    ADD_FAILURE() << name << " of " << build.library << ": " << build.failures << " of " << cases
+    ADD_FAILURE() << name << " of " << build.file << ": " << build.failures << " of " << cases
                   << " cases fail; the smallest is --function=" << name << " --seed=" << options().seed
                   << " --case=" << build.smallest << "\n"
                   << (mismatch ? mismatch->what : "(not when it is run again: the function keeps something)")
