@@ -33,14 +33,14 @@ constexpr const char *usage =
     "Exit status: 0 if all functions agree, 1 if one doesn't, 2 if the check could not be made.\n";
 
 struct Options {
-    std::string library, fingerprints, record;
+    std::string path, fingerprints, record;
 };
 
 Options parse(int argc, char **argv) {
     Options options;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i], name = argument.substr(0, argument.find('='));
-        std::string *const value = name == "--library"        ? &options.library
+        std::string *const value = name == "--library"        ? &options.path
                                    : name == "--fingerprints" ? &options.fingerprints
                                    : name == "--record"       ? &options.record
                                                               : nullptr;
@@ -198,7 +198,7 @@ void conclude(const Outcome &outcome) {
 int run(const Options &options) {
     const Fingerprints fingerprints =
         parseFingerprints(options.fingerprints.empty() ? zelmFingerprints : contentOf(options.fingerprints));
-    const Library library(options.library);
+    const Library library(options.path);
     Check check(library, fingerprints);
     const ProcessorTable *const known = check.known();
     std::printf("library: %s\n", library.file().c_str());
