@@ -130,7 +130,7 @@ def try_edge_cases(options, state, library, numbers, subsystem, until):
 
 def edge_cases_fail(build, library, subsystem, number):
     environment = os.environ | {
-        "LD_LIBRARY_PATH": str(library.target.parent),
+        "LD_PRELOAD": str(library.target),
         "ZELM_LIBRARY_PATH": str(library.target),
         "ZELM_MUTANT": str(number),
         "ZELM_BATCH_CASES": "1",
