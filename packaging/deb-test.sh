@@ -67,7 +67,7 @@ life_of() {
 tests_of() {
     local files=("$deb"/*_"$2".deb)
     [ "$2" = i386 ] || files=("$deb"/*.deb)
-    as_root autopkgtest --no-built-binaries "${files[@]}" "$source/" -- chroot "$trees/$1"
+    as_root env -u TMPDIR autopkgtest --no-built-binaries "${files[@]}" "$source/" -- chroot "$trees/$1"
 }
 
 repository "$trees/newer" "$deb"/*.deb
