@@ -88,6 +88,23 @@ ZELM_INLINE void accumulateVector(const A &a, const X &x, const Z &z, const D &d
     }
 }
 
+// The same without a loop, for small orders.
+template <unsigned N, typename A, typename X, typename Z, typename D>
+ZELM_INLINE void accumulateVectorUnrolled(const A &a, const X &x, const Z &z, const D &d) {
+    using T = typename D::Element;
+#pragma GCC unroll 4
+    for (std::uint32_t i = 0; i < N; ++i) {
+        T sum = 0;
+        d.set(i, sum);
+#pragma GCC unroll 4
+        for (std::uint32_t t = 0; t < N; ++t) {
+            sum = sum + used(a, i, t, N) * x.get(t);
+            d.set(i, sum);
+        }
+        d.set(i, sum + z.get(i));
+    }
+}
+
 // Mul tests src1's entry ahead of src2's, Gaxpy the other way round: a null one of either ends the call
 // alike.
 template <typename A, typename X, typename Z, typename T>

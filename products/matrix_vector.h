@@ -26,6 +26,8 @@ template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, const D &d) {
     if constexpr (D::isTable)
         return accumulateVectorTested(a, x, z, d, N, N, N);
+    else if constexpr (kAdds<Z> && !D::isDense && N <= 4)
+        accumulateVectorUnrolled<N>(a, x, z, d);
     else
         multiplyVectorObject<N, D::isDense>(a, x, z, d);
     return ZELM_OK;
