@@ -132,5 +132,3 @@ ZELM_INLINE ZelmStatus arrayReadAnew(const A &a, const B &b, const D &d, Shape s
 }
 
 } // namespace zelm::elementwise
-
-#include "elementwise/departures.h"

@@ -433,9 +433,12 @@ def write_headers(directory):
 
 def unit(family, unit_members):
     subsystem = FAMILIES[family].subsystem
+    kernels = [FAMILIES[family].kernels]
+    if any(m.name in DEPARTURES and DEPARTURES[m.name].function for m in unit_members):
+        kernels.append(f"{subsystem}/departures.h")
+    includes = "".join(f'#include "{header}"\n' for header in (f"zelm/{subsystem}.h", *kernels))
     out = [
-        "// Written by grid/generate.py from grid/catalogue.py.\n"
-        f'#include "zelm/{subsystem}.h"\n#include "{FAMILIES[family].kernels}"\n\n'
+        f"// Written by grid/generate.py from grid/catalogue.py.\n{includes}\n"
         f"using namespace zelm::frame;\nusing namespace zelm::{subsystem};\n"
     ]
     out += ["\n" + definition(m) for m in unit_members]

@@ -25,5 +25,3 @@ ZELM_INLINE ZelmStatus copyMatrices(const S &s, const D &d, RunTimeShape shape, 
 }
 
 } // namespace zelm::movement
-
-#include "movement/departures.h"

@@ -86,5 +86,3 @@ ZELM_INLINE ZelmStatus extractArray(const S &s, T *dst, RunTimeShape shape, std:
 }
 
 } // namespace zelm::movement
-
-#include "movement/departures.h"

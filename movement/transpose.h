@@ -240,5 +240,3 @@ ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::
 }
 
 } // namespace zelm::movement
-
-#include "movement/departures.h"

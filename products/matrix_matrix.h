@@ -276,5 +276,3 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, FixedSi
 }
 
 } // namespace zelm::products
-
-#include "products/departures.h"

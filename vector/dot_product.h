@@ -184,5 +184,3 @@ ZELM_INLINE ZelmStatus dotArray(const A &a, const B &b, T *dst, Shape shape, std
 }
 
 } // namespace zelm::vector
-
-#include "vector/departures.h"

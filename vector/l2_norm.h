@@ -113,5 +113,3 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
 }
 
 } // namespace zelm::vector
-
-#include "vector/departures.h"
