@@ -55,7 +55,10 @@ target_compile_options(zelm_library_flags INTERFACE
   -fno-stack-protector -U_FORTIFY_SOURCE
   -fno-plt -fno-ident -fno-threadsafe-statics
   # One branch per tested pointer: g++ would otherwise gather the tests into a value, which costs more than they do.
-  $<$<CXX_COMPILER_ID:GNU>:SHELL:--param logical-op-non-short-circuit=0>)
+  $<$<CXX_COMPILER_ID:GNU>:SHELL:--param logical-op-non-short-circuit=0>
+  # Instances that serve several layouts are merged by the linker; g++'s clones with split arguments would stand once
+  # in each unit, a tenth of the library.
+  $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-sra>)
 if(ZELM_TARGET STREQUAL "t7")
   # Old callers come with a stack that is aligned to 4 bytes only; without this every kernel that spills vectors
   # would crash for them. Only functions that need it realign.

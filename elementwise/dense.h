@@ -153,15 +153,23 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
 
 // ---- invariant operands
 
-// Whether nothing that the call writes lies in the invariant, so that held or read anew makes no difference.
-template <typename Object, typename D, typename Shape>
-ZELM_INLINE bool isOutOfReach(const Object &invariant, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (D::isList) {
+// One object among arrays: its start is its own, not that of an array.
+template <typename Operand>
+constexpr bool kIsInvariant = requires(const Operand &o) {
+    o.rowStart(0u);
+};
+
+// Whether nothing that the call writes lies in an invariant, so that held or read anew makes no difference.
+template <typename Operand, typename D, typename Shape>
+ZELM_INLINE bool isOutOfReach(const Operand &operand, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (!kIsInvariant<Operand>) {
+        return true;
+    } else if constexpr (D::isList) {
         return false;
     } else {
-        const std::uint32_t rows = kIsTransposed<Object> ? shape.columns() : shape.rows();
-        const std::uint32_t columns = kIsTransposed<Object> ? shape.rows() : shape.columns();
-        const Range source = rangeOfObject(invariant, rows, columns);
+        const std::uint32_t rows = kIsTransposed<Operand> ? shape.columns() : shape.rows();
+        const std::uint32_t columns = kIsTransposed<Operand> ? shape.rows() : shape.columns();
+        const Range source = rangeOfObject(operand, rows, columns);
         const Range target = rangeOf(d, shape.rows(), shape.columns(), count);
         return count <= kMostObjectsInRange && isKnown(source) && isKnown(target) &&
                areDisjoint(source, target);
@@ -176,12 +184,6 @@ ZELM_INLINE auto hold(const Object &invariant) {
     else
         return HeldMatrix<T, Shape::rows(), Shape::columns()>(invariant);
 }
-
-// One object among arrays: its start is its own, not that of an array.
-template <typename Operand>
-constexpr bool kIsInvariant = requires(const Operand &o) {
-    o.rowStart(0u);
-};
 
 // Held: the invariant is read once, before the first object. Anew: it is read for every object.
 enum class Invariant { Held, ReadAnew };

@@ -69,6 +69,12 @@ ZELM_INLINE ZelmStatus single(const A &a, const B &b, const D &d, Shape shape) {
 
 // ---- arrays
 
+// One reading for all calls in which it makes no difference, so that one instance serves them.
+template <typename A, typename B, typename Shape>
+constexpr Invariant readingOf(Invariant reading) {
+    return Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>) ? reading : Invariant::Held;
+}
+
 // One instance serves the standard form and the forms with strides that turn out to be dense. Operands by
 // value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
@@ -85,29 +91,45 @@ ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape 
     return forEachObject(count, one, a, b, d);
 }
 
-template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (decltype(d.object(0))::isDense) {
-        constexpr bool hasInvariant = kIsInvariant<A> || kIsInvariant<B>;
-        return denseObjects < Op, hasInvariant ? reading : Invariant::Held > (a, b, d, shape, count);
-    } else {
-        if constexpr (D::isSideBySide)
-            if (runPerPosition<Op>(a, b, d, shape, count))
-                return ZELM_OK;
-        return objectsInOrder<Op>(a, b, d, shape, count);
-    }
+// One instance serves P and PS2.
+template <typename Op, typename A, typename B, typename T, typename Shape>
+__attribute__((noinline)) ZelmStatus tabledObjects(A a, B b, TableArray<T> d, Shape shape,
+                                                   std::uint32_t count) {
+    return objectsInOrder<Op>(a, b, d, shape, count);
 }
 
-// The layouts with strides whose operands turn out to be plainer ones: an invariant is read anew in all of
-// them. A transposed operand of adjacent elements is gathered as a strided one is, which gains nothing.
+// The layouts with strides whose operands turn out to be plainer ones read an invariant anew: it may be held
+// where nothing is written in it. A transposed operand of adjacent elements is gathered as a strided one is,
+// which gains nothing.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus plainestObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    constexpr bool gathers = !D::isTable && (kIsTransposed<A> || kIsTransposed<B>);
-    if constexpr (kHavePlainer<D> && !gathers) {
-        if (isPlainer(a) && isPlainer(b) && isPlainer(d))
-            return objects<Op, Invariant::ReadAnew>(plainest(a), plainest(b), plainest(d), shape, count);
+ZELM_INLINE ZelmStatus stridedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (!kIsTransposed<A> && !kIsTransposed<B>) {
+        if (isPlainer(a) && isPlainer(b) && isPlainer(d)) {
+            const auto first = plainest(a);
+            const auto second = plainest(b);
+            const auto result = plainest(d);
+            constexpr Invariant anew = readingOf<A, B, Shape>(Invariant::ReadAnew);
+            if constexpr (anew == Invariant::Held || D::isList || reading == Invariant::ReadAnew)
+                return denseObjects<Op, anew>(first, second, result, shape, count);
+            else if (isOutOfReach(first, result, shape, count) && isOutOfReach(second, result, shape, count))
+                return denseObjects<Op, reading>(first, second, result, shape, count);
+        }
     }
-    return objects<Op, reading>(a, b, d, shape, count);
+    return objectsInOrder<Op>(a, b, d, shape, count);
+}
+
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+    if constexpr (D::isTable) {
+        if (isPlainer(a) && isPlainer(b) && isPlainer(d) &&
+            runPerPosition<Op>(plainest(a), plainest(b), plainest(d), shape, count))
+            return ZELM_OK;
+        return tabledObjects<Op>(withObjectStride(a), withObjectStride(b), withObjectStride(d), shape, count);
+    } else if constexpr (decltype(d.object(0))::isDense) {
+        return denseObjects<Op, readingOf<A, B, Shape>(reading)>(a, b, d, shape, count);
+    } else {
+        return stridedObjects<Op, reading>(a, b, d, shape, count);
+    }
 }
 
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
@@ -116,7 +138,7 @@ ZELM_INLINE ZelmStatus checkedArray(const A &a, const B &b, const D &d, Shape sh
     if (ZelmStatus status = checkArray(shape.isZero(), count, tested(a, n), tested(b, n), tested(d, n));
         status != kProceed)
         return status;
-    return plainestObjects<Op, reading>(a, b, d, shape, count);
+    return objects<Op, reading>(a, b, d, shape, count);
 }
 
 // Add and Sub: an invariant operand is held in the fixed-size standard and L forms, read anew in all others.

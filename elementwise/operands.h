@@ -28,6 +28,11 @@ ZELM_INLINE auto plainest(const Scaled<Operand> &s) {
     return Scaled<std::remove_cvref_t<decltype(plain)>>(plain, s.factor);
 }
 
+template <typename T>
+ZELM_INLINE auto withObjectStride(const Scaled<PackedTableArray<T>> &s) {
+    return Scaled(frame::withObjectStride(static_cast<const PackedTableArray<T> &>(s)), s.factor);
+}
+
 template <typename Plain, typename Shape>
 ZELM_INLINE auto value(const Scaled<Plain> &object, std::uint32_t i, std::uint32_t j, Shape shape) {
     return object.get(i, j, shape.columns()) * object.factor;

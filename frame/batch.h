@@ -93,9 +93,10 @@ ZELM_INLINE bool isApartFrom(const Memory &buffer, const Touched &touched, std::
     return isKnown(range) && areDisjoint(range, buffer.range(0, count));
 }
 
+// One instance serves all sizes and families.
 template <typename Memory, typename D, typename... S>
-ZELM_INLINE bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Result<D> &d,
-                             const Source<S> &...s) {
+__attribute__((noinline)) bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Result<D> &d,
+                                           const Source<S> &...s) {
     if (count > kMostObjectsInRange || !elementsAreApart(d.operand, d.rows, d.columns, count) ||
         !(mayRead(s, d, count) && ...))
         return false;
@@ -288,6 +289,26 @@ ZELM_INLINE bool resultsAscend(const Result<D> &d, std::uint32_t first, std::uin
     return true;
 }
 
+// What holds for a stretch as a whole. What doesn't, its groups ask for themselves.
+struct StretchFacts {
+    bool missesInvariants, isApart, ascends;
+    bool isNear; // its results, each other
+};
+
+// One instance serves all sizes and families.
+template <typename Memory, typename D, typename... S>
+__attribute__((noinline)) StretchFacts factsOfStretch(std::uint32_t first, std::uint32_t last,
+                                                      const Memory &buffer, const Result<D> &d,
+                                                      const Source<S> &...s) {
+    const Range target = rangeOfStretch(d, first, last);
+    if (!missesInvariants(target, buffer, s...))
+        return {false, false, false, false};
+    if (!tablesAreApart(first, last, target, buffer, d.operand, s.operand...))
+        return {true, false, false, false};
+    return {true, stretchIsApart(first, last, target, buffer, s...), resultsAscend(d, first, last),
+            target.high - target.low < kNear};
+}
+
 // Whether a group's results lie apart from each other.
 template <unsigned lanes, typename D>
 ZELM_INLINE bool resultsAreApart(const Result<D> &d, std::uint32_t k) {
@@ -425,20 +446,17 @@ ZELM_INLINE ZelmStatus runObjects(std::uint32_t k, std::uint32_t end, bool group
 template <typename V, typename Memory, typename GroupStep, typename One, typename D, typename... S>
 ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, GroupStep group, One one,
                                     const Result<D> &d, const Source<S> &...s) {
-    const bool distinct = objectElementsAreApart(d.operand, d.rows, d.columns);
-    bool grouped = distinct;
+    bool grouped = objectElementsAreApart(d.operand, d.rows, d.columns);
     for (std::uint32_t first = 0; first < count;) {
         const std::uint32_t last = count - first > kStretch ? first + kStretch : count;
-        const Range target = rangeOfStretch(d, first, last);
-        grouped = grouped && missesInvariants(target, buffer, s...);
-        const bool lasting = grouped && tablesAreApart(first, last, target, buffer, d.operand, s.operand...);
-        const bool apart = lasting && stretchIsApart(first, last, target, buffer, s...);
-        const bool ascend = lasting && resultsAscend(d, first, last);
-        const bool near = lasting && target.high - target.low < kNear;
+        StretchFacts stretch = {};
+        if (grouped)
+            stretch = factsOfStretch(first, last, buffer, d, s...);
+        grouped = stretch.missesInvariants;
         const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
-            return (ascend || resultsAreApart<lanes>(d, k, near)) &&
-                   (apart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);
+            return (stretch.ascends || resultsAreApart<lanes>(d, k, stretch.isNear)) &&
+                   (stretch.isApart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);
         };
         if (ZelmStatus status = runObjects<V>(first, last, grouped, guarded, one, s.operand..., d.operand);
             status != ZELM_OK)

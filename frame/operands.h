@@ -178,6 +178,8 @@ struct TableArray : TableEntries<T> {
     Address shift, objStride;
     ZELM_INLINE TableArray(T *const *entries, std::int32_t bytes, std::int32_t obj)
         : TableEntries<T>(entries), shift(distance(bytes)), objStride(distance(obj)) {}
+    ZELM_INLINE TableArray(T *const *entries, Address bytes, Address obj)
+        : TableEntries<T>(entries), shift(bytes), objStride(obj) {}
     ZELM_INLINE Table<T> object(std::uint32_t k) const { return {this->table, shift + k * objStride}; }
 };
 

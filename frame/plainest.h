@@ -62,6 +62,20 @@ ZELM_INLINE auto plainest(const Transposed<Stored> &s) {
         plainest(static_cast<const Stored &>(s))));
 }
 
+// The other way round, for what serves both layouts of tables: P as PS2 with the element size for a stride.
+template <typename Operand>
+ZELM_INLINE const Operand &withObjectStride(const Operand &operand) {
+    return operand;
+}
+template <typename T>
+ZELM_INLINE TableArray<T> withObjectStride(const PackedTableArray<T> &s) {
+    return {s.table, s.shift, s.objStride};
+}
+template <typename T>
+ZELM_INLINE auto withObjectStride(const Transposed<PackedTableArray<T>> &s) {
+    return Transposed(withObjectStride(static_cast<const PackedTableArray<T> &>(s)));
+}
+
 // Whether any of the types has a plainer one.
 template <typename... Operands>
 constexpr bool kHavePlainer =

@@ -159,7 +159,7 @@ ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint3
 
 // All other forms: a line reads what it needs when the lines before it are stored.
 template <typename A, typename B, typename D>
-ZELM_INLINE ZelmStatus crossByLines(const A &a, const B &b, const D &d, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
     const auto first = asLinesRead(a);
     const auto second = asLinesRead(b);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {

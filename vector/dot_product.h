@@ -136,8 +136,9 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 
 // ---- arrays
 
+// One instance serves the layouts that come to the same operands and the same order.
 template <Sum order, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE ZelmStatus dotInOrder(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         if constexpr (Shape::isFixed)

@@ -269,8 +269,8 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
 
 // All other arrays.
 template <typename S, typename T, typename Shape>
-ZELM_INLINE ZelmStatus frobeniusByColumns(const S &s, const DenseArray<T> &results, Shape shape,
-                                          std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape shape,
+                                                        std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
         return ZELM_OK;

@@ -69,7 +69,7 @@ ZELM_INLINE ZelmStatus l2NormSingle(const S &s, T *dst, Shape shape) {
 
 // isDense: whether the called form is one of the standard and L layouts, which have a root of their own.
 template <bool isDense, typename S, typename T, typename Shape>
-ZELM_INLINE ZelmStatus lengthsOf(const S &s, T *dst, Shape shape, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         if constexpr (Shape::isFixed)

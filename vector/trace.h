@@ -53,7 +53,7 @@ ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
 }
 
 template <typename S, typename T, typename Size>
-ZELM_INLINE ZelmStatus tracesOf(const S &s, const DenseArray<T> &results, Size size, std::uint32_t count) {
+__attribute__((noinline)) ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
             results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
