@@ -1,4 +1,6 @@
-// The six memory layouts: what the arguments of an operand mean. No other code knows a layout.
+// The six memory layouts: what the arguments of an operand mean. What follows from a layout is the frame's:
+// how groups are loaded (groups.h), which bytes objects cover (overlap.h), what strides may make of it
+// (plainest.h).
 //
 //   one object                  an array of objects
 //   Dense     absent, L         DenseArray         absent

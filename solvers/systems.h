@@ -1,12 +1,13 @@
 // Many systems A*x = b: with a matrix for each of them, or with one for all, whose factors are held.
 //
 // A method of solving says of systems of order N
-//   Factors<F>                      what it keeps of the matrices: F is a pack, one matrix per lane, or a
-//   block
-//                                   whose lanes are all alike, one matrix for all
-//   loadGroup(a, b, k, factors, x)  reads matrices and right sides of a group; false where it can't be solved
-//   so hold(a, factors)                reads the one matrix; false likewise loadRight(b, k, x) reads the
-//   right sides of a group beside held factors solve(factors, x)               makes solutions of right sides
+// - Factors<F>: what it keeps of the matrices. F is a pack, one matrix per lane, or a block whose lanes are
+//   all alike, one matrix for all.
+// - loadGroup(a, b, k, factors, x): reads matrices and right sides of a group; false where it can't be solved
+//   so.
+// - hold(a, factors): reads the one matrix; false likewise.
+// - loadRight(b, k, x): reads the right sides of a group beside held factors.
+// - solve(factors, x): makes solutions of right sides.
 #pragma once
 
 #include "solvers/groups.h"
