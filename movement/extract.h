@@ -33,12 +33,14 @@ ZELM_INLINE ZelmStatus extractSingle(const S &s, T *dst, RunTimeShape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), s, Pointer(dst)); status != kProceed)
         return status;
     const DenseArray<T> packed = packedAt(dst, shape);
-    if constexpr (!S::isTable && !kIsTransposed<S>)
-        if (isPlainer(s) && isApart(s, packed, shape, 1)) {
-            const auto rows = plainest(s);
-            moveRowsOf(rows, packed.object(0), shape, rowsAreJoined(rows, packed, shape));
+    if constexpr (!S::isTable && !kIsTransposed<S>) {
+        const Address bytes = shape.elements() * sizeof(T);
+        if (isPlainer(s) && std::uint64_t{shape.height} * shape.width <= kMostInGroups &&
+            rowsAreJoined(s, packed, shape) && areDisjoint(s.start, bytes, packed.start, bytes)) {
+            moveRun<T>(packed.start, s.start, shape.elements());
             return ZELM_OK;
         }
+    }
     moveObject(s, packed.object(0), shape);
     return ZELM_OK;
 }
