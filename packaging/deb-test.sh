@@ -62,8 +62,12 @@ life_of() {
 }
 
 # tests_of NAME: the packages' own tests, in packaging/debian/tests. They get the packages from where life_of left off.
+# All must run on amd64; those of amd64 are skipped on i386, which is status 2.
 tests_of() {
-    as_root env -u TMPDIR autopkgtest --no-built-binaries "$source/" -- chroot "$trees/$1"
+    local status=0 fine=0
+    [ "$(inside "$1" dpkg --print-architecture)" = amd64 ] || fine=2
+    as_root env -u TMPDIR autopkgtest --no-built-binaries "$source/" -- chroot "$trees/$1" || status=$?
+    [ $status = $fine ]
 }
 
 repository "$trees/newer" "$deb"/*.deb
