@@ -119,7 +119,7 @@ struct HeldVectorOf {
     ZELM_INLINE explicit HeldVectorOf(const X &x) {
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t) {
-            element[t] = x.get(t);
+            element[t] = N % kLanes<T> == 1 ? loadedOnce(x.get(t)) : x.get(t);
             spread[t] = broadcast(element[t]);
         }
     }
