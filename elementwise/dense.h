@@ -46,6 +46,12 @@ ZELM_INLINE TransposedStream<T, Shape::columns()> inputOf(const Transposed<Dense
     return {object};
 }
 
+template <typename Shape>
+requires(Shape::isFixed &&Shape::rows() == 4 && Shape::columns() == 4) ZELM_INLINE TransposedFour
+    inputOf(const Transposed<Dense<const float>> &object) {
+    return TransposedFour(object);
+}
+
 template <typename Operand>
 constexpr bool kIsConstant = false;
 template <typename T>

@@ -148,6 +148,23 @@ struct TransposedStream {
     static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
+// Four rows of four elements of 32-bit float used transposed: read as rows, and ahead of all that is written.
+struct TransposedFour {
+    Floats4 row[4];
+    ZELM_INLINE explicit TransposedFour(const Dense<const float> &stored) {
+#pragma GCC unroll 4
+        for (unsigned i = 0; i < 4; ++i)
+            row[i] = loadPack<float>(stored.rowStart(i));
+        transposeFour(row[0], row[1], row[2], row[3]);
+    }
+    ZELM_INLINE float element(Address e) const { return row[e / 4][e % 4]; }
+    template <typename V>
+    ZELM_INLINE V pack(Address e, unsigned) const {
+        return fromBlocks<V>([this, e](unsigned b) __attribute__((always_inline)) { return row[e / 4 + b]; });
+    }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
+};
+
 // An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
 template <typename V, typename Input>
 ZELM_INLINE const Input &inRegisters(const Input &input) {
@@ -201,13 +218,32 @@ ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Add
         return i;
 }
 
-template <typename Op, typename T, typename A, typename B>
-ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
+template <typename Op, typename V, typename A, typename B>
+ZELM_INLINE void runFrom(const A &a, const B &b, Address dst, Address length) {
+    using T = ElementOf<V>;
     Address i = 0;
     if (length >= 2 * kLanes<T>)
-        i = runPacks<Op, Pack<T, kRunBytes>>(a, b, dst, i, length);
+        i = runPacks<Op, V>(a, b, dst, i, length);
     for (; i < length; ++i)
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+}
+
+// Wide packs are worth their tests from a round of them on. They stand apart, so that a loop over short rows is
+// what it is without them.
+template <typename T>
+constexpr Address kLongRun = 4 * kRunBytes / sizeof(T);
+
+template <typename Op, typename T, typename A, typename B>
+__attribute__((noinline)) void longRun(A a, B b, Address dst, Address length) {
+    runFrom<Op, Pack<T, kRunBytes>>(a, b, dst, length);
+}
+
+template <typename Op, typename T, typename A, typename B>
+ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
+    if constexpr (kRunBytes > kBlockBytes)
+        if (length >= kLongRun<T>)
+            return longRun<Op, T>(a, b, dst, length);
+    runFrom<Op, Pack<T>>(a, b, dst, length);
 }
 
 // The same for the elements i to N - 1, without a loop.
