@@ -137,7 +137,7 @@ struct TransposedStream {
     }
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
-        return fromBlocks<V>([this, e](unsigned b) __attribute__((always_inline)) {
+        return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
             const Address at = e + b * kLanes<T>;
             if constexpr (sizeof(T) == 4)
                 return _mm_setr_ps(element(at), element(at + 1), element(at + 2), element(at + 3));
@@ -157,12 +157,16 @@ struct TransposedFour {
             row[i] = loadPack<float>(stored.rowStart(i));
         transposeFour(row[0], row[1], row[2], row[3]);
     }
-    ZELM_INLINE float element(Address e) const { return row[e / 4][e % 4]; }
+    ZELM_INLINE float element(Address e) const {
+        return row[e / 4][e % 4];
+    }
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
-        return fromBlocks<V>([this, e](unsigned b) __attribute__((always_inline)) { return row[e / 4 + b]; });
+        return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) { return row[e / 4 + b]; });
     }
-    static constexpr bool isCloselyBehind(Address, Address) { return false; }
+    static constexpr bool isCloselyBehind(Address, Address) {
+        return false;
+    }
 };
 
 // An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
@@ -181,7 +185,8 @@ struct HeldPacks {
 };
 
 template <typename V, typename T, unsigned N>
-requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE auto inRegisters(const HeldVector<T, N> &input) {
+requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE
+    auto inRegisters(const HeldVector<T, N> &input) {
     constexpr unsigned number = HeldVector<T, N>::template period<V>;
     HeldPacks<V, number> packs;
 #pragma GCC unroll 3
@@ -228,8 +233,8 @@ ZELM_INLINE void runFrom(const A &a, const B &b, Address dst, Address length) {
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
 }
 
-// Wide packs are worth their tests from a round of them on. They stand apart, so that a loop over short rows is
-// what it is without them.
+// Wide packs are worth their tests from a round of them on. They stand apart, so that a loop over short rows
+// is what it is without them.
 template <typename T>
 constexpr Address kLongRun = 4 * kRunBytes / sizeof(T);
 

@@ -38,8 +38,8 @@ ZELM_INLINE void scatterBlock(const Address *at, Doubles2 value) {
 template <typename V>
 ZELM_INLINE V gather(const Address *at) {
     using T = ElementOf<V>;
-    return fromBlocks<V>(
-        [at](unsigned b) __attribute__((always_inline)) { return gatherBlock(at + b * kLanes<T>, T{}); });
+    return fromBlocks<V>([at](unsigned b)
+                             __attribute__((always_inline)) { return gatherBlock(at + b * kLanes<T>, T{}); });
 }
 
 template <typename V>
@@ -55,7 +55,7 @@ ZELM_INLINE void scatter(const Address *at, V value) {
 template <typename V>
 ZELM_INLINE V loadBlocks(const Address *at, Address offset) {
     using T = ElementOf<V>;
-    return fromBlocks<V>([at, offset](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
         return loadPack<T>(at[b * kLanes<T>] + offset);
     });
 }
@@ -63,7 +63,7 @@ ZELM_INLINE V loadBlocks(const Address *at, Address offset) {
 template <typename V>
 ZELM_INLINE void storeBlocks(const Address *at, Address offset, V value) {
     toBlocks(
-        value, [at, offset](unsigned b, auto block) __attribute__((always_inline)) {
+        value, [&](unsigned b, auto block) __attribute__((always_inline)) {
             storePack(at[b * kLanes<ElementOf<V>>] + offset, block);
         });
 }
@@ -71,7 +71,7 @@ ZELM_INLINE void storeBlocks(const Address *at, Address offset, V value) {
 // Two elements of each of the first two objects of a block.
 template <typename V>
 ZELM_INLINE V loadPairs(const Address *at, Address offset) {
-    return fromBlocks<V>([at, offset](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
         return loadTwoAndTwo(at[b * 4] + offset, at[b * 4 + 1] + offset);
     });
 }
@@ -79,7 +79,7 @@ ZELM_INLINE V loadPairs(const Address *at, Address offset) {
 template <typename V>
 ZELM_INLINE void storePairs(const Address *at, Address offset, V value) {
     toBlocks(
-        value, [at, offset](unsigned b, auto block) __attribute__((always_inline)) {
+        value, [&](unsigned b, auto block) __attribute__((always_inline)) {
             _mm_storel_pi(reinterpret_cast<__m64 *>(at[b * 4] + offset), block);
             _mm_storeh_pi(reinterpret_cast<__m64 *>(at[b * 4 + 1] + offset), block);
         });
@@ -172,7 +172,7 @@ ZELM_INLINE void storeAdjacent(const Address *at, const V *in) {
 
 template <typename V>
 ZELM_INLINE V loadThird(Address at, unsigned third) {
-    return fromBlocks<V>([at, third](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
         return loadPack<ElementOf<V>>(at + (b * 3 + third) * kBlockBytes);
     });
 }
@@ -180,7 +180,7 @@ ZELM_INLINE V loadThird(Address at, unsigned third) {
 template <typename V>
 ZELM_INLINE void storeThird(Address at, unsigned third, V value) {
     toBlocks(
-        value, [at, third](unsigned b, auto block)
+        value, [&](unsigned b, auto block)
                    __attribute__((always_inline)) { storePack(at + (b * 3 + third) * kBlockBytes, block); });
 }
 

@@ -39,9 +39,7 @@ struct LuThroughDst {
     }
     ZELM_INLINE void setRow(std::uint32_t i, std::uint32_t r) const { store(pivots + Address{i} * 4, r); }
     ZELM_INLINE T element(std::uint32_t i, std::uint32_t j) const { return d.get(row(i), j, n); }
-    ZELM_INLINE static bool isPivot(T element) {
-        return magnitude(element) >= static_cast<T>(kLuThreshold);
-    }
+    ZELM_INLINE static bool isPivot(T element) { return magnitude(element) >= static_cast<T>(kLuThreshold); }
 
     // The row of largest magnitude in column k takes place k.
     ZELM_INLINE std::uint32_t choosePivotRow(std::uint32_t k) const {
@@ -236,7 +234,7 @@ ZELM_INLINE void storeOrder(const V (&order)[N], Address pivots) {
         V numbers[N];
 #pragma GCC unroll 6
         for (unsigned i = 0; i < N; ++i)
-            numbers[i] = (V)__builtin_convertvector(order[i], Numbers);
+            numbers[i] = (V) __builtin_convertvector(order[i], Numbers);
         LaneAddresses<V> at;
 #pragma GCC unroll 16
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
@@ -246,7 +244,7 @@ ZELM_INLINE void storeOrder(const V (&order)[N], Address pivots) {
 #pragma GCC unroll 6
         for (unsigned i = 0; i < N; ++i)
             toBlocks(
-                order[i], [pivots, i](unsigned b, Doubles2 two) __attribute__((always_inline)) {
+                order[i], [&](unsigned b, Doubles2 two) __attribute__((always_inline)) {
                     const __m128i numbers = _mm_cvttpd_epi32(two);
                     store(pivots + (2 * b * N + i) * 4, _mm_cvtsi128_si32(numbers));
                     store(pivots + ((2 * b + 1) * N + i) * 4,
