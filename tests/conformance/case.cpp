@@ -651,6 +651,9 @@ private:
         const Placement &first = case_.operands[firstTable()];
         if (&first == &o || o.slab != first.slab || o.entries != first.entries)
             return false;
+        if (relation_ == Relation::Interleaved &&
+            o.perObject != first.perObject) // each has a shift of its own
+            return false;
         return o.origin == first.origin || (relation_ == Relation::Interleaved && o.perObject);
     }
 
