@@ -222,8 +222,14 @@ function tableSetup(member, operand, element, transposed = false) {
     if (operand.kind[0] !== "m") {
         return [`${constant}${type} *${table}[${operand.rows}];`, loop("j", operand.rows), `    ${table}[j] = ${entry};`];
     }
-    return [`${constant}${type} *${table}[${operand.rows} * ${operand.columns}];`,
-        `${loop("i", operand.rows)}`, `    ${loop("j", operand.columns)}`, `        ${table}[${place}] = ${entry};`];
+    const used = `${operand.rows} * ${operand.columns}`;
+    const fill = [`${loop("i", operand.rows)}`, `    ${loop("j", operand.columns)}`, `        ${table}[${place}] = ${entry};`];
+    // A product of any shape tests as many entries for null as its inner dimension squared, used or not.
+    if (operand.name === "dst" && member.operation === "Mul" && shapesOf(member).given.src1Width === "INNER") {
+        return [`${constant}${type} *${table}[${used} + INNER * INNER];`, ...fill,
+            `for (int e = ${used}; e < INNER * INNER; e++)`, `    ${table}[e] = ${table}[0];`];
+    }
+    return [`${constant}${type} *${table}[${used}];`, ...fill];
 }
 
 // The statements for the tables that a call names.
