@@ -109,23 +109,23 @@ struct Turned {
 
 // What an operand is: 'v', 'm' or 's' (one number); absent if 0.
 template <char shape_, bool isArray_ = false, bool isTransposed_ = false>
-struct Spec {
+struct OperandForm {
     static constexpr char shape = shape_;
     static constexpr bool isArray = isArray_, isTransposed = isTransposed_;
 };
 
 // Object k of an operand; dense operands have no gaps in any layout.
-template <class T, class Spec, Layout layout, bool isDense, class N>
+template <class T, class OperandForm, Layout layout, bool isDense, class N>
 [[gnu::always_inline]] inline auto objectOf(const Operand &operand, std::size_t k, N n) {
     constexpr std::size_t spread = isDense ? 1 : spreadOf(layout);
-    if constexpr (Spec::shape == 's') {
+    if constexpr (OperandForm::shape == 's') {
         return InLine<T, 1, N>{static_cast<T *>(operand.data) + k, n};
     } else if constexpr (isPlanes(layout)) {
         return InPlanes<T, N>{reinterpret_cast<T *const *>(operand.table), k * spread, n};
-    } else if constexpr (isList(layout) && Spec::isArray) {
+    } else if constexpr (isList(layout) && OperandForm::isArray) {
         return InLine<T, spread, N>{static_cast<T *>(operand.table[k]), n};
     } else {
-        const std::size_t elements = Spec::shape == 'm' ? n * n : static_cast<std::size_t>(n);
+        const std::size_t elements = OperandForm::shape == 'm' ? n * n : static_cast<std::size_t>(n);
         return InLine<T, spread, N>{static_cast<T *>(operand.data) + k * elements * spread, n};
     }
 }

@@ -12,7 +12,7 @@ namespace {
 struct SolverTraits : KernelTraits {
     static constexpr bool isSolver = true;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 };
 
 // Gaussian elimination in dst, whose rows stay where they are.

@@ -39,11 +39,11 @@ constexpr std::array<Parsed, 3> parse(const Text<size> &descriptor) {
 }
 
 template <Text descriptor, std::size_t i>
-using SpecAt =
-    Spec<parse(descriptor)[i].shape, parse(descriptor)[i].isArray, parse(descriptor)[i].isTransposed>;
+using OperandFormAt =
+    OperandForm<parse(descriptor)[i].shape, parse(descriptor)[i].isArray, parse(descriptor)[i].isTransposed>;
 
 template <class First, class Second, class Third, class Result>
-struct Specs {
+struct OperandForms {
     using Src1 = First;
     using Src2 = Second;
     using Src3 = Third;
@@ -52,8 +52,9 @@ struct Specs {
 
 // Those of a row whose sources are what its descriptor says.
 template <Text descriptor, char resultShape>
-using SpecsFor = Specs<SpecAt<descriptor, 0>, SpecAt<descriptor, 1>, Spec<0>,
-                       Spec<resultShape, SpecAt<descriptor, 0>::isArray || SpecAt<descriptor, 1>::isArray>>;
+using OperandFormsFor = OperandForms<
+    OperandFormAt<descriptor, 0>, OperandFormAt<descriptor, 1>, OperandForm<0>,
+    OperandForm<resultShape, OperandFormAt<descriptor, 0>::isArray || OperandFormAt<descriptor, 1>::isArray>>;
 
 // The exported name of a function; size 0 is its run-time form.
 std::string memberName(const char *operation, const char *descriptor, std::size_t elementBytes, bool isVector,

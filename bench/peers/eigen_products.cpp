@@ -8,7 +8,7 @@ namespace {
 struct Product : EigenTraits {
     static constexpr const char *operation = "Mul";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 
     static void object(auto, const auto &a, const auto &b, int, auto d, const auto &) {
         matrixOf(d).noalias() = matrixOf(a) * matrixOf(b);
@@ -18,7 +18,7 @@ struct Product : EigenTraits {
 struct VectorProduct : EigenTraits {
     static constexpr const char *operation = "Mul";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'v'>;
+    using OperandForms = OperandFormsFor<descriptor, 'v'>;
 
     static void object(auto, const auto &a, const auto &b, int, auto d, const auto &) {
         vectorOf(d).noalias() = matrixOf(a) * vectorOf(b);
@@ -28,8 +28,8 @@ struct VectorProduct : EigenTraits {
 struct Gaxpy : EigenTraits {
     static constexpr const char *operation = "Gaxpy";
     template <Text descriptor>
-    using Specs =
-        zelmbench::Specs<Spec<'m'>, SpecAt<descriptor, 0>, SpecAt<descriptor, 0>, SpecAt<descriptor, 0>>;
+    using OperandForms = zelmbench::OperandForms<OperandForm<'m'>, OperandFormAt<descriptor, 0>,
+                                                 OperandFormAt<descriptor, 0>, OperandFormAt<descriptor, 0>>;
 
     static void object(auto, const auto &a, const auto &x, const auto &y, auto d, const auto &) {
         vectorOf(d).noalias() = matrixOf(a) * vectorOf(x) + vectorOf(y);

@@ -10,7 +10,7 @@ namespace {
 struct Dot : EigenTraits {
     static constexpr const char *operation = "DotProduct";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     static void object(auto, const auto &a, const auto &b, int, auto d, const auto &) {
         d(0) = vectorOf(a).dot(vectorOf(b));
@@ -21,7 +21,7 @@ struct Cross : EigenTraits {
     static constexpr const char *operation = "CrossProduct";
     static constexpr bool hasSizes = false;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'v'>;
+    using OperandForms = OperandFormsFor<descriptor, 'v'>;
 
     static void object(auto, const auto &a, const auto &b, int, auto d, const auto &) {
         vectorOf(d) = vectorOf(a).cross(vectorOf(b));
@@ -31,7 +31,7 @@ struct Cross : EigenTraits {
 struct Length : EigenTraits {
     static constexpr const char *operation = "L2Norm";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     static void object(auto, const auto &a, int, int, auto d, const auto &) { d(0) = vectorOf(a).norm(); }
 };
@@ -39,7 +39,7 @@ struct Length : EigenTraits {
 struct Frobenius : EigenTraits {
     static constexpr const char *operation = "FrobNorm";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     static void object(auto, const auto &a, int, int, auto d, const auto &) { d(0) = matrixOf(a).norm(); }
 };
@@ -47,7 +47,7 @@ struct Frobenius : EigenTraits {
 struct Transposition : EigenTraits {
     static constexpr const char *operation = "Transpose";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 
     static void object(auto, const auto &a, int, int, auto d, const auto &) {
         matrixOf(d) = matrixOf(a).transpose();

@@ -68,7 +68,7 @@ template <class Operation, bool isMatrix>
 struct Elements : KernelTraits {
     static constexpr const char *operation = Operation::name;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, SpecAt<descriptor, 0>::shape>;
+    using OperandForms = OperandFormsFor<descriptor, OperandFormAt<descriptor, 0>::shape>;
 
     template <class T>
     static void object(auto n, const auto &a, const auto &b, int, auto d, const Extras<T> &extras) {

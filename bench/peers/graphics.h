@@ -35,9 +35,9 @@ struct Graphics : KernelTraits {
     static constexpr bool isNumber = what == What::Determinant || what == What::Dot || what == What::Norm;
     static constexpr bool isVector = what == What::VectorProduct || what == What::Cross;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, isNumber   ? 's'
-                                       : isVector ? 'v'
-                                                  : 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, isNumber   ? 's'
+                                                     : isVector ? 'v'
+                                                                : 'm'>;
 
     template <class N, class T>
     static void object(N, const auto &a, const auto &b, int, auto d, const Extras<T> &) {

@@ -73,7 +73,7 @@ struct Determinant : KernelTraits {
     static constexpr const char *operation = "Det";
     static constexpr bool isSolver = true;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     template <class N, class T>
     static void object(N n, const auto &a, int, int, auto d, const Extras<T> &) {
@@ -168,7 +168,7 @@ struct Inverse : KernelTraits {
     static constexpr const char *operation = "Invert";
     static constexpr bool isSolver = true;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 
     template <class N, class T>
     static void object(N n, const auto &a, int, int, auto d, const Extras<T> &) {

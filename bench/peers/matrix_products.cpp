@@ -8,7 +8,7 @@ namespace {
 struct Product : KernelTraits {
     static constexpr const char *operation = "Mul";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 
     template <class N, class T>
     static void object(N n, const auto &a, const auto &b, int, auto d, const Extras<T> &) {

@@ -10,7 +10,7 @@ namespace {
 struct Transposition : KernelTraits {
     static constexpr const char *operation = "Transpose";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'm'>;
+    using OperandForms = OperandFormsFor<descriptor, 'm'>;
 
     static void object(auto n, const auto &a, int, int, auto d, const auto &) {
         each(n, [&](std::size_t i) { each(n, [&](std::size_t j) { d(j, i) = a(i, j); }); });

@@ -9,17 +9,17 @@ namespace zelmbench {
 
 template <class Kernel, Text descriptor, class T, Layout layout, class N>
 void addLoopsOf(std::vector<Peer> &peers, const char *name) {
-    using Specs = typename Kernel::template Specs<descriptor>;
-    using Loops = Sweep<Kernel, Specs, T, layout, N>;
-    const bool isVector = Specs::Src1::shape == 'v' && Specs::Src2::shape != 'm';
+    using OperandForms = typename Kernel::template OperandForms<descriptor>;
+    using Loops = Sweep<Kernel, OperandForms, T, layout, N>;
+    const bool isVector = OperandForms::Src1::shape == 'v' && OperandForms::Src2::shape != 'm';
     peers.push_back(
         {memberName(Kernel::operation, descriptor.characters, sizeof(T), isVector, sizeOf<N>, layout), name,
-         Specs::Dst::isArray ? &Loops::run : &Loops::call, Kernel::isComparable});
+         OperandForms::Dst::isArray ? &Loops::run : &Loops::call, Kernel::isComparable});
 }
 
 template <class Kernel, Text descriptor, class T, Layout layout>
 void addLoopsIn(std::vector<Peer> &peers, const char *name) {
-    constexpr bool isArray = Kernel::template Specs<descriptor>::Dst::isArray;
+    constexpr bool isArray = Kernel::template OperandForms<descriptor>::Dst::isArray;
     // Objects in planes go side by side where nothing depends on their values.
     constexpr bool isSideBySide = isPlanes(layout) && !Kernel::branches;
     constexpr bool isServed = !Kernel::isInLine || layout == Layout::Standard || layout == Layout::L;

@@ -8,7 +8,7 @@ namespace {
 struct SolverTraits : KernelTraits {
     static constexpr bool isSolver = true;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'v'>;
+    using OperandForms = OperandFormsFor<descriptor, 'v'>;
 };
 
 struct LuSolution : SolverTraits {

@@ -17,7 +17,7 @@ struct Extras {
     std::uint32_t *pivot; // of this object
 };
 
-template <class Kernel, class Specs, class T, Layout layout, class N>
+template <class Kernel, class OperandForms, class T, Layout layout, class N>
 class Sweep {
 public:
     static void run(const Problem &problem) {
@@ -34,10 +34,11 @@ public:
         for (std::size_t k = 0; k < problem.count; ++k) {
             const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
                                    problem.pivotIndex + k * n};
-            called(n, single<typename Specs::Src1>(problem.src1, k, n),
-                   single<typename Specs::Src2>(problem.src2, k, n),
-                   single<typename Specs::Src3>(problem.src3, k, n),
-                   objectOf<T, typename Specs::Dst, layout, Kernel::isDense>(problem.dst, k, n), extras);
+            called(n, single<typename OperandForms::Src1>(problem.src1, k, n),
+                   single<typename OperandForms::Src2>(problem.src2, k, n),
+                   single<typename OperandForms::Src3>(problem.src3, k, n),
+                   objectOf<T, typename OperandForms::Dst, layout, Kernel::isDense>(problem.dst, k, n),
+                   extras);
         }
     }
 
@@ -50,19 +51,19 @@ private:
     [[gnu::always_inline]] static void loop(const Problem &given) {
         const Problem problem = given;
         const N n = order(problem);
-        const auto first = ahead<typename Specs::Src1>(problem.src1, n);
-        const auto second = ahead<typename Specs::Src2>(problem.src2, n);
-        const auto third = ahead<typename Specs::Src3>(problem.src3, n);
+        const auto first = ahead<typename OperandForms::Src1>(problem.src1, n);
+        const auto second = ahead<typename OperandForms::Src2>(problem.src2, n);
+        const auto third = ahead<typename OperandForms::Src3>(problem.src3, n);
         const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
                                problem.pivotIndex};
 #pragma GCC ivdep
         for (std::size_t k = 0; k < problem.count; ++k) {
             const Extras<T> own{extras.scale1, extras.scale2,
-                                extras.pivot + (Specs::Src1::isArray ? k * n : 0)};
-            object(n, source<typename Specs::Src1>(problem.src1, first, k, n),
-                   source<typename Specs::Src2>(problem.src2, second, k, n),
-                   source<typename Specs::Src3>(problem.src3, third, k, n),
-                   objectOf<T, typename Specs::Dst, layout, Kernel::isDense>(problem.dst, k, n), own);
+                                extras.pivot + (OperandForms::Src1::isArray ? k * n : 0)};
+            object(n, source<typename OperandForms::Src1>(problem.src1, first, k, n),
+                   source<typename OperandForms::Src2>(problem.src2, second, k, n),
+                   source<typename OperandForms::Src3>(problem.src3, third, k, n),
+                   objectOf<T, typename OperandForms::Dst, layout, Kernel::isDense>(problem.dst, k, n), own);
         }
     }
 
@@ -74,18 +75,19 @@ private:
         }
     }
 
-    template <class Spec>
-    static constexpr bool isHeld = Spec::shape != 0 && !Spec::isArray && !isRunTime<N>;
+    template <class OperandForm>
+    static constexpr bool isHeld = OperandForm::shape != 0 && !OperandForm::isArray && !isRunTime<N>;
 
     // What is read before the loop over objects: an operand that is the same for all of them, as it is used.
-    template <class Spec>
+    template <class OperandForm>
     [[gnu::always_inline]] static auto ahead(const Operand &operand, N n) {
-        if constexpr (isHeld<Spec>) {
-            constexpr std::size_t order = sizeOf<N>, size = Spec::shape == 'm' ? order * order : order;
-            const auto object = turned<Spec>(objectOf<T, Spec, layout, Kernel::isDense>(operand, 0, n));
+        if constexpr (isHeld<OperandForm>) {
+            constexpr std::size_t order = sizeOf<N>, size = OperandForm::shape == 'm' ? order * order : order;
+            const auto object =
+                turned<OperandForm>(objectOf<T, OperandForm, layout, Kernel::isDense>(operand, 0, n));
             Held<T, size, order> held;
             for (std::size_t e = 0; e < size; ++e) {
-                if constexpr (Spec::shape == 'm') {
+                if constexpr (OperandForm::shape == 'm') {
                     held.values[e] = object(e % order, e / order);
                 } else {
                     held.values[e] = object(e);
@@ -97,33 +99,33 @@ private:
         }
     }
 
-    template <class Spec>
+    template <class OperandForm>
     [[gnu::always_inline]] static auto turned(auto object) {
-        if constexpr (Spec::isTransposed) {
+        if constexpr (OperandForm::isTransposed) {
             return Turned<decltype(object)>{object};
         } else {
             return object;
         }
     }
 
-    template <class Spec>
+    template <class OperandForm>
     [[gnu::always_inline]] static auto source(const Operand &operand, const auto &held, std::size_t k, N n) {
-        if constexpr (Spec::shape == 0) {
+        if constexpr (OperandForm::shape == 0) {
             return 0;
-        } else if constexpr (isHeld<Spec>) {
+        } else if constexpr (isHeld<OperandForm>) {
             return held;
         } else {
-            return turned<Spec>(
-                objectOf<T, Spec, layout, Kernel::isDense>(operand, Spec::isArray ? k : 0, n));
+            return turned<OperandForm>(
+                objectOf<T, OperandForm, layout, Kernel::isDense>(operand, OperandForm::isArray ? k : 0, n));
         }
     }
 
-    template <class Spec>
+    template <class OperandForm>
     [[gnu::always_inline]] static auto single(const Operand &operand, std::size_t k, N n) {
-        if constexpr (Spec::shape == 0) {
+        if constexpr (OperandForm::shape == 0) {
             return 0;
         } else {
-            return turned<Spec>(objectOf<T, Spec, layout, Kernel::isDense>(operand, k, n));
+            return turned<OperandForm>(objectOf<T, OperandForm, layout, Kernel::isDense>(operand, k, n));
         }
     }
 
@@ -131,7 +133,8 @@ private:
     template <class First, class Second, class Third>
     [[gnu::flatten]] static void inLine(N n, First first, Second second, Third third, T *__restrict dst,
                                         Extras<T> extras) {
-        constexpr std::size_t spread = Specs::Dst::shape == 's' || Kernel::isDense ? 1 : spreadOf(layout);
+        constexpr std::size_t spread =
+            OperandForms::Dst::shape == 's' || Kernel::isDense ? 1 : spreadOf(layout);
         Kernel::object(n, first, second, third, InLine<T, spread, N>{dst, n}, extras);
     }
 

@@ -22,7 +22,7 @@ void addColumns(auto n, const auto &a, const auto &x, T *sums) {
 struct VectorProduct : KernelTraits {
     static constexpr const char *operation = "Mul";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'v'>;
+    using OperandForms = OperandFormsFor<descriptor, 'v'>;
 
     template <class N, class T>
     static void object(N n, const auto &a, const auto &b, int, auto d, const Extras<T> &) {
@@ -43,8 +43,8 @@ struct VectorProduct : KernelTraits {
 struct Gaxpy : KernelTraits {
     static constexpr const char *operation = "Gaxpy";
     template <Text descriptor>
-    using Specs =
-        zelmbench::Specs<Spec<'m'>, SpecAt<descriptor, 0>, SpecAt<descriptor, 0>, SpecAt<descriptor, 0>>;
+    using OperandForms = zelmbench::OperandForms<OperandForm<'m'>, OperandFormAt<descriptor, 0>,
+                                                 OperandFormAt<descriptor, 0>, OperandFormAt<descriptor, 0>>;
 
     template <class N, class T>
     static void object(N n, const auto &a, const auto &x, const auto &y, auto d, const Extras<T> &) {

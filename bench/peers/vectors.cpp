@@ -10,7 +10,7 @@ namespace {
 struct Dot : KernelTraits {
     static constexpr const char *operation = "DotProduct";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     template <class T>
     static void object(auto n, const auto &a, const auto &b, int, auto d, const Extras<T> &) {
@@ -24,7 +24,7 @@ struct Cross : KernelTraits {
     static constexpr const char *operation = "CrossProduct";
     static constexpr bool hasSizes = false;
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 'v'>;
+    using OperandForms = OperandFormsFor<descriptor, 'v'>;
 
     template <class T>
     static void object(auto, const auto &a, const auto &b, int, auto d, const Extras<T> &) {
@@ -38,7 +38,7 @@ struct Cross : KernelTraits {
 struct Length : KernelTraits {
     static constexpr const char *operation = "L2Norm";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     template <class T>
     static void object(auto n, const auto &a, int, int, auto d, const Extras<T> &) {
@@ -51,7 +51,7 @@ struct Length : KernelTraits {
 struct Frobenius : KernelTraits {
     static constexpr const char *operation = "FrobNorm";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     template <class T>
     static void object(auto n, const auto &a, int, int, auto d, const Extras<T> &) {
@@ -64,7 +64,7 @@ struct Frobenius : KernelTraits {
 struct Trace : KernelTraits {
     static constexpr const char *operation = "Trace";
     template <Text descriptor>
-    using Specs = SpecsFor<descriptor, 's'>;
+    using OperandForms = OperandFormsFor<descriptor, 's'>;
 
     template <class T>
     static void object(auto n, const auto &a, int, int, auto d, const Extras<T> &) {
