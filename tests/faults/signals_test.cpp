@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstring>
 #include <dlfcn.h>
@@ -126,7 +127,8 @@ TEST(Signals, MayArriveAtEachInstruction) {
     });
     sigaction(SIGTRAP, &before, nullptr);
     EXPECT_EQ(wrongResults, 0);
-    EXPECT_GT(signalsInLibrary, signalsOfCall / 3 * static_cast<long>(functionCount)); // calls may be short
+    // The shortest calls have a few instructions only.
+    EXPECT_GT(signalsInLibrary, std::min(signalsOfCall, 20) * static_cast<long>(functionCount));
     std::printf("%llu calls, %ld signals in them\n", static_cast<unsigned long long>(calls),
                 static_cast<long>(signalsInLibrary));
 }
