@@ -194,17 +194,4 @@ ZELM_INLINE auto hold(const Object &invariant) {
 // Held: the invariant is read once, before the first object. Anew: it is read for every object.
 enum class Invariant { Held, ReadAnew };
 
-template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus denseArrayWithInvariant(const A &a, const B &b, const D &d, Shape shape,
-                                               std::uint32_t count) {
-    if constexpr (Shape::isFixed && kIsInvariant<A>) {
-        if (reading == Invariant::Held || isOutOfReach(a, d, shape, count))
-            return denseArray<Op>(hold<Shape>(a), b, d, shape, count);
-    } else if constexpr (Shape::isFixed && kIsInvariant<B>) {
-        if (reading == Invariant::Held || isOutOfReach(b, d, shape, count))
-            return denseArray<Op>(a, hold<Shape>(b), d, shape, count);
-    }
-    return denseArray<Op>(a, b, d, shape, count);
-}
-
 } // namespace zelm::elementwise

@@ -14,7 +14,7 @@ namespace zelm::elementwise::departures {
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus invariantReadAnew(const A &a, const B &b, const D &d, Shape shape,
                                          std::uint32_t count) {
-    return checkedArray<Op, Invariant::ReadAnew>(a, b, d, shape, count);
+    return array<Op, Invariant::ReadAnew>(a, b, d, shape, count);
 }
 
 // ---- zelm{Add,Sub}_{mam,mamT}_32f_3x3 and their _L: software-pipelined. Object k+1 is read before object k
@@ -97,7 +97,7 @@ template <typename Op, typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus lastColumnAtSecondRowStride(const A &a, const B &b, const D &d, FixedShape<5, 5> shape,
                                                    std::uint32_t count) {
     if (a.rowStride == b.rowStride)
-        return checkedArray<Op, Invariant::Held>(a, b, d, shape, count);
+        return array<Op>(a, b, d, shape, count);
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
@@ -300,41 +300,42 @@ ZELM_INLINE bool straddlesPairs(const A &a, const B &b) {
         return false;
 }
 
+// The elements (i, j) and (i, j + 1), stored as one; `oneByOne` where they straddle.
+template <typename Op, bool oneByOne, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE void alignedPair(const A &a, const B &b, const D &d, Shape shape, std::uint32_t i,
+                             std::uint32_t j) {
+    __m128d left = _mm_setr_pd(value(a, i, j, shape), value(a, i, j + 1, shape));
+    __m128d right = _mm_setr_pd(value(b, i, j, shape), value(b, i, j + 1, shape));
+    if constexpr (oneByOne) {
+        d.set(i, j, shape.columns(), Op::template apply<double>(_mm_cvtsd_f64(left), _mm_cvtsd_f64(right)));
+        left = _mm_setr_pd(_mm_cvtsd_f64(left), value(a, i, j + 1, shape));
+        right = _mm_setr_pd(_mm_cvtsd_f64(right), value(b, i, j + 1, shape));
+    }
+    _mm_store_pd(reinterpret_cast<double *>(d.rowStart(i) + j * sizeof(double)), Op::apply(left, right));
+}
+
+template <typename Op, bool oneByOne, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE void alignedObject(const A &a, const B &b, const D &d, Shape shape) {
+    constexpr std::uint32_t columns = Shape::columns(), last = columns - 1;
+    for (std::uint32_t i = 0; i < shape.rows(); ++i) {
+#pragma GCC unroll 3
+        for (std::uint32_t j = 0; j + 2 <= columns; j += 2)
+            alignedPair<Op, oneByOne>(a, b, d, shape, i, j);
+        if constexpr (columns % 2 != 0)
+            d.set(i, last, columns,
+                  Op::template apply<double>(value(a, i, last, shape), value(b, i, last, shape)));
+    }
+}
+
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
         const auto first = a.object(k);
         const auto second = b.object(k);
-        const auto result = d.object(k);
-        constexpr std::uint32_t columns = Shape::columns();
-        const auto rows = [&](auto oneByOne) __attribute__((always_inline)) {
-            for (std::uint32_t i = 0; i < shape.rows(); ++i) {
-                const Address row = result.rowStart(i);
-                const auto element = [&](std::uint32_t j) __attribute__((always_inline)) {
-                    result.set(
-                        i, j, columns,
-                        Op::template apply<double>(value(first, i, j, shape), value(second, i, j, shape)));
-                };
-#pragma GCC unroll 3
-                for (std::uint32_t j = 0; j + 2 <= columns; j += 2) {
-                    __m128d left = _mm_setr_pd(value(first, i, j, shape), value(first, i, j + 1, shape));
-                    __m128d right = _mm_setr_pd(value(second, i, j, shape), value(second, i, j + 1, shape));
-                    if constexpr (decltype(oneByOne)::value) {
-                        element(j);
-                        left = _mm_setr_pd(_mm_cvtsd_f64(left), value(first, i, j + 1, shape));
-                        right = _mm_setr_pd(_mm_cvtsd_f64(right), value(second, i, j + 1, shape));
-                    }
-                    _mm_store_pd(reinterpret_cast<double *>(row + j * sizeof(double)),
-                                 Op::apply(left, right));
-                }
-                if constexpr (columns % 2 != 0)
-                    element(columns - 1);
-            }
-        };
         if (straddlesPairs(first, second))
-            rows(std::true_type{});
+            alignedObject<Op, true>(first, second, d.object(k), shape);
         else
-            rows(std::false_type{});
+            alignedObject<Op, false>(first, second, d.object(k), shape);
         return ZELM_OK;
     };
     return forEachObject(count, one, a, b, d);

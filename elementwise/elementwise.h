@@ -79,7 +79,14 @@ constexpr Invariant readingOf(Invariant reading) {
 // value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
 __attribute__((noinline)) ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
-    return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
+    if constexpr (Shape::isFixed && kIsInvariant<A>) {
+        if (reading == Invariant::Held || isOutOfReach(a, d, shape, count))
+            return denseArray<Op>(hold<Shape>(a), b, d, shape, count);
+    } else if constexpr (Shape::isFixed && kIsInvariant<B>) {
+        if (reading == Invariant::Held || isOutOfReach(b, d, shape, count))
+            return denseArray<Op>(a, hold<Shape>(b), d, shape, count);
+    }
+    return denseArray<Op>(a, b, d, shape, count);
 }
 
 template <typename Op, typename A, typename B, typename D, typename Shape>
@@ -132,25 +139,16 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
     }
 }
 
-template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus checkedArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+// Add and Sub: an invariant operand is held in the fixed-size standard and L forms, read anew in all others.
+// Saxpy and LComb read it anew for every object in all forms.
+template <typename Op, Invariant reading = Invariant::Held, typename A, typename B, typename D,
+          typename Shape>
+ZELM_INLINE ZelmStatus array(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const Address n = shape.elements();
     if (ZelmStatus status = checkArray(shape.isZero(), count, tested(a, n), tested(b, n), tested(d, n));
         status != kProceed)
         return status;
     return objects<Op, reading>(a, b, d, shape, count);
-}
-
-// Add and Sub: an invariant operand is held in the fixed-size standard and L forms, read anew in all others.
-template <typename Op, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus array(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    return checkedArray<Op, Invariant::Held>(a, b, d, shape, count);
-}
-
-// Saxpy and LComb: the formula reads it anew for every object in all forms.
-template <typename Op, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus arrayReadAnew(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    return checkedArray<Op, Invariant::ReadAnew>(a, b, d, shape, count);
 }
 
 } // namespace zelm::elementwise

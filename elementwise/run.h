@@ -2,7 +2,7 @@
 // the plain loop.
 #pragma once
 
-#include "elementwise/operands.h"
+#include "elementwise/scaled.h"
 #include "frame/shuffles.h"
 #include "frame/widths.h"
 

@@ -502,7 +502,7 @@ def _saxpy_lcomb():
                 f"{_element(target, 'dst')} = {_element(first, 'src1')} * {scale1} + {_element(second, 'src2')}"
                 + " * scale2" * (op == "LComb"),
                 (
-                    "arrayReadAnew<Addition>" if array else "single<Addition>",
+                    "array<Addition, Invariant::ReadAnew>" if array else "single<Addition>",
                     f"Scaled({{src1}}, {scale1})",
                     second_scaled,
                     "{dst}",
