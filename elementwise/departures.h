@@ -363,7 +363,7 @@ template <typename T>
 ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Dense<T> &d) {
     constexpr unsigned lanes = kLanes<T>;
     Pack<T> column[4][4 / lanes];
-    const Pack<T> factors = broadcast(factor);
+    const Pack<T> factors = spread<Pack<T>>(factor);
 #pragma GCC unroll 2
     for (unsigned p = 0; p < 4 / lanes; ++p) {
         LaneAddresses<Pack<T>> rows;

@@ -127,11 +127,6 @@ ZELM_INLINE V spread(ElementOf<V> value) {
 #endif
 }
 
-template <typename T>
-ZELM_INLINE Pack<T> broadcast(T value) {
-    return spread<Pack<T>>(value);
-}
-
 // The first lane, and a pack that is zero but for it.
 template <typename V>
 ZELM_INLINE ElementOf<V> firstLane(V a) {

@@ -109,7 +109,7 @@ ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T,
             const auto products = spread<WideOfRow<T, N>>(element) * b.first[t];
             row.first = t == 0 ? products : row.first + products;
         }
-        const Pack<T> factor = broadcast(element);
+        const Pack<T> factor = spread<Pack<T>>(element);
 #pragma GCC unroll 3
         for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
             row.pack[p] = t == 0 ? factor * b.pack[t][p] : row.pack[p] + factor * b.pack[t][p];
@@ -138,7 +138,8 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Den
         Floats4 sums[2], pair;
 #pragma GCC unroll 6
         for (unsigned t = 0; t < 6; ++t) {
-            const Floats4 one = broadcast(used(a, i, t, 0)), other = broadcast(used(a, i + 1, t, 0));
+            const Floats4 one = spread<Floats4>(used(a, i, t, 0));
+            const Floats4 other = spread<Floats4>(used(a, i + 1, t, 0));
             const Floats4 both = _mm_movelh_ps(one, other) * b.pair[t];
             sums[0] = t == 0 ? one * b.pack[t][0] : sums[0] + one * b.pack[t][0];
             sums[1] = t == 0 ? other * b.pack[t][0] : sums[1] + other * b.pack[t][0];

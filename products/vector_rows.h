@@ -114,13 +114,13 @@ struct HeldColumns {
 template <typename T, unsigned N>
 struct HeldVectorOf {
     T element[N];
-    Pack<T> spread[N];
+    Pack<T> inAllLanes[N];
     template <typename X>
     ZELM_INLINE explicit HeldVectorOf(const X &x) {
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t) {
             element[t] = N % kLanes<T> == 1 ? loadedOnce(x.get(t)) : x.get(t);
-            spread[t] = broadcast(element[t]);
+            inAllLanes[t] = spread<Pack<T>>(element[t]);
         }
     }
 };
@@ -139,7 +139,7 @@ ZELM_INLINE void multiplyRowsOf(const Rows &a, const HeldVectorOf<T, N> &x, cons
         a.template load<row>(products);
 #pragma GCC unroll 6
         for (unsigned t = 0; t < N; ++t)
-            products[t] = products[t] * x.spread[t];
+            products[t] = products[t] * x.inAllLanes[t];
         Pack<T> sum = sumOf<order>(products);
         if constexpr (kAdds<Z>)
             sum = sum + loadSome(z.start + row * sizeof(T), N - row, T{});

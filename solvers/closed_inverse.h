@@ -42,7 +42,7 @@ ZELM_INLINE V reciprocal(V x) {
 }
 
 ZELM_INLINE float approximateReciprocal(float x) {
-    return firstLane(Floats4(_mm_rcp_ss(broadcast(x))));
+    return firstLane(Floats4(_mm_rcp_ss(spread<Floats4>(x))));
 }
 ZELM_INLINE Floats4 approximateReciprocal(Floats4 x) {
     return _mm_rcp_ps(x);

@@ -150,7 +150,7 @@ ZELM_INLINE void eliminateRows(LuRows<T, N> &rows, std::uint32_t k, std::uint32_
     for (std::uint32_t j = k + 1; j < N; ++j) {
         T *row = rows.element[rows.order[j]];
         const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
-        const Pack<T> negated = broadcast(multiplier.negated);
+        const Pack<T> negated = spread<Pack<T>>(multiplier.negated);
 #pragma GCC unroll 3
         for (unsigned p = first; p < LuRows<T, N>::packs; ++p) {
             const Address at = addressOf(row + p * lanes);

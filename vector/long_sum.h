@@ -74,7 +74,7 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
         const auto head = static_cast<std::uint32_t>((0 - aligned) % 16 / sizeof(T));
         for (; t < head; ++t)
             sum = sum + terms.term(t);
-        Pack<T> low = inFirstLane(sum), high = broadcast(T{0});
+        Pack<T> low = inFirstLane(sum), high = {};
         for (; length - t >= round; t += round) {
 #pragma GCC unroll 2
             for (unsigned term = 0; term < round; term += 2 * lanes) {

@@ -12,7 +12,7 @@ ZELM_INLINE Floats4 approximateReciprocalRoot(Floats4 value) {
     return _mm_rsqrt_ps(value);
 }
 ZELM_INLINE float approximateReciprocalRoot(float value) {
-    return firstLane(_mm_rsqrt_ss(broadcast(value)));
+    return firstLane(_mm_rsqrt_ss(spread<Floats4>(value)));
 }
 #if defined(__AVX2__)
 ZELM_INLINE Floats8 approximateReciprocalRoot(Floats8 value) {
