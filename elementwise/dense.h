@@ -104,11 +104,10 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE void plainObject(const A &a, const B &b, const D &d, Shape shape) {
     using T = typename D::Element;
-    whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
-            return true;
-        });
+    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
+        return true;
+    });
 }
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
@@ -150,7 +149,7 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
             return ZELM_OK;
         }
     }
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         denseObject<Op>(a.object(k), b.object(k), d.object(k), shape);
         return ZELM_OK;
     };

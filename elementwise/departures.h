@@ -27,7 +27,7 @@ struct NineFloats {
 
 ZELM_INLINE NineFloats readObject(const Dense<const float> &object) {
     NineFloats read;
-#pragma GCC unroll 9
+    ZELM_UNROLL
     for (unsigned e = 0; e < 9; ++e)
         store(addressOf(&read.element[e]), object.get(e / 3, e % 3, 3));
     return read;
@@ -35,7 +35,7 @@ ZELM_INLINE NineFloats readObject(const Dense<const float> &object) {
 
 template <typename Op, typename B>
 ZELM_INLINE void storeObject(const NineFloats &read, const B &held, const Dense<float> &d) {
-#pragma GCC unroll 9
+    ZELM_UNROLL
     for (unsigned e = 0; e < 9; ++e)
         d.set(e / 3, e % 3, 3, Op::template apply<float>(read.element[e], held.elements[e]));
 }
@@ -101,8 +101,8 @@ ZELM_INLINE ZelmStatus lastColumnAtSecondRowStride(const A &a, const B &b, const
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto objects = [&](const auto &second) __attribute__((always_inline)) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto objects = [&](const auto &second) ZELM_INLINE_LAMBDA {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             const auto first = a.object(k);
             const auto other = second.object(k);
             const auto result = d.object(k);
@@ -138,12 +138,11 @@ ZELM_INLINE ZelmStatus rowTwoInRowThree(const A &a, const B &b, const Dense<floa
                                         FixedShape<6, 6> shape) {
     if (ZelmStatus status = checkSingle(false, a, b, d); status != kProceed)
         return status;
-    whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            const std::uint32_t from = i == 3 ? 2 : i;
-            d.set(i, j, 6, Op::template apply<float>(value(a, from, j, shape), value(b, from, j, shape)));
-            return true;
-        });
+    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        const std::uint32_t from = i == 3 ? 2 : i;
+        d.set(i, j, 6, Op::template apply<float>(value(a, from, j, shape), value(b, from, j, shape)));
+        return true;
+    });
     return ZELM_OK;
 }
 
@@ -166,18 +165,17 @@ ZELM_INLINE ZelmStatus byTableOfElements(const A &a, const B &b, const D &d, Fix
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         const auto first = a.object(k);
         const auto second = b.object(k);
         const auto result = d.object(k);
-        whileTrue(
-            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-                const StoredElement from = kStoredElement[i][j];
-                result.set(i, j, 6,
-                           Op::template apply<float>(first.get(from.row, from.column, 6),
-                                                     second.get(from.row, from.column, 6)));
-                return true;
-            });
+        whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+            const StoredElement from = kStoredElement[i][j];
+            result.set(i, j, 6,
+                       Op::template apply<float>(first.get(from.row, from.column, 6),
+                                                 second.get(from.row, from.column, 6)));
+            return true;
+        });
         return ZELM_OK;
     };
     return forEachObject(count, one, a, b, d);
@@ -240,9 +238,8 @@ ZELM_INLINE ZelmStatus heldByAlignment(const A &a, const B &b, const DenseList<d
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto objects = [&](const HeldRegisters &held, const auto &s, auto first)
-        __attribute__((always_inline)) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto objects = [&](const HeldRegisters &held, const auto &s, auto first) ZELM_INLINE_LAMBDA {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             objectWithRegisters<Op, decltype(first)::value>(s.object(k), held, d.object(k));
             return ZELM_OK;
         };
@@ -318,7 +315,7 @@ template <typename Op, bool oneByOne, typename A, typename B, typename D, typena
 ZELM_INLINE void alignedObject(const A &a, const B &b, const D &d, Shape shape) {
     constexpr std::uint32_t columns = Shape::columns(), last = columns - 1;
     for (std::uint32_t i = 0; i < shape.rows(); ++i) {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (std::uint32_t j = 0; j + 2 <= columns; j += 2)
             alignedPair<Op, oneByOne>(a, b, d, shape, i, j);
         if constexpr (columns % 2 != 0)
@@ -329,7 +326,7 @@ ZELM_INLINE void alignedObject(const A &a, const B &b, const D &d, Shape shape) 
 
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         const auto first = a.object(k);
         const auto second = b.object(k);
         if (straddlesPairs(first, second))
@@ -364,23 +361,23 @@ ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Den
     constexpr unsigned lanes = kLanes<T>;
     Pack<T> column[4][4 / lanes];
     const Pack<T> factors = spread<Pack<T>>(factor);
-#pragma GCC unroll 2
+    ZELM_UNROLL
     for (unsigned p = 0; p < 4 / lanes; ++p) {
         LaneAddresses<Pack<T>> rows;
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < lanes; ++lane)
             rows[lane] = s.rowStart(p * lanes + lane);
         Pack<T> read[4];
         loadAdjacent<4>(rows, read);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned j = 0; j < 4; ++j)
             column[j][p] = read[j] * factors;
     }
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned j = 0; j < 4; ++j)
-#pragma GCC unroll 2
-        for (unsigned p = 0; p < 4 / lanes; ++p)
-            storePack(d.rowStart(j) + p * kBlockBytes, column[j][p]);
+        ZELM_UNROLL
+    for (unsigned p = 0; p < 4 / lanes; ++p)
+        storePack(d.rowStart(j) + p * kBlockBytes, column[j][p]);
 }
 
 template <typename Op, typename T>
@@ -398,7 +395,7 @@ ZELM_INLINE ZelmStatus wholeMatrixFirst(const A &a, const Constant<T> &b, const 
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         scaleTransposed4x4<T>(a.object(k), b.value, d.object(k));
         return ZELM_OK;
     };

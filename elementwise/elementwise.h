@@ -49,14 +49,13 @@ ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Strided<T> &d, Shape
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Table<T> &d, Shape shape) {
-    const bool complete = whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            if (d.elementIsNull(entryNumber(d, i, j, shape)) ||
-                a.elementIsNull(entryNumber(a, i, j, shape)) || b.elementIsNull(entryNumber(b, i, j, shape)))
-                return false;
-            d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
-            return true;
-        });
+    const bool complete = whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        if (d.elementIsNull(entryNumber(d, i, j, shape)) || a.elementIsNull(entryNumber(a, i, j, shape)) ||
+            b.elementIsNull(entryNumber(b, i, j, shape)))
+            return false;
+        d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
+        return true;
+    });
     return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
 }
 
@@ -78,7 +77,7 @@ constexpr Invariant readingOf(Invariant reading) {
 // One instance serves the standard form and the forms with strides that turn out to be dense. Operands by
 // value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
-__attribute__((noinline)) ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
     if constexpr (Shape::isFixed && kIsInvariant<A>) {
         if (reading == Invariant::Held || isOutOfReach(a, d, shape, count))
             return denseArray<Op>(hold<Shape>(a), b, d, shape, count);
@@ -91,7 +90,7 @@ __attribute__((noinline)) ZelmStatus denseObjects(A a, B b, D d, Shape shape, st
 
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         plainObject<Op>(a.object(k), b.object(k), d.object(k), shape);
         return ZELM_OK;
     };
@@ -100,8 +99,7 @@ ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape 
 
 // One instance serves P and PS2.
 template <typename Op, typename A, typename B, typename T, typename Shape>
-__attribute__((noinline)) ZelmStatus tabledObjects(A a, B b, TableArray<T> d, Shape shape,
-                                                   std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus tabledObjects(A a, B b, TableArray<T> d, Shape shape, std::uint32_t count) {
     return objectsInOrder<Op>(a, b, d, shape, count);
 }
 

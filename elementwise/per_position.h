@@ -74,8 +74,7 @@ constexpr Address kPerPositionElements = 36;
 // False, with nothing written, where the objects are to be done one by one. One instance serves P, and PS2
 // where its objects are adjacent.
 template <typename Op, typename A, typename B, typename T, typename Shape>
-__attribute__((noinline)) bool runPerPosition(A a, B b, PackedTableArray<T> d, Shape shape,
-                                              std::uint32_t count) {
+ZELM_NOINLINE bool runPerPosition(A a, B b, PackedTableArray<T> d, Shape shape, std::uint32_t count) {
     if (count < kPerPositionCount || count > kMostObjectsInRange || shape.elements() > kPerPositionElements)
         return false;
     if (!positionsAreApart(d.object(0), static_cast<unsigned>(shape.elements()),

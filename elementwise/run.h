@@ -76,7 +76,7 @@ struct HeldVector : WithoutTable {
     T pattern[length];
     template <typename Object>
     ZELM_INLINE explicit HeldVector(const Object &object) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             store(addressOf(&pattern[j]), value(object, 0, j, FixedShape<1, N>{}));
         repeat();
@@ -87,23 +87,17 @@ struct HeldVector : WithoutTable {
         repeat();
     }
     ZELM_INLINE void repeat() {
-#pragma GCC unroll 20
+        ZELM_UNROLL
         for (unsigned i = N; i < length; ++i)
             copyElement<T>(addressOf(&pattern[i]), addressOf(&pattern[i - N]));
     }
-    ZELM_INLINE const HeldVector &object(std::uint32_t) const {
-        return *this;
-    }
-    ZELM_INLINE T element(Address i) const {
-        return pattern[i % N];
-    }
+    ZELM_INLINE const HeldVector &object(std::uint32_t) const { return *this; }
+    ZELM_INLINE T element(Address i) const { return pattern[i % N]; }
     template <typename V>
     ZELM_INLINE V pack(Address, unsigned p) const {
         return loadAs<V>(addressOf(&pattern[p % period<V> * kLanesOf<V>]));
     }
-    static constexpr bool isCloselyBehind(Address, Address) {
-        return false;
-    }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
 // An invariant matrix, read once and held as it is used.
@@ -113,19 +107,13 @@ struct HeldMatrix : WithoutTable {
     T elements[R * C];
     template <typename Object>
     ZELM_INLINE explicit HeldMatrix(const Object &object) {
-#pragma GCC unroll 36
+        ZELM_UNROLL
         for (unsigned e = 0; e < R * C; ++e)
             store(addressOf(&elements[e]), value(object, e / C, e % C, FixedShape<R, C>{}));
     }
-    ZELM_INLINE const HeldMatrix &object(std::uint32_t) const {
-        return *this;
-    }
-    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const {
-        return elements[i * C + j];
-    }
-    ZELM_INLINE HeldStream<T> row(std::uint32_t i) const {
-        return {{addressOf(&elements[i * C])}};
-    }
+    ZELM_INLINE const HeldMatrix &object(std::uint32_t) const { return *this; }
+    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const { return elements[i * C + j]; }
+    ZELM_INLINE HeldStream<T> row(std::uint32_t i) const { return {{addressOf(&elements[i * C])}}; }
 };
 
 // The elements of a matrix used transposed, row after row of R rows of C elements.
@@ -137,7 +125,7 @@ struct TransposedStream {
     }
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
-        return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
+        return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA {
             const Address at = e + b * kLanes<T>;
             if constexpr (sizeof(T) == 4)
                 return _mm_setr_ps(element(at), element(at + 1), element(at + 2), element(at + 3));
@@ -152,21 +140,17 @@ struct TransposedStream {
 struct TransposedFour {
     Floats4 row[4];
     ZELM_INLINE explicit TransposedFour(const Dense<const float> &stored) {
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned i = 0; i < 4; ++i)
             row[i] = loadPack<float>(stored.rowStart(i));
         transposeFour(row[0], row[1], row[2], row[3]);
     }
-    ZELM_INLINE float element(Address e) const {
-        return row[e / 4][e % 4];
-    }
+    ZELM_INLINE float element(Address e) const { return row[e / 4][e % 4]; }
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
-        return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) { return row[e / 4 + b]; });
+        return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA { return row[e / 4 + b]; });
     }
-    static constexpr bool isCloselyBehind(Address, Address) {
-        return false;
-    }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
 // An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
@@ -189,7 +173,7 @@ requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE
     auto inRegisters(const HeldVector<T, N> &input) {
     constexpr unsigned number = HeldVector<T, N>::template period<V>;
     HeldPacks<V, number> packs;
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned p = 0; p < number; ++p)
         packs.held[p] = input.template pack<V>(0, p);
     return packs;
@@ -203,13 +187,13 @@ ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Add
     constexpr unsigned round = period * ((3 + period) / period), lanes = kLanesOf<V>;
     const auto &first = inRegisters<V>(a);
     const auto &second = inRegisters<V>(b);
-    const auto step = [&](Address at, unsigned p) __attribute__((always_inline)) {
+    const auto step = [&](Address at, unsigned p) ZELM_INLINE_LAMBDA {
         storePack(dst + at * sizeof(ElementOf<V>),
                   Op::apply(first.template pack<V>(at, p), second.template pack<V>(at, p)));
     };
     if (!a.isCloselyBehind(dst, sizeof(V)) && !b.isCloselyBehind(dst, sizeof(V))) {
         for (; length - i >= round * lanes; i += round * lanes) {
-#pragma GCC unroll 25
+            ZELM_UNROLL
             for (unsigned p = 0; p < round; ++p)
                 step(i + p * lanes, p);
         }
@@ -239,7 +223,7 @@ template <typename T>
 constexpr Address kLongRun = 4 * kRunBytes / sizeof(T);
 
 template <typename Op, typename T, typename A, typename B>
-__attribute__((noinline)) void longRun(A a, B b, Address dst, Address length) {
+ZELM_NOINLINE void longRun(A a, B b, Address dst, Address length) {
     runFrom<Op, Pack<T, kRunBytes>>(a, b, dst, length);
 }
 
@@ -256,14 +240,14 @@ template <typename Op, typename V, unsigned N, unsigned i, typename A, typename 
 ZELM_INLINE void shortPacks(const A &a, const B &b, Address dst) {
     using T = ElementOf<V>;
     constexpr unsigned lanes = kLanesOf<V>, whole = i + (N - i) / lanes * lanes;
-#pragma GCC unroll 18
+    ZELM_UNROLL
     for (unsigned at = i; at < whole; at += lanes)
         storePack(dst + at * sizeof(T),
                   Op::apply(a.template pack<V>(at, at / lanes), b.template pack<V>(at, at / lanes)));
     if constexpr (sizeof(V) > kBlockBytes) {
         shortPacks<Op, Pack<T, sizeof(V) / 2>, N, whole>(a, b, dst);
     } else {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned j = whole; j < N; ++j)
             store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
     }
@@ -278,7 +262,7 @@ ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
         if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest))
             return shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
     }
-#pragma GCC unroll 36
+    ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j)
         store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
 }

@@ -13,22 +13,22 @@ using namespace zelm::frame;
 template <typename Op>
 ZELM_INLINE void combineTransposed(Address a, Address b, Address dst, float) {
     Floats4 rows[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         rows[i] = Op::apply(loadPack<float>(a + i * kBlockBytes), loadPack<float>(b + i * kBlockBytes));
     transposeFour(rows[0], rows[1], rows[2], rows[3]);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         storePack(dst + i * kBlockBytes, rows[i]);
 }
 
 template <typename Op>
 ZELM_INLINE void combineTransposed(Address a, Address b, Address dst, double) {
-    const auto pairAt = [&](unsigned i, unsigned half) __attribute__((always_inline)) {
+    const auto pairAt = [&](unsigned i, unsigned half) ZELM_INLINE_LAMBDA {
         const Address offset = (2 * i + half) * kBlockBytes;
         return Op::apply(loadPack<double>(a + offset), loadPack<double>(b + offset));
     };
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned block = 0; block < 4; ++block) {
         const unsigned i = block / 2 * 2, half = block % 2; // the rows of src and the columns in pairs
         const Doubles2 upper = pairAt(i, half), lower = pairAt(i + 1, half);

@@ -95,8 +95,8 @@ ZELM_INLINE bool isApartFrom(const Memory &buffer, const Touched &touched, std::
 
 // One instance serves all sizes and families.
 template <typename Memory, typename D, typename... S>
-__attribute__((noinline)) bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Result<D> &d,
-                                           const Source<S> &...s) {
+ZELM_NOINLINE bool mayGroupAll(std::uint32_t count, const Memory &buffer, const Result<D> &d,
+                               const Source<S> &...s) {
     if (count > kMostObjectsInRange || !elementsAreApart(d.operand, d.rows, d.columns, count) ||
         !(mayRead(s, d, count) && ...))
         return false;
@@ -123,7 +123,7 @@ ZELM_INLINE Extremes extremesOf(const List &list, std::uint32_t first, std::uint
         typedef std::int64_t Entries __attribute__((vector_size(kWidestBytes), aligned(8), may_alias));
         constexpr unsigned lanes = kWidestBytes / 8;
         if (last - first >= lanes) {
-            const auto entriesAt = [&](std::uint32_t at) __attribute__((always_inline)) {
+            const auto entriesAt = [&](std::uint32_t at) ZELM_INLINE_LAMBDA {
                 return *reinterpret_cast<const Entries *>(list.table + at);
             };
             Entries lowest = entriesAt(k), highest = lowest;
@@ -297,9 +297,8 @@ struct StretchFacts {
 
 // One instance serves all sizes and families.
 template <typename Memory, typename D, typename... S>
-__attribute__((noinline)) StretchFacts factsOfStretch(std::uint32_t first, std::uint32_t last,
-                                                      const Memory &buffer, const Result<D> &d,
-                                                      const Source<S> &...s) {
+ZELM_NOINLINE StretchFacts factsOfStretch(std::uint32_t first, std::uint32_t last, const Memory &buffer,
+                                          const Result<D> &d, const Source<S> &...s) {
     const Range target = rangeOfStretch(d, first, last);
     if (!missesInvariants(target, buffer, s...))
         return {false, false, false, false};
@@ -317,7 +316,7 @@ ZELM_INLINE bool resultsAreApart(const Result<D> &d, std::uint32_t k) {
 }
 
 template <unsigned lanes, typename D>
-__attribute__((noinline)) bool farResultsAreApart(const Result<D> &d, std::uint32_t k) {
+ZELM_NOINLINE bool farResultsAreApart(const Result<D> &d, std::uint32_t k) {
     return resultsAreApart<lanes>(d, k);
 }
 
@@ -391,8 +390,8 @@ ZELM_INLINE bool groupMissesEntries(const Operand &operand, const Memory &buffer
 }
 
 template <unsigned lanes, typename Memory, typename D, typename... S>
-__attribute__((noinline)) bool groupIsApart(std::uint32_t k, const Memory &buffer, const Result<D> &d,
-                                            const Source<S> &...s) {
+ZELM_NOINLINE bool groupIsApart(std::uint32_t k, const Memory &buffer, const Result<D> &d,
+                                const Source<S> &...s) {
     if (anyObjectIsNull(d.operand, k, lanes) || !(groupMayRead<lanes>(s, d, k) && ...) ||
         !groupMissesEntries<lanes>(d.operand, buffer, d, k) ||
         !(groupMissesEntries<lanes>(s.operand, buffer, d, k) && ...))
@@ -453,7 +452,7 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
         if (grouped)
             stretch = factsOfStretch(first, last, buffer, d, s...);
         grouped = stretch.missesInvariants;
-        const auto guarded = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto guarded = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             constexpr unsigned lanes = kLanesOf<typename decltype(pack)::Pack>;
             return (stretch.ascends || resultsAreApart<lanes>(d, k, stretch.isNear)) &&
                    (stretch.isApart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);

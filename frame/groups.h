@@ -39,14 +39,13 @@ template <typename V>
 ZELM_INLINE V gather(const Address *at) {
     using T = ElementOf<V>;
     return fromBlocks<V>([at](unsigned b)
-                             __attribute__((always_inline)) { return gatherBlock(at + b * kLanes<T>, T{}); });
+                             ZELM_INLINE_LAMBDA { return gatherBlock(at + b * kLanes<T>, T{}); });
 }
 
 template <typename V>
 ZELM_INLINE void scatter(const Address *at, V value) {
-    toBlocks(
-        value, [at](unsigned b, auto block)
-                   __attribute__((always_inline)) { scatterBlock(at + b * kLanes<ElementOf<V>>, block); });
+    toBlocks(value, [at](unsigned b, auto block)
+                        ZELM_INLINE_LAMBDA { scatterBlock(at + b * kLanes<ElementOf<V>>, block); });
 }
 
 // ---- adjacent elements of each object, transposed on the way; nothing beside them is touched
@@ -55,34 +54,30 @@ ZELM_INLINE void scatter(const Address *at, V value) {
 template <typename V>
 ZELM_INLINE V loadBlocks(const Address *at, Address offset) {
     using T = ElementOf<V>;
-    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
-        return loadPack<T>(at[b * kLanes<T>] + offset);
-    });
+    return fromBlocks<V>([&](unsigned b)
+                             ZELM_INLINE_LAMBDA { return loadPack<T>(at[b * kLanes<T>] + offset); });
 }
 
 template <typename V>
 ZELM_INLINE void storeBlocks(const Address *at, Address offset, V value) {
-    toBlocks(
-        value, [&](unsigned b, auto block) __attribute__((always_inline)) {
-            storePack(at[b * kLanes<ElementOf<V>>] + offset, block);
-        });
+    toBlocks(value, [&](unsigned b, auto block)
+                        ZELM_INLINE_LAMBDA { storePack(at[b * kLanes<ElementOf<V>>] + offset, block); });
 }
 
 // Two elements of each of the first two objects of a block.
 template <typename V>
 ZELM_INLINE V loadPairs(const Address *at, Address offset) {
-    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA {
         return loadTwoAndTwo(at[b * 4] + offset, at[b * 4 + 1] + offset);
     });
 }
 
 template <typename V>
 ZELM_INLINE void storePairs(const Address *at, Address offset, V value) {
-    toBlocks(
-        value, [&](unsigned b, auto block) __attribute__((always_inline)) {
-            _mm_storel_pi(reinterpret_cast<__m64 *>(at[b * 4] + offset), block);
-            _mm_storeh_pi(reinterpret_cast<__m64 *>(at[b * 4 + 1] + offset), block);
-        });
+    toBlocks(value, [&](unsigned b, auto block) ZELM_INLINE_LAMBDA {
+        _mm_storel_pi(reinterpret_cast<__m64 *>(at[b * 4] + offset), block);
+        _mm_storeh_pi(reinterpret_cast<__m64 *>(at[b * 4 + 1] + offset), block);
+    });
 }
 
 template <typename V>
@@ -130,7 +125,7 @@ ZELM_INLINE void storeTwo(const Address *at, Address offset, const V *in) {
 
 template <typename V>
 ZELM_INLINE void shifted(const Address *at, Address offset, Address *out) {
-#pragma GCC unroll 16
+    ZELM_UNROLL
     for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
         out[lane] = at[lane] + offset;
 }
@@ -141,7 +136,7 @@ ZELM_INLINE void loadAdjacent(const Address *at, V *out) {
     constexpr unsigned four = sizeof(T) == 4 ? N / 4 * 4 : 0, two = N / 2 * 2;
     if constexpr (four != 0)
         loadFour(at, 0, out);
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned j = four; j < two; j += 2)
         loadTwo(at, j * sizeof(T), out + j);
     if constexpr (two != N) {
@@ -157,7 +152,7 @@ ZELM_INLINE void storeAdjacent(const Address *at, const V *in) {
     constexpr unsigned four = sizeof(T) == 4 ? N / 4 * 4 : 0, two = N / 2 * 2;
     if constexpr (four != 0)
         storeFour(at, 0, in);
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned j = four; j < two; j += 2)
         storeTwo(at, j * sizeof(T), in + j);
     if constexpr (two != N) {
@@ -172,16 +167,15 @@ ZELM_INLINE void storeAdjacent(const Address *at, const V *in) {
 
 template <typename V>
 ZELM_INLINE V loadThird(Address at, unsigned third) {
-    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA {
         return loadPack<ElementOf<V>>(at + (b * 3 + third) * kBlockBytes);
     });
 }
 
 template <typename V>
 ZELM_INLINE void storeThird(Address at, unsigned third, V value) {
-    toBlocks(
-        value, [&](unsigned b, auto block)
-                   __attribute__((always_inline)) { storePack(at + (b * 3 + third) * kBlockBytes, block); });
+    toBlocks(value, [&](unsigned b, auto block)
+                        ZELM_INLINE_LAMBDA { storePack(at + (b * 3 + third) * kBlockBytes, block); });
 }
 
 template <typename V>
@@ -226,14 +220,14 @@ template <unsigned N, unsigned columns = N, typename V, typename Array, typename
 ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, V *out) {
     LaneAddresses<V> at;
     if constexpr (decltype(array.object(0))::isDense) {
-#pragma GCC unroll 16
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
             at[lane] = array.object(k + lane).rowStart(row(lane));
         loadAdjacent<N>(at, out);
     } else {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j) {
-#pragma GCC unroll 16
+            ZELM_UNROLL
             for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
                 at[lane] = array.object(k + lane).address(row(lane), j, columns);
             out[j] = gather<V>(at);
@@ -245,14 +239,14 @@ template <unsigned N, unsigned columns = N, typename V, typename Array, typename
 ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, const V *in) {
     LaneAddresses<V> at;
     if constexpr (decltype(array.object(0))::isDense) {
-#pragma GCC unroll 16
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
             at[lane] = array.object(k + lane).rowStart(row(lane));
         storeAdjacent<N>(at, in);
     } else {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j) {
-#pragma GCC unroll 16
+            ZELM_UNROLL
             for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
                 at[lane] = array.object(k + lane).address(row(lane), j, columns);
             scatter(at, in[j]);
@@ -265,11 +259,11 @@ template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
     if constexpr (kLanesOf<V> == 1) {
         const auto object = array.object(k);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             out[j] = object.get(i, j, columns);
     } else if constexpr (Array::isSideBySide) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             out[j] = loadAs<V>(array.object(k).address(i, j, columns));
     } else {
@@ -285,11 +279,11 @@ template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void storeRow(const Array &array, std::uint32_t k, unsigned i, const V *in) {
     if constexpr (kLanesOf<V> == 1) {
         const auto object = array.object(k);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             object.set(i, j, columns, in[j]);
     } else if constexpr (Array::isSideBySide) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             storePack(array.object(k).address(i, j, columns), in[j]);
     } else {

@@ -11,6 +11,14 @@
 // The helpers of the frame vanish in their callers in every build: a float returned by a real function would
 // pass through x87 on 32-bit x86, which quiets signalling NaNs.
 #define ZELM_INLINE inline __attribute__((always_inline))
+#define ZELM_INLINE_LAMBDA __attribute__((always_inline))
+
+// What several members or layouts share is one real function, or the library's text doubles.
+#define ZELM_NOINLINE __attribute__((noinline))
+
+// A loop with constant bounds, written out, so that its index picks registers and not memory. No limit but
+// that of the compilers: the bounds are those of a matrix or of its packs.
+#define ZELM_UNROLL _Pragma("GCC unroll 64")
 
 namespace zelm::frame {
 

@@ -240,7 +240,7 @@ struct Lowest {
 template <unsigned lanes, typename Operand>
 ZELM_INLINE Lowest<lanes> lowestOf(const Operand &operand, const Extent &extent, std::uint32_t k) {
     Lowest<lanes> lowest;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned lane = 0; lane < lanes; ++lane)
         lowest.at[lane] = operand.object(k + lane).start + extent.lowest;
     return lowest;
@@ -249,11 +249,11 @@ ZELM_INLINE Lowest<lanes> lowestOf(const Operand &operand, const Extent &extent,
 template <unsigned lanes>
 ZELM_INLINE bool areApartFromEachOther(const Lowest<lanes> &a, Address bytes) {
     bool apart = true;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned lane = 1; lane < lanes; ++lane)
-#pragma GCC unroll 4
-        for (unsigned other = 0; other < lane; ++other)
-            apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
+        ZELM_UNROLL
+    for (unsigned other = 0; other < lane; ++other)
+        apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
     return apart;
 }
 
@@ -313,11 +313,11 @@ ZELM_INLINE bool nearOnesAreApart(LowerHalves<lanes> starts, std::uint32_t bytes
     constexpr auto all = std::make_index_sequence<lanes>();
     const LowerHalves<lanes> moved = starts + (lowest + (bytes - 1));
     Distances<lanes> least = (Distances<lanes>)(moved - rotated<1, lanes>(starts, all));
-    const auto take = [&](LowerHalves<lanes> others) __attribute__((always_inline)) {
+    const auto take = [&](LowerHalves<lanes> others) ZELM_INLINE_LAMBDA {
         const auto distances = (Distances<lanes>)(moved - others);
         least = distances < least ? distances : least;
     };
-    [&]<std::size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+    [&]<std::size_t... i>(std::index_sequence<i...>) ZELM_INLINE_LAMBDA {
         (take(rotated<i + 2, lanes>(starts, all)), ...);
     }
     (std::make_index_sequence<lanes / 2 - 1>());
@@ -328,7 +328,7 @@ template <unsigned lanes>
 ZELM_INLINE bool areApartFrom(const Lowest<lanes> &a, Address bytesOfA, const Lowest<lanes> &b,
                               Address bytesOfB) {
     Address lowA = a.at[0], highA = a.at[0], lowB = b.at[0], highB = b.at[0];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned lane = 1; lane < lanes; ++lane) {
         lowA = a.at[lane] < lowA ? a.at[lane] : lowA;
         highA = a.at[lane] > highA ? a.at[lane] : highA;

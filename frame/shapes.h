@@ -81,7 +81,7 @@ template <typename Shape, typename Step>
 ZELM_INLINE bool whileTrue(Shape shape, Step step) {
     if constexpr (Shape::isFixed) {
         constexpr std::uint32_t columns = Shape::columns(), elements = Shape::rows() * columns;
-#pragma GCC unroll 36
+        ZELM_UNROLL
         for (std::uint32_t e = 0; e < elements; ++e)
             if (!step(e / columns, e % columns))
                 return false;

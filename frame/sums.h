@@ -48,7 +48,7 @@ ZELM_INLINE V sumOf(const V (&p)[N]) {
             return (p[0] + (p[2] + p[4])) + (p[1] + (p[3] + p[5]));
     } else {
         V sum = p[0] + p[1];
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned j = 2; j < N; ++j)
             sum = sum + p[j];
         return sum;

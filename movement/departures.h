@@ -52,14 +52,14 @@ ZELM_INLINE ZelmStatus extractUntransposed(const TableArray<const T> &s, T *dst,
 // zelmTranspose_m_32f_4x4, zelmTranspose_m_64f_4x4, zelmTranspose_ma_32f_4x4: a whole matrix is read before
 // it is written, so that dst may be src.
 ZELM_INLINE void loadTransposed(const Dense<const float> &s, Floats4 (&rows)[4]) {
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (std::uint32_t i = 0; i < 4; ++i)
         rows[i] = loadPack<float>(s.rowStart(i));
     transposeFour(rows[0], rows[1], rows[2], rows[3]);
 }
 
 ZELM_INLINE void loadTransposed(const Dense<const double> &s, Doubles2 (&rows)[8]) {
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (std::uint32_t i = 0; i < 4; ++i) {
         const Address from = s.start + i % 2 * kBlockBytes, pair = i / 2 * 2;
         const Doubles2 a = loadPack<double>(from + pair * s.rowStride);
@@ -71,7 +71,7 @@ ZELM_INLINE void loadTransposed(const Dense<const double> &s, Doubles2 (&rows)[8
 
 // Where the rows of dst lie over each other: in the order of elements.
 template <typename T>
-__attribute__((noinline)) void transposeThroughCopy(Dense<const T> s, Dense<T> d) {
+ZELM_NOINLINE void transposeThroughCopy(Dense<const T> s, Dense<T> d) {
     T whole[16];
     for (std::uint32_t e = 0; e < 16; ++e)
         copyElement<T>(addressOf(whole + e), s.address(e / 4, e % 4, 4));
@@ -86,7 +86,7 @@ ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, Fixe
     constexpr unsigned packs = sizeof(T);
     Pack<T> rows[packs];
     loadTransposed(s, rows);
-#pragma GCC unroll 8
+    ZELM_UNROLL
     for (unsigned p = 0; p < packs; ++p)
         storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kBlockBytes, rows[p]);
 }

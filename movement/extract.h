@@ -77,9 +77,8 @@ ZELM_INLINE ZelmStatus extractArray(const S &s, T *dst, RunTimeShape shape, std:
         return status;
     const DenseArray<T> packed = packedAt(dst, shape);
     if constexpr (S::isList && !kIsTransposed<S>)
-        withPlainest(
-            [&](const auto &list) __attribute__((always_inline)) { extractList(list, packed, shape, count); },
-            s);
+        withPlainest([&](const auto &list) ZELM_INLINE_LAMBDA { extractList(list, packed, shape, count); },
+                     s);
     else if (isApart(s, packed, shape, count))
         moveObjects(s, packed, shape, count);
     else

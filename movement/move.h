@@ -23,11 +23,10 @@ ZELM_INLINE Address addressIn(const Transposed<Stored> &s, std::uint32_t i, std:
 template <typename S, typename D, typename Shape>
 ZELM_INLINE void moveObject(const S &s, const D &d, Shape shape) {
     using T = typename D::Element;
-    whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            copyElement<T>(addressIn(d, i, j, shape), addressIn(s, i, j, shape));
-            return true;
-        });
+    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        copyElement<T>(addressIn(d, i, j, shape), addressIn(s, i, j, shape));
+        return true;
+    });
 }
 
 template <typename S, typename D>
@@ -90,7 +89,7 @@ struct Columns {
 template <typename V, typename Rows>
 ZELM_INLINE void addressLanes(const Rows &rows, const Columns &at, std::uint32_t k, LaneAddresses<V> &lanes) {
     const Address within = at.row * rows.rowStride + at.column * sizeof(ElementOf<V>);
-#pragma GCC unroll 16
+    ZELM_UNROLL
     for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
         lanes[lane] = rows.object(k + lane).start + within;
 }
@@ -129,14 +128,14 @@ template <unsigned N, typename V, typename S, typename T>
 ZELM_INLINE void moveColumns(const S &s, const PackedTableArray<T> &d, std::uint32_t width,
                              const Columns &at) {
     Address plane[N];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned c = 0; c < N; ++c)
         plane[c] = d.object(0).address(at.row, at.column + c, width);
     const bool threes = areThrees<N>(s);
     for (std::uint32_t k = at.first; k < at.last; k += kLanesOf<V>) {
         V columns[N];
         loadColumns(s, at, k, threes, columns);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned c = 0; c < N; ++c)
             storePack(plane[c] + k * sizeof(T), columns[c]);
     }
@@ -146,13 +145,13 @@ template <unsigned N, typename V, typename T, typename D>
 ZELM_INLINE void moveColumns(const PackedTableArray<const T> &s, const D &d, std::uint32_t width,
                              const Columns &at) {
     Address plane[N];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned c = 0; c < N; ++c)
         plane[c] = s.object(0).address(at.row, at.column + c, width);
     const bool threes = areThrees<N>(d);
     for (std::uint32_t k = at.first; k < at.last; k += kLanesOf<V>) {
         V columns[N];
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned c = 0; c < N; ++c)
             columns[c] = loadAs<V>(plane[c] + k * sizeof(T));
         storeColumns(d, at, k, threes, columns);
@@ -244,10 +243,8 @@ ZELM_INLINE void moveBetween(const S &s, const D &d, RunTimeShape shape, std::ui
 template <typename S, typename D>
 ZELM_INLINE void moveObjects(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
     withPlainest(
-        [&](const auto &from) __attribute__((always_inline)) {
-            withPlainest(
-                [&](const auto &to) __attribute__((always_inline)) { moveBetween(from, to, shape, count); },
-                d);
+        [&](const auto &from) ZELM_INLINE_LAMBDA {
+            withPlainest([&](const auto &to) ZELM_INLINE_LAMBDA { moveBetween(from, to, shape, count); }, d);
         },
         s);
 }

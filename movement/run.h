@@ -42,10 +42,10 @@ ZELM_INLINE void moveShortRun(Address to, Address from, Address bytes) {
 template <typename T>
 ZELM_INLINE void moveFourPacks(Address to, Address from) {
     Pack<T> packs[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned p = 0; p < 4; ++p)
         packs[p] = loadPack<T>(from + p * kBlockBytes);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned p = 0; p < 4; ++p)
         storePack(to + p * kBlockBytes, packs[p]);
 }

@@ -28,21 +28,20 @@ ZELM_INLINE std::uint32_t targetPitch(Shape shape) {
 template <typename S, typename D, typename Shape>
 ZELM_INLINE void transposeInOrder(const S &s, const D &d, Shape shape) {
     using T = typename D::Element;
-    whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            copyElement<T>(d.address(j, i, targetPitch(shape)), s.address(i, j, sourcePitch(shape)));
-            return true;
-        });
+    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        copyElement<T>(d.address(j, i, targetPitch(shape)), s.address(i, j, sourcePitch(shape)));
+        return true;
+    });
 }
 
 ZELM_INLINE void transposeBlock(const Dense<const float> &s, const Dense<float> &d, std::uint32_t i,
                                 std::uint32_t j) {
     Floats4 rows[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (std::uint32_t r = 0; r < 4; ++r)
         rows[r] = loadPack<float>(s.address(i + r, j, 0));
     transposeFour(rows[0], rows[1], rows[2], rows[3]);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (std::uint32_t r = 0; r < 4; ++r)
         storePack(d.address(j + r, i, 0), rows[r]);
 }
@@ -67,7 +66,7 @@ ZELM_INLINE void transposeThree(const Dense<const float> &s, const Dense<float> 
 ZELM_INLINE void transposeThree(const Dense<const double> &s, const Dense<double> &d) {
     constexpr Address last = 4 * kBlockBytes;
     Doubles2 packs[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned p = 0; p < 4; ++p)
         packs[p] = loadPack<double>(s.start + p * kBlockBytes);
     const double corner = load<double>(s.start + last);
@@ -80,10 +79,10 @@ ZELM_INLINE void transposeThree(const Dense<const double> &s, const Dense<double
 
 // Order 6: a block of 4, and pairs.
 ZELM_INLINE void transposeSix(const Dense<const float> &s, const Dense<float> &d) {
-    const auto pairs = [&](std::uint32_t i) __attribute__((always_inline)) {
+    const auto pairs = [&](std::uint32_t i) ZELM_INLINE_LAMBDA {
         return loadTwoAndTwo(s.address(i, 4, 0), s.address(i + 1, 4, 0));
     };
-    const auto storeTwoAndTwo = [&](std::uint32_t i, Floats4 pairs) __attribute__((always_inline)) {
+    const auto storeTwoAndTwo = [&](std::uint32_t i, Floats4 pairs) ZELM_INLINE_LAMBDA {
         _mm_storel_pi(reinterpret_cast<__m64 *>(d.address(i, 4, 0)), pairs);
         _mm_storeh_pi(reinterpret_cast<__m64 *>(d.address(i + 1, 4, 0)), pairs);
     };
@@ -102,20 +101,18 @@ template <typename T, typename Shape>
 ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Shape shape) {
     constexpr std::uint32_t side = kLanes<T>;
     const std::uint32_t rows = shape.rows() / side * side, columns = shape.columns() / side * side;
-    const auto edge = [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-        copyElement<T>(d.address(j, i, 0), s.address(i, j, 0));
-    };
+    const auto edge = [&](std::uint32_t i, std::uint32_t j)
+                          ZELM_INLINE_LAMBDA { copyElement<T>(d.address(j, i, 0), s.address(i, j, 0)); };
     if constexpr (sizeof(T) == 4 && Shape::isFixed && Shape::columnsIfFixed == 6) {
         transposeSix(s, d);
     } else if constexpr (Shape::isFixed) {
-        whileTrue(
-            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-                if (i >= rows || j >= columns)
-                    edge(i, j);
-                else if (i % side == 0 && j % side == 0)
-                    transposeBlock(s, d, i, j);
-                return true;
-            });
+        whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+            if (i >= rows || j >= columns)
+                edge(i, j);
+            else if (i % side == 0 && j % side == 0)
+                transposeBlock(s, d, i, j);
+            return true;
+        });
     } else {
         for (std::uint32_t i = 0; i < rows; i += side) {
             for (std::uint32_t j = 0; j < columns; j += side)
@@ -174,15 +171,14 @@ ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
         return status;
     if constexpr (D::isTable) {
         using T = typename D::Element;
-        const bool complete = whileTrue(
-            shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-                const Address to = Address{j} * targetPitch(shape) + i;
-                const Address from = Address{i} * sourcePitch(shape) + j;
-                if (d.elementIsNull(to) || s.elementIsNull(from))
-                    return false;
-                copyElement<T>(d.position(to), s.position(from));
-                return true;
-            });
+        const bool complete = whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+            const Address to = Address{j} * targetPitch(shape) + i;
+            const Address from = Address{i} * sourcePitch(shape) + j;
+            if (d.elementIsNull(to) || s.elementIsNull(from))
+                return false;
+            copyElement<T>(d.position(to), s.position(from));
+            return true;
+        });
         return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
     } else if constexpr (D::isDense) {
         transposeObject(s, d, shape, Blocks(s, d, shape));
@@ -214,13 +210,13 @@ ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std
             return ZELM_OK;
     if constexpr (decltype(d.object(0))::isDense) {
         const Blocks blocks(s, d, shape);
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             transposeObject(s.object(k), d.object(k), shape, blocks);
             return ZELM_OK;
         };
         return forEachObject(count, one, s, d);
     } else {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             transposeInOrder(s.object(k), d.object(k), shape);
             return ZELM_OK;
         };
@@ -233,10 +229,9 @@ ZELM_INLINE ZelmStatus transposeArray(const S &s, const D &d, Shape shape, std::
     const Address n = shape.elements();
     if (ZelmStatus status = checkArray(shape.isZero(), count, tested(s, n), tested(d, n)); status != kProceed)
         return status;
-    return withPlainest(
-        [&](const auto &...plain)
-            __attribute__((always_inline)) { return transposeObjects(plain..., shape, count); },
-        s, d);
+    return withPlainest([&](const auto &...plain)
+                            ZELM_INLINE_LAMBDA { return transposeObjects(plain..., shape, count); },
+                        s, d);
 }
 
 } // namespace zelm::movement

@@ -92,11 +92,11 @@ ZELM_INLINE void accumulateVector(const A &a, const X &x, const Z &z, const D &d
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE void accumulateVectorUnrolled(const A &a, const X &x, const Z &z, const D &d) {
     using T = typename D::Element;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (std::uint32_t i = 0; i < N; ++i) {
         T sum = 0;
         d.set(i, sum);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (std::uint32_t t = 0; t < N; ++t) {
             sum = sum + used(a, i, t, N) * x.get(t);
             d.set(i, sum);

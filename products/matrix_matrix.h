@@ -12,7 +12,7 @@ namespace zelm::products {
 
 // Both sources may be overwritten while they are read: every element of dst reads them anew.
 template <Sum order, unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) void multiplyAnew(const A &a, const B &b, const D &d) {
+ZELM_NOINLINE void multiplyAnew(const A &a, const B &b, const D &d) {
     using T = typename D::Element;
     for (unsigned i = 0; i < N; ++i) {
         for (unsigned j = 0; j < N; ++j) {
@@ -30,15 +30,13 @@ struct HeldElements {
     T element[N][N];
     template <typename B>
     ZELM_INLINE explicit HeldElements(const B &b) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
-#pragma GCC unroll 6
-            for (unsigned j = 0; j < N; ++j)
-                element[t][j] = used(b, t, j, N);
+            ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            element[t][j] = used(b, t, j, N);
     }
-    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const {
-        return element[i][j];
-    }
+    ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const { return element[i][j]; }
 };
 
 // src2 is read ahead of the writes, and each row of src1 ahead of dst's.
@@ -46,13 +44,13 @@ template <Sum order, unsigned N, typename A, typename T, typename D>
 ZELM_INLINE void multiplyHeld(const A &a, const HeldElements<T, N> &b, const D &d) {
     for (unsigned i = 0; i < N; ++i) {
         T row[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             row[t] = used(a, i, t, N);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j) {
             T products[N];
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned t = 0; t < N; ++t)
                 products[t] = row[t] * b.element[t][j];
             d.set(i, j, N, sumOf<order>(products));
@@ -132,7 +130,7 @@ ZELM_INLINE ZelmStatus multiplySingle(const A &a, const B &b, const D &d, Matrix
     if (ZelmStatus status = checkSingle(isWrongSize<A, B>(sizes), a, b, d); status != kProceed)
         return status;
     return withPlainest(
-        [&](const auto &...plain) __attribute__((always_inline)) {
+        [&](const auto &...plain) ZELM_INLINE_LAMBDA {
             return accumulateSingle(plain..., boundsOf(sizes), pitchesOf<A, B>(sizes));
         },
         a, b, d);
@@ -162,7 +160,7 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixS
         status != kProceed)
         return status;
     return withPlainest(
-        [&](const auto &...plain) __attribute__((always_inline)) {
+        [&](const auto &...plain) ZELM_INLINE_LAMBDA {
             return multiplyRunTime(plain..., boundsOf(sizes), pitchesOf<A, B>(sizes), count);
         },
         a, b, d);
@@ -187,20 +185,20 @@ template <unsigned N, typename V, typename A, typename B, typename T>
 ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<N, B> &b,
                                 const PackedTableArray<T> &d, std::uint32_t k) {
     V second[N][N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned t = 0; t < N; ++t)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            second[t][j] = b.get(pack, k, t, j);
+        ZELM_UNROLL
+    for (unsigned j = 0; j < N; ++j)
+        second[t][j] = b.get(pack, k, t, j);
     for (unsigned i = 0; i < N; ++i) {
         V row[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             row[t] = a.get(pack, k, i, t);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j) {
             V sum = row[0] * second[0][j];
-#pragma GCC unroll 5
+            ZELM_UNROLL
             for (unsigned t = 1; t < N; ++t)
                 sum = sum + row[t] * second[t][j];
             storePack(d.object(k).address(i, j, N), sum);
@@ -210,14 +208,14 @@ ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<
 
 // `inPlace` is that of the called form. One instance serves P, and PS2 where its objects are adjacent.
 template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-__attribute__((noinline)) ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
     const Planes<N, A> first{a};
     const Planes<N, B> second{b};
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyPlanes(pack, first, second, d, k);
         return true;
     };
@@ -231,7 +229,7 @@ template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
 ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, FixedSizes<N>,
                                         std::uint32_t count) {
     if constexpr (kIsArray<B>) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
             return ZELM_OK;
         };
@@ -239,7 +237,7 @@ ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, Fixe
     } else {
         // An invariant src2 is read once, ahead of the objects.
         const auto held = holdSecond<N, std::remove_cvref_t<decltype(d.object(0))>>(b);
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             const auto first = a.object(k);
             const auto result = d.object(k);
             if (!inPlace.first && beginsAt(first, result))
@@ -256,8 +254,7 @@ template <typename A, typename B, typename D, unsigned N>
 ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSizes<N> sizes,
                                      std::uint32_t count) {
     constexpr InPlaceOf inPlace = kInPlace<A, B, D, N>;
-    const auto multiply = [&](const auto &first, const auto &second, const auto &result)
-        __attribute__((always_inline)) {
+    const auto multiply = [&](const auto &first, const auto &second, const auto &result) ZELM_INLINE_LAMBDA {
         if constexpr (std::remove_cvref_t<decltype(result)>::isSideBySide)
             return multiplyByPlanes<inPlace>(first, second, result, sizes, count);
         else

@@ -70,7 +70,7 @@ struct HeldRows {
 
     template <typename B>
     ZELM_INLINE explicit HeldRows(const B &b) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t) {
             if constexpr (wide != 0)
                 first[t] = wideOfRow<N>(b, t);
@@ -102,7 +102,7 @@ template <typename T, unsigned N, typename A>
 ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T, N> &b) {
     RowResult<T, N> row;
     row.last = 0;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned t = 0; t < N; ++t) {
         const T element = kRowRest<T, N> == 1 ? loadedOnce(used(a, i, t, 0)) : used(a, i, t, 0);
         if constexpr (kWideLanes<T, N> != 0) {
@@ -110,7 +110,7 @@ ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T,
             row.first = t == 0 ? products : row.first + products;
         }
         const Pack<T> factor = spread<Pack<T>>(element);
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
             row.pack[p] = t == 0 ? factor * b.pack[t][p] : row.pack[p] + factor * b.pack[t][p];
         if constexpr (kRowRest<T, N> == 1)
@@ -124,7 +124,7 @@ ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::
     constexpr unsigned wide = kWideLanes<T, N>;
     if constexpr (wide != 0)
         storePack(d.rowStart(i), row.first);
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
         storePack(d.rowStart(i) + wide * sizeof(T) + p * kBlockBytes, row.pack[p]);
     if constexpr (kRowRest<T, N> == 1)
@@ -133,10 +133,10 @@ ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::
 
 template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Dense<float> &d) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 6; i += 2) {
         Floats4 sums[2], pair;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < 6; ++t) {
             const Floats4 one = spread<Floats4>(used(a, i, t, 0));
             const Floats4 other = spread<Floats4>(used(a, i + 1, t, 0));
@@ -158,9 +158,8 @@ template <typename A>
 ZELM_INLINE void multiplyTwoRows(const A &a, const HeldRows<float, 4> &b, const Dense<float> &d,
                                  std::uint32_t i) {
     const Floats8 rows = joined(packOfRow<0>(a, i), packOfRow<0>(a, i + 1));
-    const auto times = [&](Floats8 factors, unsigned t) __attribute__((always_inline)) {
-        return factors * joined(b.pack[t][0], b.pack[t][0]);
-    };
+    const auto times = [&](Floats8 factors, unsigned t)
+                           ZELM_INLINE_LAMBDA { return factors * joined(b.pack[t][0], b.pack[t][0]); };
     Floats8 sums = times(shuffle<0, 0, 0, 0>(rows, rows), 0);
     sums = sums + times(shuffle<1, 1, 1, 1>(rows, rows), 1);
     sums = sums + times(shuffle<2, 2, 2, 2>(rows, rows), 2);
@@ -178,7 +177,7 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 4> &b, const Den
 
 template <typename T, unsigned N, typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         storeRowOf(rowOf<T, N>(a, i, b), d, i);
 }
@@ -212,7 +211,7 @@ struct HeldRows<float, 3> {
                 return;
             }
         }
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned t = 0; t < 3; ++t)
             row[t] = threeOfRow(a, t);
     }
@@ -231,12 +230,12 @@ ZELM_INLINE Floats4 spreadLane(Floats4 pack) {
 // A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.
 template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Dense<float> &d) {
-    const auto times = [&](Floats4 row) __attribute__((always_inline)) {
+    const auto times = [&](Floats4 row) ZELM_INLINE_LAMBDA {
         return (spreadLane<0>(row) * b.row[0] + spreadLane<1>(row) * b.row[1]) +
                spreadLane<2>(row) * b.row[2];
     };
     if constexpr (kIsTransposed<A>) {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned i = 0; i < 3; ++i)
             storeThree(d.rowStart(i), times(threeOfRow(a, i)));
     } else {
@@ -247,7 +246,7 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Den
             storePack(d.start + 12, rows[1]);
             storeThree(d.start + 24, rows[2]);
         } else {
-#pragma GCC unroll 3
+            ZELM_UNROLL
             for (unsigned i = 0; i < 3; ++i)
                 storeThree(d.rowStart(i), rows[i]);
         }

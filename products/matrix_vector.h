@@ -38,10 +38,9 @@ ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, con
 template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &d, VectorBounds bounds,
                                    std::uint32_t count) {
-    return withPlainest(
-        [&](const auto &...plain)
-            __attribute__((always_inline)) { return multiplyVectorsRunTime(plain..., bounds, count); },
-        a, x, z, d);
+    return withPlainest([&](const auto &...plain)
+                            ZELM_INLINE_LAMBDA { return multiplyVectorsRunTime(plain..., bounds, count); },
+                        a, x, z, d);
 }
 
 // How an array of a fixed size is computed.
@@ -81,7 +80,7 @@ ZELM_INLINE ZelmStatus multiplyByColumns(const A &a, const X &x, const Z &z, con
                                          std::uint32_t count) {
     using T = typename D::Element;
     const HeldColumns<N, A> columns(a);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyRowsOf<N, 0, kIsTransposed<A>>(columns, HeldVectorOf<T, N>(x.object(k)), z.object(k),
                                                d.object(k));
         return ZELM_OK;
@@ -98,7 +97,7 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
     if constexpr (way == Way::HeldColumns)
         if (missesInvariant<N>(a, d, count))
             return multiplyByColumns<N>(a, x, z, d, count);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };
@@ -108,10 +107,9 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorsOf(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
     constexpr bool isDense = decltype(d.object(0))::isDense;
-    return withPlainest(
-        [&](const auto &...plain)
-            __attribute__((always_inline)) { return vectorArrayFixed<N, isDense>(plain..., count); },
-        a, x, z, d);
+    return withPlainest([&](const auto &...plain)
+                            ZELM_INLINE_LAMBDA { return vectorArrayFixed<N, isDense>(plain..., count); },
+                        a, x, z, d);
 }
 
 // ---- Mul

@@ -65,11 +65,11 @@ ZELM_INLINE void sumColumns(const A &a, const B &b, const D &d, std::uint32_t k,
     V sums[width] = {};
     for (std::uint32_t t = 0; t < terms; ++t) {
         const V factor = elementsOf<V>(a, k, i, t, pitches.first);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned c = 0; c < width; ++c)
             sums[c] = sums[c] + factor * elementsOf<V>(b, k, t, j + c, pitches.second);
     }
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned c = 0; c < width; ++c)
         storeElements(d, k, i, j + c, pitches.result, sums[c]);
 }
@@ -95,22 +95,22 @@ ZELM_INLINE void sumBlock(const A &a, const Dense<const T> &b, const Dense<T> &d
     V sums[rows][packs] = {};
     for (std::uint32_t t = 0; t < terms; ++t) {
         V columns[packs];
-#pragma GCC unroll 2
+        ZELM_UNROLL
         for (unsigned p = 0; p < packs; ++p)
             columns[p] = loadAs<V>(b.address(t, j + p * kLanesOf<V>, 0));
-#pragma GCC unroll 2
+        ZELM_UNROLL
         for (unsigned r = 0; r < rows; ++r) {
             const V factor = spread<V>(used(a, i + r, t, 0));
-#pragma GCC unroll 2
+            ZELM_UNROLL
             for (unsigned p = 0; p < packs; ++p)
                 sums[r][p] = sums[r][p] + factor * columns[p];
         }
     }
-#pragma GCC unroll 2
+    ZELM_UNROLL
     for (unsigned r = 0; r < rows; ++r)
-#pragma GCC unroll 2
-        for (unsigned p = 0; p < packs; ++p)
-            storePack(d.address(i + r, j + p * kLanesOf<V>, 0), sums[r][p]);
+        ZELM_UNROLL
+    for (unsigned p = 0; p < packs; ++p)
+        storePack(d.address(i + r, j + p * kLanesOf<V>, 0), sums[r][p]);
 }
 
 template <unsigned packs, typename V, typename A, typename T>
@@ -140,7 +140,7 @@ ZELM_INLINE std::uint32_t multiplyPacks(const A &a, const Dense<const T> &b, con
 
 // One object.
 template <typename A, typename B, typename D>
-__attribute__((noinline)) void multiplyApart(A a, B b, D d, Bounds bounds, Pitches pitches) {
+ZELM_NOINLINE void multiplyApart(A a, B b, D d, Bounds bounds, Pitches pitches) {
     using T = typename D::Element;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<B, Dense<const T>> && D::isDense)
@@ -179,15 +179,14 @@ ZELM_INLINE bool productIsApart(const A &a, const B &b, const D &d, const Bounds
 
 // One instance serves all forms whose operands turn out to be the same.
 template <typename A, typename B, typename D>
-__attribute__((noinline)) ZelmStatus multiplyRunTime(A a, B b, D d, Bounds bounds, Pitches pitches,
-                                                     std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus multiplyRunTime(A a, B b, D d, Bounds bounds, Pitches pitches, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), bounds, pitches);
         return ZELM_OK;
     };
     if (!isInReach<D>(bounds, pitches))
         return forEachObject(count, one, a, b, d);
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         using V = typename decltype(pack)::Pack;
         if constexpr (kLanesOf<V> == 1)
             multiplyApart(a.object(k), b.object(k), d.object(k), bounds, pitches);

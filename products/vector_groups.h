@@ -18,7 +18,7 @@ struct GroupMatrices {
     }
     template <typename V>
     ZELM_INLINE void loadRowOf(std::uint32_t, unsigned i, V (&row)[N]) const {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             row[t] = spread<V>(element[i][t]);
     }
@@ -34,7 +34,7 @@ struct GroupMatrices<N, A> {
         if constexpr (!kIsTransposed<A>) {
             loadRow<N>(array, k, i, row);
         } else {
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned t = 0; t < N; ++t)
                 row[t] = loadAs<V>(array.object(k).address(t, i, N)); // planes, or a single lane
         }
@@ -46,7 +46,7 @@ ZELM_INLINE void loadVectors(const X &x, std::uint32_t k, V (&out)[N]) {
     if constexpr (kIsArray<X>) {
         loadRow<N>(x, k, 0, out);
     } else {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             out[t] = spread<V>(x.get(t));
     }
@@ -59,7 +59,7 @@ ZELM_INLINE void multiplyAcross(const M &m, std::uint32_t k, const V (&x)[N], co
     using T = ElementOf<V>;
     V products[N];
     m.loadRowOf(k, row, products);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned t = 0; t < N; ++t)
         products[t] = products[t] * x[t];
     if (adds && !isDense) // the sum begins at +0, which shows where all products are -0
@@ -72,13 +72,13 @@ ZELM_INLINE void multiplyAcross(const M &m, std::uint32_t k, const V (&x)[N], co
 
 // `isDense`: whether the called form is one of the standard and L layouts.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
-__attribute__((noinline)) ZelmStatus multiplyInGroups(A a, X x, Z z, D d, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus multiplyInGroups(A a, X x, Z z, D d, std::uint32_t count) {
     const GroupMatrices<N, A> matrices(a);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         using V = typename decltype(pack)::Pack;
         V vectors[N], added[N], result[N];
         loadVectors(x, k, vectors);

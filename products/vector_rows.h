@@ -9,7 +9,7 @@ namespace zelm::products {
 
 // src2 may be overwritten while it is read.
 template <unsigned N, typename A, typename X, typename D>
-__attribute__((noinline)) void multiplyVectorAnew(const A &a, const X &x, const D &d) {
+ZELM_NOINLINE void multiplyVectorAnew(const A &a, const X &x, const D &d) {
     using T = typename D::Element;
     for (unsigned i = 0; i < N; ++i) {
         T products[N];
@@ -21,10 +21,10 @@ __attribute__((noinline)) void multiplyVectorAnew(const A &a, const X &x, const 
 
 template <unsigned N, typename A, typename T, typename D>
 ZELM_INLINE void multiplyVectorHeld(const A &a, const T (&x)[N], const D &d) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         T products[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             products[t] = used(a, i, t, N) * x[t];
         d.set(i, sumOf<Sum::Chain>(products));
@@ -59,7 +59,7 @@ ZELM_INLINE void storeSome(Address to, Doubles2 rows, unsigned) {
 template <unsigned N, typename T>
 ZELM_INLINE void loadRows(const Dense<const T> &a, unsigned row, Pack<T> (&columns)[N]) {
     LaneAddresses<Pack<T>> at;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned lane = 0; lane < kLanes<T>; ++lane)
         at[lane] = a.rowStart(row + lane < N ? row + lane : N - 1);
     loadAdjacent<N>(at, columns);
@@ -67,7 +67,7 @@ ZELM_INLINE void loadRows(const Dense<const T> &a, unsigned row, Pack<T> (&colum
 
 template <unsigned N, typename T>
 ZELM_INLINE void loadRows(const Transposed<Dense<const T>> &a, unsigned row, Pack<T> (&columns)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned t = 0; t < N; ++t)
         columns[t] = loadSome(a.rowStart(t) + row * sizeof(T), N - row, T{});
 }
@@ -92,22 +92,20 @@ struct HeldColumns {
     Pack<T> column[packs][N];
     T lastRow[N];
     ZELM_INLINE explicit HeldColumns(const A &a) {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned p = 0; p < packs; ++p)
             loadRows<N>(a, p * kLanes<T>, column[p]);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             lastRow[t] = used(a, N - 1, t, 0);
     }
     template <unsigned row>
     ZELM_INLINE void load(Pack<T> (&columns)[N]) const {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             columns[t] = column[row / kLanes<T>][t];
     }
-    ZELM_INLINE T last(unsigned t) const {
-        return lastRow[t];
-    }
+    ZELM_INLINE T last(unsigned t) const { return lastRow[t]; }
 };
 
 // A vector read ahead of the writes: each element alone and in all lanes.
@@ -117,7 +115,7 @@ struct HeldVectorOf {
     Pack<T> inAllLanes[N];
     template <typename X>
     ZELM_INLINE explicit HeldVectorOf(const X &x) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t) {
             element[t] = N % kLanes<T> == 1 ? loadedOnce(x.get(t)) : x.get(t);
             inAllLanes[t] = spread<Pack<T>>(element[t]);
@@ -130,14 +128,14 @@ ZELM_INLINE void multiplyRowsOf(const Rows &a, const HeldVectorOf<T, N> &x, cons
     constexpr Sum order = vectorSumOfRow<T, true, isTransposed, N>(row);
     if constexpr (N - row == 1) {
         T products[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             products[t] = a.last(t) * x.element[t];
         d.set(row, plus(sumOf<order>(products), z, row));
     } else {
         Pack<T> products[N];
         a.template load<row>(products);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned t = 0; t < N; ++t)
             products[t] = products[t] * x.inAllLanes[t];
         Pack<T> sum = sumOf<order>(products);
@@ -157,7 +155,7 @@ struct VectorAlongRows {
     Pack<T> pack[N * sizeof(T) / kBlockBytes];
     Floats4 lastTwo; // of six 32-bit elements, twice
     ZELM_INLINE explicit VectorAlongRows(const Dense<const T> &x) {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned p = 0; p < N * sizeof(T) / kBlockBytes; ++p)
             pack[p] = loadPack<T>(x.start + p * kBlockBytes);
         lastTwo = _mm_setzero_ps();
@@ -193,7 +191,7 @@ template <unsigned N>
 ZELM_INLINE Doubles2 sumsOfRows(const Dense<const double> &a, unsigned row,
                                 const VectorAlongRows<double, N> &x) {
     Doubles2 sum = _mm_setzero_pd();
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned p = 0; p < N / 2; ++p) {
         const Doubles2 upper = loadPack<double>(a.rowStart(row) + p * kBlockBytes) * x.pack[p];
         const Doubles2 lower = loadPack<double>(a.rowStart(row + 1) + p * kBlockBytes) * x.pack[p];
@@ -206,7 +204,7 @@ ZELM_INLINE Doubles2 sumsOfRows(const Dense<const double> &a, unsigned row,
 template <unsigned N, typename T, typename Z>
 ZELM_INLINE void multiplyWholeRows(const Dense<const T> &a, const VectorAlongRows<T, N> &x, const Z &z,
                                    const Dense<T> &d) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned row = 0; row < N; row += kLanes<T>) {
         Pack<T> sums = sumsOfRows<N>(a, row, x);
         if constexpr (kAdds<Z>)

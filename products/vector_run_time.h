@@ -17,11 +17,11 @@ ZELM_INLINE void sumRows(const A &a, const X &x, const Z &z, const D &d, std::ui
     V sums[width] = {};
     for (std::uint32_t t = 0; t < bounds.terms; ++t) {
         const V factor = elementsOf<V>(x, k, 0, t, 0);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned r = 0; r < width; ++r)
             sums[r] = sums[r] + elementsOf<V>(a, k, i + r, t, bounds.pitch) * factor;
     }
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned r = 0; r < width; ++r) {
         if constexpr (kAdds<Z>)
             sums[r] = sums[r] + elementsOf<V>(z, k, 0, i + r, 0);
@@ -58,7 +58,7 @@ ZELM_INLINE std::uint32_t multiplyRowPacks(const Transposed<Dense<const T>> &a, 
 
 // One object.
 template <typename A, typename X, typename Z, typename D>
-__attribute__((noinline)) void multiplyVectorApart(A a, X x, Z z, D d, VectorBounds bounds) {
+ZELM_NOINLINE void multiplyVectorApart(A a, X x, Z z, D d, VectorBounds bounds) {
     using T = typename D::Element;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<A, Transposed<Dense<const T>>> && D::isDense)
@@ -88,16 +88,16 @@ ZELM_INLINE bool vectorProductIsApart(const A &a, const X &x, const Z &z, const 
 // ---- arrays
 
 template <typename A, typename X, typename Z, typename D>
-__attribute__((noinline)) ZelmStatus multiplyVectorsRunTime(A a, X x, Z z, D d, VectorBounds bounds,
-                                                            std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus multiplyVectorsRunTime(A a, X x, Z z, D d, VectorBounds bounds,
+                                                std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), bounds.rows,
                                             bounds.terms, bounds.pitch);
         return ZELM_OK;
     };
     if (!isInReach<D>(bounds))
         return forEachObject(count, one, a, x, z, d);
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         using V = typename decltype(pack)::Pack;
         if constexpr (kLanesOf<V> == 1)
             multiplyVectorApart(a.object(k), x.object(k), z.object(k), d.object(k), bounds);
@@ -106,7 +106,7 @@ __attribute__((noinline)) ZelmStatus multiplyVectorsRunTime(A a, X x, Z z, D d, 
         return true;
     };
     constexpr Grouping grouping = {(D::isSideBySide ? kProductKernels : kOneAtATime).bytes, 1};
-    const auto run = [&](const auto &...sources) __attribute__((always_inline)) {
+    const auto run = [&](const auto &...sources) ZELM_INLINE_LAMBDA {
         return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(d, 1, bounds.rows),
                                          readsUsed(a, bounds.rows, bounds.terms, bounds.pitch),
                                          reads(x, 1, bounds.terms), sources...);

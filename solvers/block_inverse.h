@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 template <typename V, unsigned N>
 ZELM_INLINE void exchangeColumns(V (&a)[N][N], unsigned c, unsigned d) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         const V held = a[i][c];
         a[i][c] = a[i][d];
@@ -18,7 +18,7 @@ ZELM_INLINE void exchangeColumns(V (&a)[N][N], unsigned c, unsigned d) {
 
 template <typename V, unsigned N>
 ZELM_INLINE void exchangeRows(V (&a)[N][N], unsigned c, unsigned d) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j) {
         const V held = a[c][j];
         a[c][j] = a[d][j];
@@ -33,13 +33,13 @@ ZELM_INLINE void exchangeRows(V (&a)[N][N], unsigned c, unsigned d) {
 template <unsigned B, unsigned M, typename V, unsigned N>
 ZELM_INLINE void multiplyByInverse(const V (&a)[N][N], const V (&pInverse)[B][B], V (&x)[B][M],
                                    V (&y)[M][B]) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < B; ++i) {
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned j = 0; j < M; ++j) {
             x[i][j] = pInverse[i][0] * a[0][B + j];
             y[j][i] = a[B + j][0] * pInverse[0][i];
-#pragma GCC unroll 3
+            ZELM_UNROLL
             for (unsigned k = 1; k < B; ++k) {
                 x[i][j] = x[i][j] + pInverse[i][k] * a[k][B + j];
                 y[j][i] = y[j][i] + a[B + j][k] * pInverse[k][i];
@@ -51,12 +51,12 @@ ZELM_INLINE void multiplyByInverse(const V (&a)[N][N], const V (&pInverse)[B][B]
 // Z = T - Y * Q, the Schur complement.
 template <unsigned B, unsigned M, typename V, unsigned N>
 ZELM_INLINE void schurComplement(const V (&a)[N][N], const V (&y)[M][B], V (&z)[M][M]) {
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < M; ++i) {
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned j = 0; j < M; ++j) {
             V sum = y[i][0] * a[0][B + j];
-#pragma GCC unroll 3
+            ZELM_UNROLL
             for (unsigned k = 1; k < B; ++k)
                 sum = sum + y[i][k] * a[k][B + j];
             z[i][j] = a[B + i][B + j] - sum;
@@ -68,14 +68,14 @@ ZELM_INLINE void schurComplement(const V (&a)[N][N], const V (&y)[M][B], V (&z)[
 template <unsigned B, unsigned M, typename V, unsigned N>
 ZELM_INLINE void composeInverse(const V (&pInverse)[B][B], const V (&x)[B][M], const V (&y)[M][B],
                                 const V (&w)[M][M], V (&a)[N][N]) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < B; ++i) {
         V xw[M];
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned j = 0; j < M; ++j) {
             V wy = w[j][0] * y[0][i];
             xw[j] = x[i][0] * w[0][j];
-#pragma GCC unroll 4
+            ZELM_UNROLL
             for (unsigned k = 1; k < M; ++k) {
                 wy = wy + w[j][k] * y[k][i];
                 xw[j] = xw[j] + x[i][k] * w[k][j];
@@ -83,20 +83,20 @@ ZELM_INLINE void composeInverse(const V (&pInverse)[B][B], const V (&x)[B][M], c
             a[B + j][i] = -wy;
             a[i][B + j] = -xw[j];
         }
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned j = 0; j < B; ++j) {
             V sum = xw[0] * y[0][j];
-#pragma GCC unroll 4
+            ZELM_UNROLL
             for (unsigned k = 1; k < M; ++k)
                 sum = sum + xw[k] * y[k][j];
             a[i][j] = pInverse[i][j] + sum;
         }
     }
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < M; ++i)
-#pragma GCC unroll 4
-        for (unsigned j = 0; j < M; ++j)
-            a[B + i][B + j] = w[i][j];
+        ZELM_UNROLL
+    for (unsigned j = 0; j < M; ++j)
+        a[B + i][B + j] = w[i][j];
 }
 
 // In place. The result is the lanes where P or the complement counts as singular.
@@ -104,11 +104,11 @@ template <unsigned B, bool dense, typename V, unsigned N>
 ZELM_INLINE Mask<V> invertByBlocks(V (&a)[N][N]) {
     constexpr unsigned M = N - B;
     V p[B][B], pInverse[B][B];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < B; ++i)
-#pragma GCC unroll 3
-        for (unsigned j = 0; j < B; ++j)
-            p[i][j] = a[i][j];
+        ZELM_UNROLL
+    for (unsigned j = 0; j < B; ++j)
+        p[i][j] = a[i][j];
     Mask<V> singular = noLane<V>();
     if constexpr (B == 2)
         singular = invertOrder2(p, pInverse);
@@ -132,7 +132,7 @@ template <typename V, typename Value>
 ZELM_INLINE V largestOf(unsigned from, Value value) {
     using T = ElementOf<V>;
     V best = value(from), position = spread<V>(static_cast<T>(from));
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned q = from + 1; q <= 4; ++q) {
         const V v = value(q);
         const Mask<V> wins = greater(v, best);
@@ -145,20 +145,20 @@ ZELM_INLINE V largestOf(unsigned from, Value value) {
 // Exchanges column or row `stage` with that at the position.
 template <typename V, unsigned N>
 ZELM_INLINE void exchangeColumnsAt(V position, V (&a)[N][N], unsigned stage) {
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned q = stage + 1; q <= 4; ++q) {
         const Mask<V> here = equal(position, spread<V>(static_cast<ElementOf<V>>(q)));
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             exchangeWhere(here, a[i][stage], a[i][q]);
     }
 }
 template <typename V, unsigned N>
 ZELM_INLINE void exchangeRowsAt(V position, V (&a)[N][N], unsigned stage) {
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned q = stage + 1; q <= 4; ++q) {
         const Mask<V> here = equal(position, spread<V>(static_cast<ElementOf<V>>(q)));
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             exchangeWhere(here, a[stage][j], a[q][j]);
     }
@@ -169,30 +169,27 @@ ZELM_INLINE Mask<V> invertWithSearch(V (&a)[N][N]) {
     constexpr unsigned B = N == 5 ? 2 : 3;
     V position[B];
     // 1. The column with the largest element of row 0 comes first.
-    position[0] = largestOf<V>(
-        0, [&](unsigned q) __attribute__((always_inline)) { return magnitude(a[0][q]); });
+    position[0] = largestOf<V>(0, [&](unsigned q) ZELM_INLINE_LAMBDA { return magnitude(a[0][q]); });
     exchangeColumnsAt(position[0], a, 0);
     // 2. Beside it, the one with the largest determinant of order 2.
     position[1] = largestOf<V>(
-        1, [&](unsigned q)
-               __attribute__((always_inline)) { return magnitude(a[1][q] * a[0][0] - a[0][q] * a[1][0]); });
+        1, [&](unsigned q) ZELM_INLINE_LAMBDA { return magnitude(a[1][q] * a[0][0] - a[0][q] * a[1][0]); });
     exchangeColumnsAt(position[1], a, 1);
     // 3. In order 6, beside both the one with the largest determinant of order 3.
     if constexpr (B == 3) {
-        position[2] = largestOf<V>(
-            2, [&](unsigned q) __attribute__((always_inline)) {
-                const V p[3][3] = {
-                    {a[0][0], a[0][1], a[0][q]}, {a[1][0], a[1][1], a[1][q]}, {a[2][0], a[2][1], a[2][q]}};
-                V c[3][3];
-                cofactors(p, c);
-                return magnitude(determinantFrom<false>(p, c));
-            });
+        position[2] = largestOf<V>(2, [&](unsigned q) ZELM_INLINE_LAMBDA {
+            const V p[3][3] = {
+                {a[0][0], a[0][1], a[0][q]}, {a[1][0], a[1][1], a[1][q]}, {a[2][0], a[2][1], a[2][q]}};
+            V c[3][3];
+            cofactors(p, c);
+            return magnitude(determinantFrom<false>(p, c));
+        });
         exchangeColumnsAt(position[2], a, 2);
     }
     // 4. The inverse by blocks.
     const Mask<V> singular = invertByBlocks<B, false>(a);
     // 5. Its rows take the places that the columns had.
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned back = 1; back <= B; ++back)
         exchangeRowsAt(position[B - back], a, B - back);
     return singular;

@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: d is the only work space.
 template <typename A, typename B, typename D>
-__attribute__((noinline)) void choleskySolveThroughDst(const A &a, const B &b, const D &d, std::uint32_t n) {
+ZELM_NOINLINE void choleskySolveThroughDst(const A &a, const B &b, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         T x = b.get(i);
@@ -27,23 +27,23 @@ __attribute__((noinline)) void choleskySolveThroughDst(const A &a, const B &b, c
 // The same for a fixed size, where the elements of d are distinct: what was stored in d is read from
 // registers.
 template <unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) void choleskySolveInRegisters(const A &a, const B &b, const D &d) {
+ZELM_NOINLINE void choleskySolveInRegisters(const A &a, const B &b, const D &d) {
     using T = typename D::Element;
     T x[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         T sum = b.get(i);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = 0; k < i; ++k)
             sum = sum - a.get(i, k, N) * x[k];
         x[i] = sum * a.get(i, i, N);
         d.set(i, x[i]);
     }
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned back = 1; back <= N; ++back) {
         const unsigned i = N - back;
         T sum = x[i];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = N - 1; k > i; --k)
             sum = sum - a.get(k, i, N) * x[k];
         x[i] = sum * a.get(i, i, N);
@@ -99,9 +99,9 @@ struct CholeskySystems {
 
 // The systems of an array. An object at null is passed over.
 template <typename A, typename B, typename D, typename Size>
-__attribute__((noinline)) ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d, Size size,
-                                                          std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d, Size size,
+                                              std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         const auto matrix = a.object(k);
         const auto right = b.object(k);
         const auto target = d.object(k);
@@ -142,7 +142,7 @@ ZELM_INLINE ZelmStatus choleskySolveArray(const A &a, const B &b, const D &d, Si
     if (count < 0 || isNegative(size))
         return ZELM_OK;
     return withPlainest(
-        [&](const auto &matrix, const auto &right, const auto &target) __attribute__((always_inline)) {
+        [&](const auto &matrix, const auto &right, const auto &target) ZELM_INLINE_LAMBDA {
             return choleskySolveObjects(untested(matrix), untested(right), untested(target), size,
                                         static_cast<std::uint32_t>(count));
         },

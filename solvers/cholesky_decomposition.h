@@ -20,7 +20,7 @@ ZELM_INLINE T choleskyReciprocal(T pivot) {
 
 // One matrix, as the definition has it, whatever overlaps.
 template <typename S, typename D>
-__attribute__((noinline)) ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         for (std::uint32_t j = 0; j < i; ++j) {
@@ -42,22 +42,22 @@ __attribute__((noinline)) ZelmStatus choleskyThroughDst(const S &s, const D &d, 
 // The same for a fixed size, where the elements of d are distinct: what was stored in d is read from
 // registers.
 template <unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus choleskyInRegisters(const S &s, const D &d) {
+ZELM_NOINLINE ZelmStatus choleskyInRegisters(const S &s, const D &d) {
     using T = typename D::Element;
     T l[N][N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < i; ++j) {
             T sum = s.get(i, j, N);
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned k = 0; k < j; ++k)
                 sum = sum - l[i][k] * l[j][k];
             l[i][j] = sum * l[j][j];
             d.set(i, j, N, l[i][j]);
         }
         T pivot = s.get(i, i, N);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = 0; k < i; ++k)
             pivot = pivot - l[i][k] * l[i][k];
         if (!(pivot > 0))
@@ -98,7 +98,7 @@ ZELM_INLINE ZelmStatus choleskyObject(const S &s, const D &d, Size size) {
 
 // As many matrices as V has lanes. False, with nothing written, where one of them is not positive definite.
 template <typename V, unsigned N, typename S, typename D>
-__attribute__((noinline)) bool choleskyGroup(const S &s, const D &d, std::uint32_t k) {
+ZELM_NOINLINE bool choleskyGroup(const S &s, const D &d, std::uint32_t k) {
     V a[N][N];
     loadLower(s, k, a);
     if (!choleskyFactor<kCholeskyRoot<D>>(a))
@@ -119,11 +119,10 @@ ZELM_INLINE ZelmStatus choleskyObjectAt(const S &s, const D &d, Size size, std::
 
 // The matrices of an array, of a fixed size.
 template <unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus choleskyObjects(const S &s, const D &d, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        return choleskyObjectAt(s, d, FixedSize<N>(), k);
-    };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus choleskyObjects(const S &s, const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k)
+                         ZELM_INLINE_LAMBDA { return choleskyObjectAt(s, d, FixedSize<N>(), k); };
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         return choleskyGroup<typename decltype(pack)::Pack, N>(s, d, k);
     };
     if (hasNoNullObject(s, N, N, count) && hasNoNullObject(d, N, N, count))
@@ -151,13 +150,11 @@ ZELM_INLINE ZelmStatus choleskyArray(const S &s, const D &d, Size size, Count co
             return ZELM_OK;
     const std::uint32_t objects = static_cast<std::uint32_t>(count);
     if constexpr (Size::fixed == 0) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            return choleskyObjectAt(s, d, size, k);
-        };
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA { return choleskyObjectAt(s, d, size, k); };
         return forEachObject(objects, one);
     } else {
         return withPlainest(
-            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+            [&](const auto &source, const auto &target) ZELM_INLINE_LAMBDA {
                 return choleskyObjects<Size::fixed>(untested(source), untested(target), objects);
             },
             departures::wholeSteps(s), departures::wholeSteps(d));

@@ -10,18 +10,18 @@ template <Root root, typename V, unsigned N>
 bool choleskyFactor(V (&a)[N][N]) {
     const V zero = {};
     Mask<V> fails = noLane<V>();
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < i; ++j) {
             V s = a[i][j];
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned k = 0; k < j; ++k)
                 s = s - a[i][k] * a[j][k];
             a[i][j] = s * a[j][j];
         }
         V d = a[i][i];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = 0; k < i; ++k)
             d = d - a[i][k] * a[i][k];
         fails = fails | notGreater(d, zero);
@@ -32,19 +32,19 @@ bool choleskyFactor(V (&a)[N][N]) {
 
 template <typename V, typename F, unsigned N>
 void choleskySolve(const F (&a)[N][N], V (&x)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         V sum = x[i];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = 0; k < i; ++k)
             sum = sum - inLanes<V>(a[i][k]) * x[k];
         x[i] = sum * inLanes<V>(a[i][i]);
     }
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned back = 1; back <= N; ++back) {
         const unsigned i = N - back;
         V sum = x[i];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned k = N - 1; k > i; --k)
             sum = sum - inLanes<V>(a[k][i]) * x[k];
         x[i] = sum * inLanes<V>(a[i][i]);

@@ -75,7 +75,7 @@ ZELM_INLINE V reciprocalOfOrder4(V x) {
 
 template <typename V>
 ZELM_INLINE void cofactors(const V (&a)[3][3], V (&c)[3][3]) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i) {
         const unsigned p = (i + 1) % 3, q = (i + 2) % 3;
         c[i][0] = a[p][1] * a[q][2] - a[p][2] * a[q][1];
@@ -88,9 +88,8 @@ ZELM_INLINE void cofactors(const V (&a)[3][3], V (&c)[3][3]) {
 // those of the columns 01, 02, 03, 12, 13, 23. Each is (x - y) + z or, where its sign is minus, (y - x) - z.
 template <typename V>
 ZELM_INLINE void cofactorsOfRow(const V (&row)[4], const V (&m)[6], bool negative, V (&c)[4]) {
-    const auto sum = [negative](V x, V y, V z, bool minus) __attribute__((always_inline)) {
-        return negative != minus ? (y - x) - z : (x - y) + z;
-    };
+    const auto sum = [negative](V x, V y, V z, bool minus)
+                         ZELM_INLINE_LAMBDA { return negative != minus ? (y - x) - z : (x - y) + z; };
     c[0] = sum(row[1] * m[5], row[2] * m[4], row[3] * m[3], false);
     c[1] = sum(row[0] * m[5], row[2] * m[2], row[3] * m[1], true);
     c[2] = sum(row[0] * m[4], row[1] * m[2], row[3] * m[0], false);
@@ -100,11 +99,11 @@ ZELM_INLINE void cofactorsOfRow(const V (&row)[4], const V (&m)[6], bool negativ
 template <typename V>
 ZELM_INLINE void minorsOfRows(const V (&upper)[4], const V (&lower)[4], V (&m)[6]) {
     unsigned number = 0;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned c = 0; c < 4; ++c)
-#pragma GCC unroll 4
-        for (unsigned d = c + 1; d < 4; ++d)
-            m[number++] = upper[c] * lower[d] - lower[c] * upper[d];
+        ZELM_UNROLL
+    for (unsigned d = c + 1; d < 4; ++d)
+        m[number++] = upper[c] * lower[d] - lower[c] * upper[d];
 }
 
 template <typename V>
@@ -147,11 +146,11 @@ ZELM_INLINE Mask<V> invertClosed(const V (&a)[N][N], V (&inverse)[N][N]) {
         r = N == 3 ? reciprocalOfOrder3(det) : reciprocalOfOrder4(det);
     else
         r = reciprocal(det);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 4
-        for (unsigned j = 0; j < N; ++j)
-            inverse[i][j] = c[j][i] * r;
+        ZELM_UNROLL
+    for (unsigned j = 0; j < N; ++j)
+        inverse[i][j] = c[j][i] * r;
     if constexpr (singular == Singular::InBand)
         return inBand(det);
     else

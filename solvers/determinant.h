@@ -40,10 +40,10 @@ ZELM_INLINE ZelmStatus determinantByElimination(const S &s, void *scratch, T *ds
 
 // In an array a failed pivot leaves a zero of the sign that the last element gives it, or NaN.
 template <typename T, typename S>
-__attribute__((noinline)) ZelmStatus determinantsByElimination(const S &s, void *scratch, T *dst,
-                                                               std::uint32_t n, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus determinantsByElimination(const S &s, void *scratch, T *dst, std::uint32_t n,
+                                                   std::uint32_t count) {
     const WorkSpace<T> space(scratch, n);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         const Address result = addressOf(dst) + Address{k} * sizeof(T);
         store(result, T{1});
         copyToWorkSpace(s.object(k), space);
@@ -76,7 +76,7 @@ ZELM_INLINE void determinantInElementType(const S &s, const Dense<T> &result) {
 }
 
 template <typename V, unsigned N, typename S>
-__attribute__((noinline)) void determinantsOfGroup(const S &s, Address results, std::uint32_t k) {
+ZELM_NOINLINE void determinantsOfGroup(const S &s, Address results, std::uint32_t k) {
     V a[N][N], determinants;
     loadMatrix(s, k, a);
     determinantOf(a, determinants);
@@ -84,13 +84,13 @@ __attribute__((noinline)) void determinantsOfGroup(const S &s, Address results, 
 }
 
 template <unsigned N, typename S, typename T>
-__attribute__((noinline)) ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint32_t count) {
     const DenseArray<T> results(dst, std::int32_t{sizeof(T)}, 0);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         determinantInElementType<N>(s.object(k), results.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         determinantsOfGroup<typename decltype(pack)::Pack, N>(s, results.start, k);
         return true;
     };
@@ -147,9 +147,8 @@ ZELM_INLINE ZelmStatus determinantArray(const S &s, void *scratch, T *dst, Size 
             return ZELM_OK;
         } else {
             return withPlainest(
-                [&](const auto &plain) __attribute__((always_inline)) {
-                    return determinantsInElementType<Size::fixed>(plain, dst, count);
-                },
+                [&](const auto &plain)
+                    ZELM_INLINE_LAMBDA { return determinantsInElementType<Size::fixed>(plain, dst, count); },
                 s);
         }
     }

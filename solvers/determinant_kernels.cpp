@@ -10,9 +10,7 @@ void determinantOf(const V (&a)[N][N], V &determinant) {
     if constexpr (N == 3) {
         determinant = determinantOfOrder3(a);
     } else {
-        const auto element = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
-            return a[i][j];
-        };
+        const auto element = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return a[i][j]; };
         determinant = expandByMinors<N, V>(element, MinorsAsTheyAre{});
     }
 }

@@ -29,26 +29,23 @@ ZELM_INLINE V expandByMinors(const Elements &a, Keep keep) {
     // Indexed by the set of columns, column 0 being the highest bit: lexicographic order is descending.
     constexpr unsigned all = 1u << N;
     V minors[all];
-    const auto bit = [](unsigned column) __attribute__((always_inline)) {
-        return 1u << (N - 1 - column);
-    };
+    const auto bit = [](unsigned column) ZELM_INLINE_LAMBDA { return 1u << (N - 1 - column); };
     unsigned number = 0;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned c = 0; c < N; ++c)
-#pragma GCC unroll 6
-        for (unsigned d = c + 1; d < N; ++d)
-            minors[bit(c) | bit(d)] =
-                keep(2, number++, a(N - 2, c) * a(N - 1, d) - a(N - 1, c) * a(N - 2, d));
-#pragma GCC unroll 4
+        ZELM_UNROLL
+    for (unsigned d = c + 1; d < N; ++d)
+        minors[bit(c) | bit(d)] = keep(2, number++, a(N - 2, c) * a(N - 1, d) - a(N - 1, c) * a(N - 2, d));
+    ZELM_UNROLL
     for (unsigned order = 3; order <= N; ++order) {
         number = 0;
-#pragma GCC unroll 64
+        ZELM_UNROLL
         for (unsigned columns = all - 1; columns != 0; --columns) {
             if (numberOf(columns) != order)
                 continue;
             V sum{};
             unsigned term = 0;
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned c = 0; c < N; ++c) {
                 if ((columns & bit(c)) == 0)
                     continue;
@@ -72,9 +69,7 @@ ZELM_INLINE void termsOfOrder3(const Elements &a, V (&t)[3]) {
 
 template <typename V>
 ZELM_INLINE V determinantOfOrder3(const V (&a)[3][3]) {
-    const auto element = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
-        return a[i][j];
-    };
+    const auto element = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return a[i][j]; };
     V t[3];
     termsOfOrder3(element, t);
     return (t[0] + t[1]) + t[2];

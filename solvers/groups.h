@@ -68,7 +68,7 @@ constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || 
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N]) {
     if constexpr (kUnrollsRows<V, Array>) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             loadRow<N>(array, k, i, out[i]);
     } else {
@@ -81,7 +81,7 @@ ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N])
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
     if constexpr (kUnrollsRows<V, Array>) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             storeRow<N>(array, k, i, in[i]);
     } else {
@@ -111,20 +111,20 @@ ZELM_INLINE void storeLower(const Array &array, std::uint32_t k, const V (&in)[N
 
 template <unsigned N, typename T, typename S>
 ZELM_INLINE void readMatrix(const S &s, T (&out)[N][N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            out[i][j] = s.get(i, j, N);
+        ZELM_UNROLL
+    for (unsigned j = 0; j < N; ++j)
+        out[i][j] = s.get(i, j, N);
 }
 
 template <unsigned N, typename T, typename D>
 ZELM_INLINE void writeMatrix(const D &d, const T (&in)[N][N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-#pragma GCC unroll 6
-        for (unsigned j = 0; j < N; ++j)
-            d.set(i, j, N, in[i][j]);
+        ZELM_UNROLL
+    for (unsigned j = 0; j < N; ++j)
+        d.set(i, j, N, in[i][j]);
 }
 
 } // namespace zelm::solvers

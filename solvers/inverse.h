@@ -25,8 +25,7 @@ ZELM_INLINE void copyMinor(const S &s, std::uint32_t i, std::uint32_t j, const W
 }
 
 template <typename T, typename S, typename D>
-__attribute__((noinline)) ZelmStatus invertByElimination(const S &s, void *scratch, const D &d,
-                                                         std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus invertByElimination(const S &s, void *scratch, const D &d, std::uint32_t n) {
     // In 64-bit float it is one and the same.
     constexpr MultiplierIn multiplier = sizeof(T) == 4 ? MultiplierIn::Element : MultiplierIn::Double;
     const WorkSpace<T> space(scratch, n);
@@ -73,14 +72,14 @@ ZELM_INLINE ZelmStatus storeSingular(Outcome outcome, const T (&a)[N][N], const 
 ZELM_INLINE ZelmStatus invertRowsOfThree(const Dense<const float> &s, const Dense<float> &d) {
     constexpr Address third = 2 * sizeof(float);
     Floats4 rows[3];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i) {
         const Address row = s.rowStart(i);
         rows[i] = _mm_movelh_ps(loadTwo(row), inFirstLane(load<float>(row + third)));
     }
     if (!invertRows(rows))
         return ZELM_ERR_DIV_BY_ZERO;
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i) {
         const Address row = d.rowStart(i);
         _mm_storel_pi(reinterpret_cast<__m64 *>(row), rows[i]);
@@ -91,12 +90,12 @@ ZELM_INLINE ZelmStatus invertRowsOfThree(const Dense<const float> &s, const Dens
 
 ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<float> &d) {
     Floats4 rows[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         rows[i] = loadPack<float>(s.rowStart(i));
     if (!invertRows(rows))
         return ZELM_ERR_DIV_BY_ZERO;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         storePack(d.rowStart(i), rows[i]);
     return ZELM_OK;
@@ -104,14 +103,14 @@ ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const float> &s, const Dense<
 
 ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const double> &s, const Dense<double> &d) {
     Doubles2 rows[4][2];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i) {
         rows[i][0] = loadPack<double>(s.rowStart(i));
         rows[i][1] = loadPack<double>(s.rowStart(i) + kBlockBytes);
     }
     if (!invertRows(rows))
         return ZELM_ERR_DIV_BY_ZERO;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i) {
         storePack(d.rowStart(i), rows[i][0]);
         storePack(d.rowStart(i) + kBlockBytes, rows[i][1]);
@@ -130,7 +129,7 @@ ZELM_INLINE ZelmStatus invertInRegisters(const T (&a)[3][3], const D &d) {
 }
 
 template <bool dense, unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus invertInCopy(const S &s, const D &d) {
+ZELM_NOINLINE ZelmStatus invertInCopy(const S &s, const D &d) {
     typename D::Element a[N][N];
     readMatrix(s, a);
     const Outcome outcome = invertAlone<dense>(a);
@@ -157,7 +156,7 @@ ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
 }
 
 template <typename V, bool dense, unsigned N, typename S, typename D>
-__attribute__((noinline)) bool invertGroupOf(const S &s, const D &d, std::uint32_t k) {
+ZELM_NOINLINE bool invertGroupOf(const S &s, const D &d, std::uint32_t k) {
     V a[N][N];
     loadMatrix(s, k, a);
     if (!invertGroup<dense>(a))
@@ -168,11 +167,10 @@ __attribute__((noinline)) bool invertGroupOf(const S &s, const D &d, std::uint32
 
 // The matrices of an array.
 template <bool dense, unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-        return invertObject<dense, N>(s.object(k), d.object(k));
-    };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k)
+                         ZELM_INLINE_LAMBDA { return invertObject<dense, N>(s.object(k), d.object(k)); };
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         return invertGroupOf<typename decltype(pack)::Pack, dense, N>(s, d, k);
     };
     return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(d, N, N), reads(s, N, N));
@@ -214,7 +212,7 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
                                            tested(Pointer(scratch), 0));
             status != kProceed)
             return status;
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             return invertByElimination<T>(s.object(k), scratch, d.object(k), size.value());
         };
         return forEachObject(count, one, s, d);
@@ -224,9 +222,8 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
             return status;
         constexpr bool dense = decltype(d.object(0))::isDense;
         return withPlainest(
-            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
-                return invertObjects<dense, Size::fixed>(source, target, count);
-            },
+            [&](const auto &source, const auto &target)
+                ZELM_INLINE_LAMBDA { return invertObjects<dense, Size::fixed>(source, target, count); },
             s, d);
     }
 }

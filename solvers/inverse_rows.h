@@ -17,7 +17,7 @@ ZELM_INLINE bool invertRows(Floats4 (&a)[3]) {
     const Floats4 turned[3] = {pick<1, 2, 0, 3>(a[0]), pick<1, 2, 0, 3>(a[1]), pick<1, 2, 0, 3>(a[2])};
     // The cofactors of columns 2, 0 and 1 of a row: the cross product of the two rows after it.
     Floats4 c[3];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i) {
         const unsigned p = (i + 1) % 3, q = (i + 2) % 3;
         c[i] = a[p] * turned[q] - turned[p] * a[q];
@@ -75,7 +75,7 @@ ZELM_INLINE bool invertRows(Floats4 (&a)[4]) {
         return false;
     const Floats4 r = reciprocalOfOrder4(det);
     _MM_TRANSPOSE4_PS(c[0], c[1], c[2], c[3]);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         a[i] = c[i] * r;
     return true;
@@ -104,13 +104,13 @@ ZELM_INLINE void cofactorsOfRows(const Doubles2 (&second)[2], const Doubles2 (&f
                                  const Doubles2 (&m)[6], Doubles2 (&c)[4]) {
     const Doubles2 minus = _mm_set1_pd(-0.0);
     Doubles2 plain[4], opposite[4];
-#pragma GCC unroll 2
+    ZELM_UNROLL
     for (unsigned half = 0; half < 2; ++half) {
         const Doubles2 other = bitXor(first[half], minus);
         plain[2 * half] = _mm_unpacklo_pd(second[half], other);
         plain[2 * half + 1] = _mm_unpackhi_pd(second[half], other);
     }
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned j = 0; j < 4; ++j)
         opposite[j] = bitXor(plain[j], minus);
     c[0] = (plain[1] * m[5] - plain[2] * m[4]) + plain[3] * m[3];
@@ -132,7 +132,7 @@ ZELM_INLINE bool invertRows(Doubles2 (&a)[4][2]) {
     if (anyLane(equal(det, Doubles2{})))
         return false;
     const Doubles2 r = reciprocal(det);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i) {
         a[i][0] = upper[i] * r;
         a[i][1] = lower[i] * r;

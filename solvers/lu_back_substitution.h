@@ -9,8 +9,7 @@ namespace zelm::solvers {
 // One system, as the definition has it. d is the only work space: it holds the forward pass's results, so
 // where it overlaps b, later rows of b are read after they were overwritten.
 template <typename A, typename B, typename D, typename Size>
-__attribute__((noinline)) void luBackSubstThroughDst(const A &a, Address pivots, const B &b, const D &d,
-                                                     Size size) {
+ZELM_NOINLINE void luBackSubstThroughDst(const A &a, Address pivots, const B &b, const D &d, Size size) {
     using T = typename D::Element;
     const std::uint32_t n = size.value();
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
@@ -42,22 +41,22 @@ ZELM_INLINE void luBackSubstInRegisters(const A &a, Address pivots, const B &b, 
     const auto row = [&](unsigned i) { return load<std::uint32_t>(pivots + i * 4); };
     x[0] = b.get(row(0));
     d.set(0, x[0]);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 1; i < N; ++i) {
         const std::uint32_t r = row(i);
         T sum = 0;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < i; ++j)
             sum = sum + a.get(r, j, N) * x[j];
         x[i] = b.get(r) - sum;
         d.set(i, x[i]);
     }
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned back = 0; back < N; ++back) {
         const unsigned i = N - 1 - back;
         const std::uint32_t r = row(i);
         T sum = 0;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = i + 1; j < N; ++j)
             sum = sum + a.get(r, j, N) * x[j];
         x[i] = (back == 0 ? x[i] : x[i] - sum) / a.get(r, i, N);
@@ -73,7 +72,7 @@ ZELM_INLINE bool rowsAreInside(Address pivots) {
     const __m128i limit = _mm_set1_epi32(static_cast<int>(0x80000000u + N - 1));
     __m128i outside = _mm_setzero_si128();
     constexpr unsigned whole = entries / 4 * 4;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned e = 0; e < whole; e += 4) {
         const __m128i rows = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pivots + e * 4));
         outside = _mm_or_si128(outside, _mm_cmpgt_epi32(_mm_xor_si128(rows, lowest), limit));
@@ -103,14 +102,14 @@ struct LuSystems {
         const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
         if (!rowsAreInside<N, kLanesOf<V> * N>(pivots))
             return false;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i) {
-            const auto physical = [&](unsigned lane) __attribute__((always_inline)) {
+            const auto physical = [&](unsigned lane) ZELM_INLINE_LAMBDA {
                 return load<std::uint32_t>(pivots + (lane * N + i) * 4);
             };
             loadRowOfEach<N>(a, k, physical, factors.a[i]);
             LaneAddresses<V> at;
-#pragma GCC unroll 16
+            ZELM_UNROLL
             for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
                 at[lane] = b.object(k + lane).address(0, physical(lane), 0);
             x[i] = gather<V>(at);
@@ -132,7 +131,7 @@ struct LuSystems {
     ZELM_INLINE void loadRight(const B &b, std::uint32_t k, V (&x)[N]) const {
         V right[N];
         loadRow<N>(b, k, 0, right);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             x[i] = right[row(i)];
     }
@@ -166,9 +165,9 @@ constexpr Grouping kGroupingOfLu<A> = kOwnGrouping<A>;
 
 // The systems of an array, of a fixed size; the elements of each result are distinct.
 template <unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) ZelmStatus luBackSubstObjects(const A &a, const std::uint32_t *pivotIndex,
-                                                        const B &b, const D &d, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus luBackSubstObjects(const A &a, const std::uint32_t *pivotIndex, const B &b,
+                                            const D &d, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         luBackSubstInRegisters<N>(a.object(k), pivotAddress(pivotIndex, kIsArray<A> ? Address{k} * N : 0),
                                   b.object(k), d.object(k));
         return ZELM_OK;
@@ -215,10 +214,9 @@ ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIn
     if constexpr (Size::fixed != 0)
         if (resultIsDistinct<Size::fixed>(d))
             return withPlainest(
-                [&](const auto &matrix, const auto &right, const auto &target)
-                    __attribute__((always_inline)) {
-                        return luBackSubstObjects<Size::fixed>(matrix, pivotIndex, right, target, count);
-                    },
+                [&](const auto &matrix, const auto &right, const auto &target) ZELM_INLINE_LAMBDA {
+                    return luBackSubstObjects<Size::fixed>(matrix, pivotIndex, right, target, count);
+                },
                 a, b, d);
     const auto throughDst = [&](std::uint32_t k) {
         luBackSubstThroughDst(a.object(k), pivotAddress(pivotIndex, kIsArray<A> ? k * n : 0), b.object(k),

@@ -70,7 +70,7 @@ struct LuThroughDst {
 };
 
 template <typename S, typename D, typename Size>
-__attribute__((noinline)) ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, Size size) {
+ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, Size size) {
     using T = typename D::Element;
     const std::uint32_t n = size.value();
     const LuThroughDst<D> lu = {d, pivots, n};
@@ -128,7 +128,7 @@ ZELM_INLINE std::uint32_t choosePivotRow(LuRows<T, N> &rows, std::uint32_t k) {
     auto &order = rows.order;
     T best = magnitude(rows.element[order[k]][k]);
     std::uint32_t bestPos = k;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (std::uint32_t j = k + 1; j < N; ++j) {
         const T value = magnitude(rows.element[order[j]][k]);
         const std::uint32_t wins = value > best;
@@ -146,12 +146,12 @@ ZELM_INLINE void eliminateRows(LuRows<T, N> &rows, std::uint32_t k, std::uint32_
     constexpr unsigned lanes = kLanes<T>;
     const unsigned first = (k + 1) / lanes; // the first pack that holds a column behind k
     const unsigned ahead = (k + 1) % lanes; // its lanes that do not
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (std::uint32_t j = k + 1; j < N; ++j) {
         T *row = rows.element[rows.order[j]];
         const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
         const Pack<T> negated = spread<Pack<T>>(multiplier.negated);
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned p = first; p < LuRows<T, N>::packs; ++p) {
             const Address at = addressOf(row + p * lanes);
             const Pack<T> old = loadPack<T>(at);
@@ -164,12 +164,12 @@ ZELM_INLINE void eliminateRows(LuRows<T, N> &rows, std::uint32_t k, std::uint32_
 }
 
 template <typename T, unsigned N>
-__attribute__((noinline)) ZelmStatus luFactorRows(LuRows<T, N> &rows) {
+ZELM_NOINLINE ZelmStatus luFactorRows(LuRows<T, N> &rows) {
     constexpr T threshold = static_cast<T>(kLuThreshold);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (std::uint32_t i = 0; i < N; ++i)
         rows.order[i] = i;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (std::uint32_t k = 0; k + 1 < N; ++k) {
         const std::uint32_t pivotRow = choosePivotRow(rows, k);
         const T pivot = rows.element[pivotRow][k];
@@ -184,10 +184,10 @@ __attribute__((noinline)) ZelmStatus luFactorRows(LuRows<T, N> &rows) {
 template <typename T, unsigned N>
 ZELM_INLINE void copyRow(Address to, Address from) {
     constexpr unsigned whole = N / kLanes<T>;
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned p = 0; p < whole; ++p)
         storePack(to + p * kBlockBytes, loadPack<T>(from + p * kBlockBytes));
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned j = whole * kLanes<T>; j < N; ++j)
         copyElement<T>(to + j * sizeof(T), from + j * sizeof(T));
 }
@@ -195,18 +195,18 @@ ZELM_INLINE void copyRow(Address to, Address from) {
 template <typename T, unsigned N>
 ZELM_INLINE ZelmStatus luDecompDense(const Dense<const T> &s, Address pivots, const Dense<T> &d) {
     LuRows<T, N> rows;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         copyRow<T, N>(addressOf(rows.element[i]), s.rowStart(i));
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned j = N; j < rows.width; ++j)
             rows.element[i][j] = 0;
     }
     const ZelmStatus status = luFactorRows(rows);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         copyRow<T, N>(d.rowStart(i), addressOf(rows.element[i]));
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         store(pivots + i * 4, rows.order[i]);
     return status;
@@ -232,43 +232,40 @@ ZELM_INLINE void storeOrder(const V (&order)[N], Address pivots) {
     if constexpr (sizeof(ElementOf<V>) == 4) {
         typedef std::int32_t Numbers __attribute__((vector_size(sizeof(V))));
         V numbers[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             numbers[i] = (V) __builtin_convertvector(order[i], Numbers);
         LaneAddresses<V> at;
-#pragma GCC unroll 16
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
             at[lane] = pivots + lane * N * 4;
         storeAdjacent<N>(at, numbers);
     } else {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
-            toBlocks(
-                order[i], [&](unsigned b, Doubles2 two) __attribute__((always_inline)) {
-                    const __m128i numbers = _mm_cvttpd_epi32(two);
-                    store(pivots + (2 * b * N + i) * 4, _mm_cvtsi128_si32(numbers));
-                    store(pivots + ((2 * b + 1) * N + i) * 4,
-                          _mm_cvtsi128_si32(_mm_shuffle_epi32(numbers, 1)));
-                });
+            toBlocks(order[i], [&](unsigned b, Doubles2 two) ZELM_INLINE_LAMBDA {
+                const __m128i numbers = _mm_cvttpd_epi32(two);
+                store(pivots + (2 * b * N + i) * 4, _mm_cvtsi128_si32(numbers));
+                store(pivots + ((2 * b + 1) * N + i) * 4, _mm_cvtsi128_si32(_mm_shuffle_epi32(numbers, 1)));
+            });
     }
 }
 
 // As many matrices as V has lanes. False, with nothing written, where one of them needs luDecompObject.
 template <typename V, unsigned N, typename S, typename D>
-__attribute__((noinline)) bool luDecompGroup(const S &s, const std::uint32_t *pivotIndex, const D &d,
-                                             std::uint32_t k) {
+ZELM_NOINLINE bool luDecompGroup(const S &s, const std::uint32_t *pivotIndex, const D &d, std::uint32_t k) {
     V a[N][N], order[N];
     loadMatrix(s, k, a);
     if (!luFactor(a, order))
         return false;
     const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
     storeOrder(order, pivots);
-    const auto storeRowAt = [&](unsigned i) __attribute__((always_inline)) {
+    const auto storeRowAt = [&](unsigned i) ZELM_INLINE_LAMBDA {
         storeRowOfEach<N>(
             d, k, [&](unsigned lane) { return load<std::uint32_t>(pivots + (lane * N + i) * 4); }, a[i]);
     };
     if constexpr (kRowsAreAdjacent<D>) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             storeRowAt(i);
     } else {
@@ -281,13 +278,13 @@ __attribute__((noinline)) bool luDecompGroup(const S &s, const std::uint32_t *pi
 
 // The matrices of an array, of a fixed size.
 template <unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, const D &d,
-                                                     std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, const D &d,
+                                         std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         return luDecompObject(s.object(k), pivotAddress(pivotIndex, Address{k} * N), d.object(k),
                               FixedSize<N>());
     };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         return luDecompGroup<typename decltype(pack)::Pack, N>(s, pivotIndex, d, k);
     };
     return forEachInGroups<kLongKernels>(count, writesPerObject(pivotIndex, N * 4), group, one,
@@ -315,13 +312,13 @@ ZELM_INLINE ZelmStatus luDecompArray(const S &s, std::uint32_t *pivotIndex, cons
         status != kProceed)
         return status;
     if constexpr (Size::fixed == 0) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             return luDecompObject(s.object(k), pivotAddress(pivotIndex, k * n), d.object(k), size);
         };
         return forEachObject(count, one, s, d);
     } else {
         return withPlainest(
-            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
+            [&](const auto &source, const auto &target) ZELM_INLINE_LAMBDA {
                 return luDecompObjects<Size::fixed>(source, pivotIndex, target, count);
             },
             s, d);

@@ -13,18 +13,18 @@ template <typename V, unsigned N>
 ZELM_INLINE void bringPivotUp(V (&a)[N][N], V (&order)[N], unsigned k) {
     using T = ElementOf<V>;
     V best = magnitude(a[k][k]), bestPos = spread<V>(static_cast<T>(k));
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = k + 1; j < N; ++j) {
         const V value = magnitude(a[j][k]);
         const Mask<V> wins = greater(value, best);
         best = select(wins, value, best);
         bestPos = select(wins, spread<V>(static_cast<T>(j)), bestPos);
     }
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = k + 1; j < N; ++j) {
         const Mask<V> here = equal(bestPos, spread<V>(static_cast<T>(j)));
         exchangeWhere(here, order[k], order[j]);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned c = 0; c < N; ++c)
             exchangeWhere(here, a[k][c], a[j][c]);
     }
@@ -35,7 +35,7 @@ template <typename V, unsigned N>
 ZELM_INLINE Mask<V> eliminateColumn(V (&a)[N][N], unsigned k) {
     const V zero = {}, pivot = a[k][k];
     Mask<V> fails = noLane<V>();
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = k + 1; j < N; ++j) {
         // One division in the element type has the bits of a division in 64-bit float that is rounded to it:
         // the quotient of two 24-bit significands is never near enough to a rounding boundary for the first
@@ -45,7 +45,7 @@ ZELM_INLINE Mask<V> eliminateColumn(V (&a)[N][N], unsigned k) {
             fails = fails | (equal(multiplier, zero) & notEqual(a[j][k], zero));
         a[j][k] = multiplier;
         const V negated = zero - multiplier;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned c = k + 1; c < N; ++c)
             a[j][c] = a[k][c] * negated + a[j][c];
     }
@@ -59,10 +59,10 @@ bool luFactor(V (&a)[N][N], V (&order)[N]) {
     using T = ElementOf<V>;
     const V threshold = spread<V>(static_cast<T>(kLuThreshold));
     Mask<V> fails = noLane<V>();
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         order[i] = spread<V>(static_cast<T>(i));
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         bringPivotUp(a, order, k);
         fails = fails | notGreaterEqual(magnitude(a[k][k]), threshold);
@@ -73,20 +73,20 @@ bool luFactor(V (&a)[N][N], V (&order)[N]) {
 
 template <typename V, typename F, unsigned N>
 void luSolve(const F (&a)[N][N], V (&x)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 1; i < N; ++i) {
         V sum = {};
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < i; ++j)
             sum = sum + inLanes<V>(a[i][j]) * x[j];
         x[i] = x[i] - sum;
     }
     x[N - 1] = x[N - 1] / inLanes<V>(a[N - 1][N - 1]);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned m = 0; m < N - 1; ++m) {
         const unsigned i = N - 2 - m;
         V sum = {};
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = i + 1; j < N; ++j)
             sum = sum + inLanes<V>(a[i][j]) * x[j];
         x[i] = (x[i] - sum) / inLanes<V>(a[i][i]);

@@ -24,10 +24,10 @@ ZELM_INLINE Mask<V> needsSearch(const V (&a)[N][N]) {
 template <unsigned P, typename V, unsigned N>
 ZELM_INLINE void eliminateBelow(V (&a)[N][N]) {
     a[P][P] = reciprocalOfOrder4(a[P][P]);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = P + 1; i < N; ++i) {
         a[i][P] = a[i][P] * a[P][P];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = P + 1; j < N; ++j)
             a[i][j] = a[i][j] - a[P][j] * a[i][P];
     }
@@ -38,32 +38,32 @@ template <unsigned P, typename V, unsigned N>
 ZELM_INLINE void extendInverse(V (&a)[N][N]) {
     const V r = a[P][P];
     V m[N], u[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = P + 1; i < N; ++i) {
         m[i] = V{} - a[i][P];
         u[i] = a[P][i];
     }
     // Its first column x = W * m.
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = P + 1; i < N; ++i) {
         V sum = a[i][P + 1] * m[P + 1];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = P + 2; j < N; ++j)
             sum = sum + a[i][j] * m[j];
         a[i][P] = sum;
     }
     // Its first row -(u * W) * r.
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = P + 1; j < N; ++j) {
         V sum = u[P + 1] * a[P + 1][j];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = P + 2; i < N; ++i)
             sum = sum + u[i] * a[i][j];
         a[P][j] = -sum * r;
     }
     // Its corner r - (u * x) * r.
     V sum = u[P + 1] * a[P + 1][P];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = P + 2; i < N; ++i)
         sum = sum + u[i] * a[i][P];
     a[P][P] = r - sum * r;
@@ -74,20 +74,20 @@ template <typename V, unsigned N>
 ZELM_INLINE Mask<V> invertTrailing(V (&a)[N][N]) {
     constexpr unsigned P = N - 4;
     V z[4][4], w[4][4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
-#pragma GCC unroll 4
-        for (unsigned j = 0; j < 4; ++j)
-            z[i][j] = a[P + i][P + j];
+        ZELM_UNROLL
+    for (unsigned j = 0; j < 4; ++j)
+        z[i][j] = a[P + i][P + j];
     const Mask<V> singular = invertClosed<true, Singular::Zero>(z, w);
     // Where a matrix is singular, its working rows are part of the result: nothing is overwritten.
     if (anyLane(singular))
         return singular;
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
-#pragma GCC unroll 4
-        for (unsigned j = 0; j < 4; ++j)
-            a[P + i][P + j] = w[i][j];
+        ZELM_UNROLL
+    for (unsigned j = 0; j < 4; ++j)
+        a[P + i][P + j] = w[i][j];
     return singular;
 }
 
@@ -102,7 +102,7 @@ template <unsigned P, unsigned N>
 ZELM_INLINE bool bringPivotColumn(float (&a)[N][N], unsigned &c) {
     const unsigned *const order = N == 5 ? kCompetingOf5 : kCompetingOf6;
     c = order[0];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 1; i < N - P; ++i)
         if (magnitude(a[P][order[i]]) > magnitude(a[P][c]))
             c = order[i];

@@ -8,8 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: scratch holds what the reflectors make of b.
 template <typename A, typename B, typename D, typename Shape>
-__attribute__((noinline)) void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d,
-                                                     Shape shape) {
+ZELM_NOINLINE void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     const Dense<T> w(scratch, 0);
@@ -39,17 +38,17 @@ __attribute__((noinline)) void qrSolveThroughScratch(const A &a, Address scratch
 
 // One system of a fixed size in local copies, where the elements of d are distinct.
 template <unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
+ZELM_NOINLINE void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
     using T = typename D::Element;
     T factors[N][N], scale[N], w[N], x[N];
     readMatrix(a, factors);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         w[i] = b.get(i);
     qrScales(factors, scale);
     qrSolve(factors, scale, w, x);
     storeScratch(scratch, w);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         d.set(i, x[i]);
 }
@@ -98,7 +97,7 @@ struct QrSystems {
     template <typename F, typename V>
     ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
         V w[N];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             w[i] = x[i];
         qrSolve(factors.a, factors.scale, w, x);
@@ -108,9 +107,9 @@ struct QrSystems {
 
 // The systems of an array, of a fixed size.
 template <unsigned N, typename A, typename B, typename D>
-__attribute__((noinline)) ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, const D &d,
-                                                    std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, const D &d,
+                                        std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
         return ZELM_OK;
     };
@@ -142,12 +141,12 @@ ZELM_INLINE ZelmStatus qrSolveArray(const A &a, T *scratch, const B &b, const D 
         return status;
     if constexpr (Shape::isFixed) {
         return withPlainest(
-            [&](const auto &matrix, const auto &right, const auto &target) __attribute__((always_inline)) {
+            [&](const auto &matrix, const auto &right, const auto &target) ZELM_INLINE_LAMBDA {
                 return qrSolveObjects<Shape::rows()>(matrix, scratch, right, target, count);
             },
             a, b, d);
     } else {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), shape);
             return ZELM_OK;
         };

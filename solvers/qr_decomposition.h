@@ -42,7 +42,7 @@ ZELM_INLINE void reflectThroughDst(const D &d, const Dense<T> &v, std::uint32_t 
 
 // One matrix, factored in d as the definition has it, whatever overlaps.
 template <typename S, typename D, typename Shape>
-__attribute__((noinline)) ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, Shape shape) {
+ZELM_NOINLINE ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     for (std::uint32_t i = 0; i < rows; ++i)
@@ -64,7 +64,7 @@ __attribute__((noinline)) ZelmStatus qrThroughDst(const S &s, Address scratch, c
 // What the reflectors leave in scratch: element i of the last one, a leading 1 for each column behind.
 template <unsigned N, typename T>
 ZELM_INLINE void storeScratch(Address scratch, const T (&v)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         store(scratch + i * sizeof(T), v[i]);
 }
@@ -73,14 +73,14 @@ ZELM_INLINE void storeScratch(Address scratch, const T (&v)[N]) {
 template <unsigned N, typename V>
 ZELM_INLINE void storeScratchOfGroup(Address scratch, const V (&v)[N]) {
     using T = ElementOf<V>;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         copyElement<T>(scratch + i * sizeof(T), addressOf(&v[i]) + sizeof(V) - sizeof(T));
 }
 
 // One matrix of a fixed size in a local copy, where the elements of d are distinct.
 template <unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
+ZELM_NOINLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
     using T = typename D::Element;
     T a[N][N], v[N];
     readMatrix(s, a);
@@ -101,7 +101,7 @@ ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape s
 
 // As many matrices as V has lanes. False, with nothing written, where a column of one of them fails.
 template <typename V, unsigned N, typename S, typename D>
-__attribute__((noinline)) bool qrGroup(const S &s, Address scratch, const D &d, std::uint32_t k) {
+ZELM_NOINLINE bool qrGroup(const S &s, Address scratch, const D &d, std::uint32_t k) {
     V a[N][N], v[N];
     loadMatrix(s, k, a);
     if (!qrFactorGroup(a, v))
@@ -113,12 +113,12 @@ __attribute__((noinline)) bool qrGroup(const S &s, Address scratch, const D &d, 
 
 // The matrices of an array, of a fixed size.
 template <unsigned N, typename S, typename D>
-__attribute__((noinline)) ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::uint32_t count) {
     const Address buffer = addressOf(scratch);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         return qrObject(s.object(k), buffer, d.object(k), FixedShape<N, N>());
     };
-    const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
         return qrGroup<typename decltype(pack)::Pack, N>(s, buffer, d, k);
     };
     return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)), group,
@@ -144,12 +144,11 @@ ZELM_INLINE ZelmStatus qrArray(const S &s, T *scratch, const D &d, Shape shape, 
         return status;
     if constexpr (Shape::isFixed) {
         return withPlainest(
-            [&](const auto &source, const auto &target) __attribute__((always_inline)) {
-                return qrObjects<Shape::rows()>(source, scratch, target, count);
-            },
+            [&](const auto &source, const auto &target)
+                ZELM_INLINE_LAMBDA { return qrObjects<Shape::rows()>(source, scratch, target, count); },
             s, d);
     } else {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             return qrObject(s.object(k), addressOf(scratch), d.object(k), shape);
         };
         return forEachObject(count, one, s, d);

@@ -18,7 +18,7 @@ template <typename V, unsigned N>
 ZELM_INLINE V sumOfSquares(const V (&a)[N][N], unsigned k) {
     // The sum starts at +0, which a square takes up without a change.
     V q = a[k][k] * a[k][k];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = k + 1; i < N; ++i)
         q = q + a[i][k] * a[i][k];
     return q;
@@ -33,27 +33,27 @@ ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
     const V c = one / (a[k][k] + s);
     v[k] = one;
     V u = one;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = k + 1; i < N; ++i) {
         v[i] = a[i][k] * c;
         u = u + v[i] * v[i];
     }
     const V b = spread<V>(-2) / u;
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = k; j < N; ++j) {
         V t = a[k][j];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
             t = t + a[i][j] * v[i];
         t = t * b;
         a[k][j] = a[k][j] + t;
         if (j == k)
             continue; // the vector takes the place of what is below
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
             a[i][j] = a[i][j] + v[i] * t;
     }
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = k + 1; i < N; ++i)
         a[i][k] = v[i];
 }
@@ -62,7 +62,7 @@ ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
 
 template <typename T, unsigned N>
 unsigned qrFactor(T (&a)[N][N], T (&v)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         const T q = sumOfSquares(a, k);
         if (!(q >= static_cast<T>(kQrThreshold)))
@@ -76,7 +76,7 @@ template <typename V, unsigned N>
 bool qrFactorGroup(V (&a)[N][N], V (&v)[N]) {
     const V threshold = spread<V>(static_cast<ElementOf<V>>(kQrThreshold));
     Mask<V> fails = noLane<V>();
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         const V q = sumOfSquares(a, k);
         fails = fails | notGreaterEqual(q, threshold);
@@ -87,10 +87,10 @@ bool qrFactorGroup(V (&a)[N][N], V (&v)[N]) {
 
 template <typename V, unsigned N>
 void qrScales(const V (&a)[N][N], V (&scale)[N]) {
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         V u = spread<V>(1);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
             u = u + a[i][k] * a[i][k];
         scale[k] = spread<V>(-2) / u;
@@ -99,27 +99,25 @@ void qrScales(const V (&a)[N][N], V (&scale)[N]) {
 
 template <typename V, typename F, unsigned N>
 void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (&x)[N]) {
-    const auto factor = [&a](unsigned i, unsigned j) __attribute__((always_inline)) {
-        return inLanes<V>(a[i][j]);
-    };
-#pragma GCC unroll 6
+    const auto factor = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return inLanes<V>(a[i][j]); };
+    ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         V t = w[k];
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
             t = t + w[i] * factor(i, k);
         t = t * inLanes<V>(scale[k]);
         w[k] = w[k] + t;
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
             w[i] = w[i] + factor(i, k) * t;
     }
     x[N - 1] = w[N - 1] / factor(N - 1, N - 1);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned back = 2; back <= N; ++back) {
         const unsigned i = N - back;
         V sum = {};
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = i + 1; j < N; ++j)
             sum = sum + factor(i, j) * x[j];
         x[i] = (w[i] - sum) / factor(i, i);

@@ -15,8 +15,7 @@
 namespace zelm::solvers {
 
 template <typename V, typename Method, typename A, typename B, typename D>
-__attribute__((noinline)) bool solveOwnGroup(const Method &method, const A &a, const B &b, const D &d,
-                                             std::uint32_t k) {
+ZELM_NOINLINE bool solveOwnGroup(const Method &method, const A &a, const B &b, const D &d, std::uint32_t k) {
     typename Method::template Factors<V> factors;
     V x[Method::order];
     if (!method.loadGroup(a, b, k, factors, x))
@@ -27,8 +26,8 @@ __attribute__((noinline)) bool solveOwnGroup(const Method &method, const A &a, c
 }
 
 template <typename V, typename Method, typename F, typename B, typename D>
-__attribute__((noinline)) void solveHeldGroup(const Method &method, const F &factors, const B &b, const D &d,
-                                              std::uint32_t k) {
+ZELM_NOINLINE void solveHeldGroup(const Method &method, const F &factors, const B &b, const D &d,
+                                  std::uint32_t k) {
     V x[Method::order];
     method.loadRight(b, k, x);
     method.solve(factors, x);
@@ -41,18 +40,18 @@ template <Grouping grouping, typename Method, typename Memory, typename One, typ
 ZELM_INLINE ZelmStatus solveSystems(const Method &method, const Memory &buffer, One one, const A &a,
                                     const B &b, InPlace inPlace, const D &d, std::uint32_t count) {
     constexpr unsigned N = Method::order;
-    const auto run = [&](auto group) __attribute__((always_inline)) {
+    const auto run = [&](auto group) ZELM_INLINE_LAMBDA {
         return forEachInGroups<grouping>(count, buffer, group, one, writes(d, 1, N), reads(a, N, N),
                                          reads(b, 1, N, inPlace));
     };
     if constexpr (kIsArray<A>) {
-        return run([&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return run([&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             return solveOwnGroup<typename decltype(pack)::Pack>(method, a, b, d, k);
         });
     } else {
         typename Method::template Factors<Pack<typename D::Element>> held;
         bool isHeld = false;
-        return run([&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        return run([&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             if (!isHeld && !method.hold(a, held))
                 return false;
             isHeld = true;

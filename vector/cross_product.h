@@ -103,7 +103,7 @@ ZELM_INLINE CrossFactors<V> factorsOf(const S &s, std::uint32_t k) {
 template <typename V, typename T>
 ZELM_INLINE CrossFactors<V> factorsOf(const WithNegative<T> &s, std::uint32_t) {
     CrossFactors<V> f;
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned j = 0; j < 3; ++j) {
         f.element[j] = spread<V>(s.element[j]);
         f.negative[j] = spread<V>(s.negative[j]);
@@ -119,7 +119,7 @@ constexpr bool kHasNegative<const WithNegative<T>> = true;
 // The lines on the packs of a group.
 template <bool negativeA, bool negativeB, typename V>
 ZELM_INLINE void crossLinesOf(const CrossFactors<V> &a, const CrossFactors<V> &b, V (&result)[3]) {
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned j = 0; j < 3; ++j) {
         const unsigned p = (j + 1) % 3, q = (j + 2) % 3;
         if constexpr (negativeB)
@@ -134,7 +134,7 @@ ZELM_INLINE void crossLinesOf(const CrossFactors<V> &a, const CrossFactors<V> &b
 // The standard and L forms.
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         crossReadingFirst(a.object(k), b.object(k), d.object(k));
         return ZELM_OK;
     };
@@ -144,7 +144,7 @@ ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint3
     } else {
         const Vectors<3, A> firsts(a);
         const Vectors<3, B> seconds(b);
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             typename decltype(pack)::Pack first[3], second[3], result[3];
             firsts.load(k, first);
             seconds.load(k, second);
@@ -159,17 +159,17 @@ ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint3
 
 // All other forms: a line reads what it needs when the lines before it are stored.
 template <typename A, typename B, typename D>
-__attribute__((noinline)) ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
     const auto first = asLinesRead(a);
     const auto second = asLinesRead(b);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
         return ZELM_OK;
     };
     if constexpr (D::isList) {
         return forEachObject(count, one, a, b, d);
     } else {
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
             V result[3];
             crossLinesOf<kHasNegative<decltype(first)>, kHasNegative<decltype(second)>>(
@@ -191,9 +191,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
         return crossDense(a, b, d, count);
     else
         return withPlainest(
-            [&](const auto &...plain)
-                __attribute__((always_inline)) { return crossByLines(plain..., count); },
-            a, b, d);
+            [&](const auto &...plain) ZELM_INLINE_LAMBDA { return crossByLines(plain..., count); }, a, b, d);
 }
 
 } // namespace zelm::vector

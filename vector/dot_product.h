@@ -16,7 +16,7 @@ ZELM_INLINE auto dotOf(const A &a, const B &b) {
     if constexpr (A::isDense && B::isDense && kSumsByPairs<order, T, N>)
         return sumByPairs<order, N>(Products<T>{a.start, b.start});
     T products[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j)
         products[j] = a.get(j) * b.get(j);
     return sumOf<order>(products);
@@ -46,12 +46,12 @@ ZELM_INLINE V productsAt(const Address *a, const Address *b, Address offset) {
 
 template <unsigned N, typename V>
 ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N]) {
-    const auto blocks = [&](unsigned object, Address offset) __attribute__((always_inline)) {
+    const auto blocks = [&](unsigned object, Address offset) ZELM_INLINE_LAMBDA {
         return loadBlocks<V>(a + object, offset) * loadBlocks<V>(b + object, offset);
     };
     constexpr unsigned lanes = kLanes<ElementOf<V>>;
     if constexpr (lanes == 4) {
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned object = 0; object < 4; ++object)
             out[object] = blocks(object, 0);
         transposeFour(out[0], out[1], out[2], out[3]);
@@ -62,7 +62,7 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
             out[5] = shuffle<1, 3, 1, 3>(upper, lower);
         }
     } else {
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned j = 0; j + 1 < N; j += 2) {
             const V first = blocks(0, j * sizeof(double)), second = blocks(1, j * sizeof(double));
             out[j] = interleaveLow(first, second);
@@ -82,7 +82,7 @@ ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b,
                                  V (&products)[N]) {
     if constexpr (kLanesOf < V >> 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
         LaneAddresses<V> first, second;
-#pragma GCC unroll 16
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane) {
             first[lane] = a.operand.object(k + lane).start;
             second[lane] = b.operand.object(k + lane).start;
@@ -92,7 +92,7 @@ ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b,
         V firsts[N], seconds[N];
         a.load(k, firsts);
         b.load(k, seconds);
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             products[j] = firsts[j] * seconds[j];
     }
@@ -104,15 +104,14 @@ ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b,
 template <typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotByTables(const A &a, const B &b, T *dst, Shape shape) {
     T sum = 0;
-    const bool complete = whileTrue(
-        shape, [&](std::uint32_t, std::uint32_t j) __attribute__((always_inline)) {
-            if (a.elementIsNull(j) || b.elementIsNull(j))
-                return false;
-            const T product = a.get(j) * b.get(j);
-            // Sums of a fixed size begin with the first product.
-            sum = Shape::isFixed && j == 0 ? product : sum + product;
-            return true;
-        });
+    const bool complete = whileTrue(shape, [&](std::uint32_t, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        if (a.elementIsNull(j) || b.elementIsNull(j))
+            return false;
+        const T product = a.get(j) * b.get(j);
+        // Sums of a fixed size begin with the first product.
+        sum = Shape::isFixed && j == 0 ? product : sum + product;
+        return true;
+    });
     if (!complete)
         return ZELM_ERR_NULL_PTR;
     *dst = sum;
@@ -138,9 +137,9 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 
 // One instance serves the layouts that come to the same operands and the same order.
 template <Sum order, typename A, typename B, typename T, typename Shape>
-__attribute__((noinline)) ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         if constexpr (Shape::isFixed)
             results.object(k).set(0, dotOf<order, Shape::columns()>(a.object(k), b.object(k)));
         else
@@ -155,7 +154,7 @@ __attribute__((noinline)) ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, s
         constexpr unsigned N = Shape::columns();
         const Vectors<N, A> firsts(a);
         const Vectors<N, B> seconds(b);
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             typename decltype(pack)::Pack products[N];
             productsOfGroup<N>(firsts, seconds, k, products);
             storePack(results.object(k).start, sumOf<order>(products));
@@ -170,7 +169,7 @@ template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
     return withPlainest(
         [&](const auto &first, const auto &second)
-            __attribute__((always_inline)) { return dotInOrder<order>(first, second, dst, shape, count); },
+            ZELM_INLINE_LAMBDA { return dotInOrder<order>(first, second, dst, shape, count); },
         a, b);
 }
 

@@ -14,11 +14,10 @@ namespace zelm::vector {
 template <typename S, typename Shape>
 ZELM_INLINE auto squaresByRows(const S &s, Shape shape) {
     typename S::Element sum = 0;
-    whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            sum = sum + s.get(i, j, shape.columns()) * s.get(i, j, shape.columns());
-            return true;
-        });
+    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        sum = sum + s.get(i, j, shape.columns()) * s.get(i, j, shape.columns());
+        return true;
+    });
     return sum;
 }
 
@@ -69,7 +68,7 @@ ZELM_INLINE V columnSum(const V (&s)[N]) {
 template <unsigned N, typename T>
 ZELM_INLINE Pack<T> columnSumsFrom(const Dense<const T> &s, unsigned j) {
     Pack<T> squares[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         squares[i] = squaresAt(s, i, j);
     return columnSum(squares);
@@ -78,7 +77,7 @@ ZELM_INLINE Pack<T> columnSumsFrom(const Dense<const T> &s, unsigned j) {
 template <unsigned N, typename T>
 ZELM_INLINE T columnSumAt(const Dense<const T> &s, unsigned j) {
     T squares[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         squares[i] = squareAt(s, i, j);
     return columnSum(squares);
@@ -92,7 +91,7 @@ ZELM_INLINE float evenThenOdd(Floats4 four) {
 
 ZELM_INLINE float treeOf(const Dense<const float> &s, FixedShape<3, 3>) {
     Floats4 squares[3];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i)
         squares[i] = twoSquaresAt(s, i, 0);
     const Floats4 two = columnSum(squares);
@@ -132,7 +131,7 @@ ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<3, 3>) {
 
 ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<4, 4>) {
     Doubles2 rows[4];
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 0; i < 4; ++i)
         rows[i] = squaresAt(s, i, 0) + squaresAt(s, i, 2);
     const Doubles2 lanes = columnSum(rows);
@@ -146,9 +145,7 @@ ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<5, 5>) {
 
 // Order 6 in 64-bit float: the squares in row-major order are dealt to two lanes.
 ZELM_INLINE double treeOf(const Dense<const double> &s, FixedShape<6, 6>) {
-    const auto t = [&](unsigned m) __attribute__((always_inline)) {
-        return squaresAt(s, m / 3, m % 3 * 2);
-    };
+    const auto t = [&](unsigned m) ZELM_INLINE_LAMBDA { return squaresAt(s, m / 3, m % 3 * 2); };
     const Doubles2 lanes =
         ((((t(0) + t(1)) + (t(2) + t(3))) + (t(16) + t(17))) + ((t(4) + t(5)) + (t(6) + t(7)))) +
         (((t(8) + t(9)) + (t(10) + t(11))) + ((t(12) + t(13)) + (t(14) + t(15))));
@@ -165,7 +162,7 @@ ZELM_INLINE V treeOfFour(const V (&s)[3][3]) {
 
 ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<3, 3>) {
     float squares[3][3];
-#pragma GCC unroll 9
+    ZELM_UNROLL
     for (unsigned e = 0; e < 9; ++e)
         squares[e / 3][e % 3] = squareAt(s, e / 3, e % 3);
     return treeOfFour(squares);
@@ -179,10 +176,10 @@ ZELM_INLINE float treeOfFour(const Dense<const float> &s, FixedShape<4, 4>) {
 template <typename V, typename S>
 ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<3, 3>) {
     V squares[3][3];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned i = 0; i < 3; ++i) {
         loadRow<3>(s, k, i, squares[i]);
-#pragma GCC unroll 3
+        ZELM_UNROLL
         for (unsigned j = 0; j < 3; ++j)
             squares[i][j] = squares[i][j] * squares[i][j];
     }
@@ -191,9 +188,9 @@ ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<3, 3>) {
 
 template <typename V, typename S>
 ZELM_INLINE V treesOfFour(const S &s, std::uint32_t k, FixedShape<4, 4>) {
-    return fromBlocks<V>([&](unsigned b) __attribute__((always_inline)) {
+    return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA {
         Floats4 sums[4];
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned object = 0; object < 4; ++object)
             sums[object] = columnSumsFrom<4>(s.object(k + 4 * b + object), 0);
         return _mm_hadd_ps(_mm_hadd_ps(sums[0], sums[1]), _mm_hadd_ps(sums[2], sums[3]));
@@ -228,21 +225,20 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
 template <typename S, unsigned N>
 ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &results, FixedShape<N, N> shape,
                                         std::uint32_t count) {
-    const auto store = [&](std::uint32_t k, float sum) __attribute__((always_inline)) {
+    const auto store = [&](std::uint32_t k, float sum) ZELM_INLINE_LAMBDA {
         results.object(k).set(0, rootByRefinedReciprocal(sum));
         return ZELM_OK;
     };
     if constexpr (N > 4) {
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
-            return store(k, treeOf(s.object(k), shape));
-        };
+        const auto one = [&](std::uint32_t k)
+                             ZELM_INLINE_LAMBDA { return store(k, treeOf(s.object(k), shape)); };
         return forEachObject(count, one, s);
     } else {
         const std::uint32_t fours = count / 4 * 4;
-        const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             return store(k, k < fours ? treeOfFour(s.object(k), shape) : treeOf(s.object(k), shape));
         };
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
             storePack(results.object(k).start, rootByRefinedReciprocal(treesOfFour<V>(s, k, shape)));
             return true;
@@ -256,28 +252,27 @@ ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &res
 template <unsigned N, typename V, typename S>
 ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
     V elements[N][N], sum = {};
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         loadRow<N>(s, k, i, elements[i]);
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j)
-#pragma GCC unroll 6
-        for (unsigned i = 0; i < N; ++i)
-            sum = sum + elements[i][j] * elements[i][j];
+        ZELM_UNROLL
+    for (unsigned i = 0; i < N; ++i)
+        sum = sum + elements[i][j] * elements[i][j];
     return sum;
 }
 
 // All other arrays.
 template <typename S, typename T, typename Shape>
-__attribute__((noinline)) ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape shape,
-                                                        std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape shape, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
         return ZELM_OK;
     };
     if constexpr (Shape::isFixed && kGainsByGroups<S>) {
         constexpr unsigned N = Shape::columns();
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
             storePack(results.object(k).start, squareRoot(squaresOfGroup<N, V>(s, k)));
             return true;
@@ -301,7 +296,7 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
     else
         return withPlainest(
             [&](const auto &plain)
-                __attribute__((always_inline)) { return frobeniusByColumns(plain, results, shape, count); },
+                ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, results, shape, count); },
             s);
 }
 

@@ -35,7 +35,7 @@ ZELM_INLINE auto fixedLength(const S &s) {
     if constexpr (S::isDense && kSumsByPairs<order, T, N>)
         return squareRoot(sumByPairs<order, N>(Squares<T>{s.start}));
     T squares[N];
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j)
         squares[j] = s.get(j) * s.get(j);
     return lengthOf<isDense>(sumOf<order>(squares));
@@ -69,9 +69,9 @@ ZELM_INLINE ZelmStatus l2NormSingle(const S &s, T *dst, Shape shape) {
 
 // isDense: whether the called form is one of the standard and L layouts, which have a root of their own.
 template <bool isDense, typename S, typename T, typename Shape>
-__attribute__((noinline)) ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         if constexpr (Shape::isFixed)
             results.object(k).set(0, fixedLength<isDense, true, Shape::columns()>(s.object(k)));
         else
@@ -83,11 +83,11 @@ __attribute__((noinline)) ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::ui
     } else {
         constexpr unsigned N = Shape::columns();
         const Vectors<N, S> vectors(s);
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
             V elements[N], squares[N];
             vectors.load(k, elements);
-#pragma GCC unroll 6
+            ZELM_UNROLL
             for (unsigned j = 0; j < N; ++j)
                 squares[j] = elements[j] * elements[j];
             const V sum = sumOf<kSquaresOrder<T, isDense, true, N>>(squares);
@@ -106,10 +106,9 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
         status != kProceed)
         return status;
     constexpr bool isDense = decltype(s.object(0))::isDense;
-    return withPlainest(
-        [&](const auto &plain)
-            __attribute__((always_inline)) { return lengthsOf<isDense>(plain, dst, shape, count); },
-        s);
+    return withPlainest([&](const auto &plain)
+                            ZELM_INLINE_LAMBDA { return lengthsOf<isDense>(plain, dst, shape, count); },
+                        s);
 }
 
 } // namespace zelm::vector

@@ -53,7 +53,7 @@ ZELM_INLINE T chainedSum(const Terms &terms, T sum, std::uint32_t t, std::uint32
     constexpr unsigned lanes = kLanes<T>;
     for (; length - t >= lanes; t += lanes) {
         const Pack<T> several = terms.terms(t);
-#pragma GCC unroll 4
+        ZELM_UNROLL
         for (unsigned lane = 0; lane < lanes; ++lane)
             sum = sum + several[lane];
     }
@@ -76,7 +76,7 @@ ZELM_INLINE T longSum(const Terms &terms, Address aligned, std::uint32_t length)
             sum = sum + terms.term(t);
         Pack<T> low = inFirstLane(sum), high = {};
         for (; length - t >= round; t += round) {
-#pragma GCC unroll 2
+            ZELM_UNROLL
             for (unsigned term = 0; term < round; term += 2 * lanes) {
                 low = low + terms.terms(t + term);
                 high = high + terms.terms(t + term + lanes);

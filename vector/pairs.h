@@ -14,7 +14,7 @@ constexpr bool kSumsByPairs = sizeof(T) == 8 &&
 template <Sum order, unsigned N, typename Terms>
 ZELM_INLINE double sumByPairs(const Terms &terms) {
     Doubles2 pairs[N / 2];
-#pragma GCC unroll 3
+    ZELM_UNROLL
     for (unsigned p = 0; p < N / 2; ++p)
         pairs[p] = terms.terms(2 * p);
     Doubles2 lanes = pairs[0];

@@ -34,13 +34,13 @@ template <unsigned N, typename S>
 requires(!kIsArray<S>) struct Vectors<N, S> {
     typename S::Element element[N];
     ZELM_INLINE explicit Vectors(const S &s) {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             element[j] = s.get(j);
     }
     template <typename V>
     ZELM_INLINE void load(std::uint32_t, V (&out)[N]) const {
-#pragma GCC unroll 6
+        ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             out[j] = spread<V>(element[j]);
     }

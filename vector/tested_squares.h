@@ -11,14 +11,13 @@ using namespace zelm::frame;
 // at a null entry; each is tested when it is reached.
 template <typename S, typename Shape>
 ZELM_INLINE bool sumSquaresTested(const S &s, Shape shape, typename S::Element &sum) {
-    return whileTrue(
-        shape, [&](std::uint32_t i, std::uint32_t j) __attribute__((always_inline)) {
-            if (s.elementIsNull(entryNumber(s, i, j, shape)))
-                return false;
-            const auto element = s.get(i, j, shape.columns());
-            sum = sum + element * element;
-            return true;
-        });
+    return whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
+        if (s.elementIsNull(entryNumber(s, i, j, shape)))
+            return false;
+        const auto element = s.get(i, j, shape.columns());
+        sum = sum + element * element;
+        return true;
+    });
 }
 
 } // namespace zelm::vector

@@ -23,7 +23,7 @@ ZELM_INLINE bool traceThroughResult(const S &s, const Result &result, Size size,
 template <unsigned N, typename T>
 ZELM_INLINE T traceOf(const Dense<const T> &s) {
     T sum = s.get(0, 0, N) + s.get(1, 1, N);
-#pragma GCC unroll 4
+    ZELM_UNROLL
     for (unsigned i = 2; i < N; ++i)
         sum = sum + s.get(i, i, N);
     return sum;
@@ -46,15 +46,15 @@ ZELM_INLINE ZelmStatus traceSingle(const S &s, T *dst, Size size) {
 template <unsigned N, typename V, typename S>
 ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
     V sum = {};
-#pragma GCC unroll 6
+    ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         sum = sum + loadAs<V>(s.object(k).address(i, i, N));
     return sum;
 }
 
 template <typename S, typename T, typename Size>
-__attribute__((noinline)) ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) __attribute__((always_inline)) {
+ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::uint32_t count) {
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
             results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
         else
@@ -63,7 +63,7 @@ __attribute__((noinline)) ZelmStatus tracesOf(S s, DenseArray<T> results, Size s
     };
     if constexpr (!decltype(s.object(0))::isDense && kGainsByGroups<S> && Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
-        const auto group = [&](auto pack, std::uint32_t k) __attribute__((always_inline)) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
             storePack(results.object(k).start, tracesOfGroup<N, V>(s, k));
             return true;
@@ -86,9 +86,7 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
     // Only planes gain by it: the dense forms begin their sums in another way.
     if constexpr (S::isTable)
         return withPlainest(
-            [&](const auto &plain)
-                __attribute__((always_inline)) { return tracesOf(plain, results, size, count); },
-            s);
+            [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, results, size, count); }, s);
     else
         return tracesOf(s, results, size, count);
 }
