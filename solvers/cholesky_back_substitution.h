@@ -88,13 +88,17 @@ struct CholeskySystems {
 
     template <typename B, typename V>
     ZELM_INLINE void loadRight(const B &b, std::uint32_t k, V (&x)[N]) const {
-        loadRow<N>(b, k, 0, x);
+        readRow<N>(b, k, 0, x);
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], NothingLeft &) const {
         choleskySolve(factors.a, x);
     }
+
+    template <typename>
+    using Left = NothingLeft;
+    ZELM_INLINE void leave(NothingLeft) const {}
 };
 
 // The systems of an array. An object at null is passed over.

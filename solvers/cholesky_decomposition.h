@@ -96,15 +96,17 @@ ZELM_INLINE ZelmStatus choleskyObject(const S &s, const D &d, Size size) {
     }
 }
 
-// As many matrices as V has lanes. False, with nothing written, where one of them is not positive definite.
+// Groups of matrices from k on, up to one where a matrix is not positive definite.
 template <typename V, unsigned N, typename S, typename D>
-ZELM_NOINLINE bool choleskyGroup(const S &s, const D &d, std::uint32_t k) {
-    V a[N][N];
-    loadLower(s, k, a);
-    if (!choleskyFactor<kCholeskyRoot<D>>(a))
-        return false;
-    storeLower(d, k, a);
-    return true;
+ZELM_NOINLINE std::uint32_t choleskyGroups(const S &s, const D &d, std::uint32_t k, std::uint32_t end) {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N];
+        loadLower(s, group, a);
+        if (!choleskyFactor<kCholeskyRoot<D>>(a))
+            return false;
+        storeLower(d, group, a);
+        return true;
+    });
 }
 
 // Object k of an array; one at null ends the call.
@@ -122,12 +124,12 @@ template <unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus choleskyObjects(const S &s, const D &d, std::uint32_t count) {
     const auto one = [&](std::uint32_t k)
                          ZELM_INLINE_LAMBDA { return choleskyObjectAt(s, d, FixedSize<N>(), k); };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return choleskyGroup<typename decltype(pack)::Pack, N>(s, d, k);
+    const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+        return choleskyGroups<typename decltype(pack)::Pack, N>(s, d, k, end);
     };
     if (hasNoNullObject(s, N, N, count) && hasNoNullObject(d, N, N, count))
-        return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(d, N, N),
-                                             reads(s, N, N, InPlace::Yes));
+        return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S, D>(count, group), one,
+                                             writes(d, N, N), reads(s, N, N, InPlace::Yes));
     return forEachObject(count, one);
 }
 

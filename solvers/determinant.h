@@ -76,11 +76,18 @@ ZELM_INLINE void determinantInElementType(const S &s, const Dense<T> &result) {
 }
 
 template <typename V, unsigned N, typename S>
-ZELM_NOINLINE void determinantsOfGroup(const S &s, Address results, std::uint32_t k) {
-    V a[N][N], determinants;
-    loadMatrix(s, k, a);
-    determinantOf(a, determinants);
-    storePack(results + k * sizeof(ElementOf<V>), determinants);
+ZELM_NOINLINE std::uint32_t determinantsOfGroups(const S &s, Address results, std::uint32_t k,
+                                                 std::uint32_t end) {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N], determinants;
+        loadMatrix(s, group, a);
+        if constexpr (N == 3)
+            determinants = determinantOfOrder3(a);
+        else
+            determinantOf(a, determinants);
+        storePack(results + group * sizeof(ElementOf<V>), determinants);
+        return true;
+    });
 }
 
 template <unsigned N, typename S, typename T>
@@ -90,12 +97,11 @@ ZELM_NOINLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint
         determinantInElementType<N>(s.object(k), results.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        determinantsOfGroup<typename decltype(pack)::Pack, N>(s, results.start, k);
-        return true;
+    const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+        return determinantsOfGroups<typename decltype(pack)::Pack, N>(s, results.start, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                         reads(s, N, N));
+    return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S>(count, group), one,
+                                         writes(results, 1, 1), reads(s, N, N));
 }
 
 // ---- the exported rows

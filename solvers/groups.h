@@ -56,11 +56,125 @@ ZELM_INLINE auto untested(const Operand &operand) {
         return operand;
 }
 
-// ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
-// long code.
-
 template <typename Array>
 constexpr bool kRowsAreAdjacent = decltype(std::declval<const Array &>().object(0))::isDense;
+
+// ---- rows of groups whose objects follow each other at a stride, elements apart: one step of the stride
+// from lane to lane
+
+template <typename Array>
+constexpr bool kIsSpacedArray = requires(const Array &array) {
+    array.objStride;
+}
+&&!kRowsAreAdjacent<Array> && !Array::isSideBySide;
+
+template <typename V>
+ZELM_INLINE V gatherSpaced(Address first, Address stride) {
+    using T = ElementOf<V>;
+    return fromBlocks<V>([=](unsigned b) ZELM_INLINE_LAMBDA {
+        const Address at = first + b * kLanes<T> * stride;
+        const Address lanes[] = {at, at + stride, at + 2 * stride, at + 3 * stride};
+        return gatherBlock(lanes, T{});
+    });
+}
+
+template <typename V>
+ZELM_INLINE void scatterSpaced(Address first, Address stride, V value) {
+    toBlocks(value, [=](unsigned b, auto block) ZELM_INLINE_LAMBDA {
+        const Address at = first + b * kLanes<ElementOf<V>> * stride;
+        const Address lanes[] = {at, at + stride, at + 2 * stride, at + 3 * stride};
+        scatterBlock(lanes, block);
+    });
+}
+
+// The same where every second element is taken: the packs that hold them, up to the last one's end, shuffled.
+template <typename V, unsigned... lane>
+ZELM_INLINE V everySecond(Address first, std::integer_sequence<unsigned, lane...>) {
+    constexpr unsigned lanes = kLanesOf<V>;
+    const V low = loadAs<V>(first), high = loadAs<V>(first + (lanes - 1) * sizeof(ElementOf<V>));
+    return __builtin_shufflevector(low, high, (lane < lanes / 2 ? 2 * lane : 2 * lane + 1)...);
+}
+template <typename V>
+ZELM_INLINE V everySecond(Address first) {
+    return everySecond<V>(first, std::make_integer_sequence<unsigned, kLanesOf<V>>());
+}
+
+// The first N elements of row i, which has `columns` of them.
+template <unsigned N, unsigned columns = N, typename V, typename Array>
+ZELM_INLINE void readRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
+    if constexpr (kIsSpacedArray<Array>) {
+        if constexpr (Array::isTable && kLanesOf<V> >= 4) {
+            if (array.objStride == 2 * sizeof(ElementOf<V>)) {
+                ZELM_UNROLL
+                for (unsigned j = 0; j < N; ++j)
+                    out[j] = everySecond<V>(array.object(k).address(i, j, columns));
+                return;
+            }
+        }
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            out[j] = gatherSpaced<V>(array.object(k).address(i, j, columns), array.objStride);
+    } else {
+        loadRow<N, columns>(array, k, i, out);
+    }
+}
+
+template <unsigned N, unsigned columns = N, typename V, typename Array>
+ZELM_INLINE void writeRow(const Array &array, std::uint32_t k, unsigned i, const V *in) {
+    if constexpr (kIsSpacedArray<Array>) {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            scatterSpaced(array.object(k).address(i, j, columns), array.objStride, in[j]);
+    } else {
+        storeRow<N, columns>(array, k, i, in);
+    }
+}
+
+// ---- groups by the run
+
+// The step that takes groups for the frame, one for each call. Where the frame decides for all objects at
+// once, which it does not for lists, the first call goes on to the end, and the next ones find their groups
+// done. group(pack, k, end) computes the groups from k on as far as they go and returns the first object
+// left.
+template <bool ahead, typename Group>
+struct Runs {
+    Group group;
+    std::uint32_t count, done;
+
+    template <typename Named>
+    ZELM_INLINE bool operator()(Named pack, std::uint32_t k) {
+        if constexpr (ahead) {
+            if (k >= done)
+                done = group(pack, k, count);
+            return k < done;
+        } else {
+            return group(pack, k, k + kLanesOf<typename Named::Pack>) != k;
+        }
+    }
+};
+
+template <typename... Operands, typename Group>
+ZELM_INLINE auto inRuns(std::uint32_t count, Group group) {
+    return Runs<!(Operands::isList || ...), Group>{group, count, 0};
+}
+
+// The groups from k on up to the first where group(k) says no.
+template <typename V, typename Group>
+ZELM_INLINE std::uint32_t groupsFrom(std::uint32_t k, std::uint32_t end, Group group) {
+    while (end - k >= kLanesOf<V> && group(k))
+        k += kLanesOf<V>;
+    return k;
+}
+
+// What every group of a run overwrites is written in every round. Put off until after the loop, it takes the
+// addresses and values of all other stores of the last round along.
+template <typename T>
+ZELM_INLINE void overwriteNow(T &value) {
+    asm volatile("" : "+m"(value));
+}
+
+// ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
+// long code.
 
 template <typename V, typename Array>
 constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || kLanesOf<V> == 2;
@@ -70,11 +184,11 @@ ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N])
     if constexpr (kUnrollsRows<V, Array>) {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
-            loadRow<N>(array, k, i, out[i]);
+            readRow<N>(array, k, i, out[i]);
     } else {
 #pragma GCC unroll 1
         for (unsigned i = 0; i < N; ++i)
-            loadRow<N>(array, k, i, out[i]);
+            readRow<N>(array, k, i, out[i]);
     }
 }
 
@@ -83,11 +197,11 @@ ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[
     if constexpr (kUnrollsRows<V, Array>) {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
-            storeRow<N>(array, k, i, in[i]);
+            writeRow<N>(array, k, i, in[i]);
     } else {
 #pragma GCC unroll 1
         for (unsigned i = 0; i < N; ++i)
-            storeRow<N>(array, k, i, in[i]);
+            writeRow<N>(array, k, i, in[i]);
     }
 }
 
@@ -95,14 +209,14 @@ ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[
 
 template <unsigned N, unsigned I = 0, typename V, typename Array>
 ZELM_INLINE void loadLower(const Array &array, std::uint32_t k, V (&out)[N][N]) {
-    loadRow<I + 1, N>(array, k, I, out[I]);
+    readRow<I + 1, N>(array, k, I, out[I]);
     if constexpr (I + 1 < N)
         loadLower<N, I + 1>(array, k, out);
 }
 
 template <unsigned N, unsigned I = 0, typename V, typename Array>
 ZELM_INLINE void storeLower(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
-    storeRow<I + 1, N>(array, k, I, in[I]);
+    writeRow<I + 1, N>(array, k, I, in[I]);
     if constexpr (I + 1 < N)
         storeLower<N, I + 1>(array, k, in);
 }

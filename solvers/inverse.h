@@ -155,14 +155,24 @@ ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
     }
 }
 
+// Groups of matrices from k on, up to one where a matrix must be inverted alone. Closed inverses are short
+// enough to stand where they are called, and to need less memory so.
 template <typename V, bool dense, unsigned N, typename S, typename D>
-ZELM_NOINLINE bool invertGroupOf(const S &s, const D &d, std::uint32_t k) {
-    V a[N][N];
-    loadMatrix(s, k, a);
-    if (!invertGroup<dense>(a))
-        return false;
-    storeMatrix(d, k, a);
-    return true;
+ZELM_NOINLINE std::uint32_t invertGroups(const S &s, const D &d, std::uint32_t k, std::uint32_t end) {
+    constexpr InverseRule rule = inverseRule(dense, kIs32<V>, N);
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N];
+        loadMatrix(s, group, a);
+        if constexpr (rule.way == Way::Closed) {
+            if (anyLane(invertClosed<dense, rule.singular>(a, a)))
+                return false;
+        } else {
+            if (!invertGroup<dense>(a))
+                return false;
+        }
+        storeMatrix(d, group, a);
+        return true;
+    });
 }
 
 // The matrices of an array.
@@ -170,10 +180,11 @@ template <bool dense, unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
     const auto one = [&](std::uint32_t k)
                          ZELM_INLINE_LAMBDA { return invertObject<dense, N>(s.object(k), d.object(k)); };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return invertGroupOf<typename decltype(pack)::Pack, dense, N>(s, d, k);
+    const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+        return invertGroups<typename decltype(pack)::Pack, dense, N>(s, d, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, NoBuffer(), group, one, writes(d, N, N), reads(s, N, N));
+    return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S, D>(count, group), one, writes(d, N, N),
+                                         reads(s, N, N));
 }
 
 // ---- the exported rows

@@ -130,16 +130,20 @@ struct LuSystems {
     template <typename B, typename V>
     ZELM_INLINE void loadRight(const B &b, std::uint32_t k, V (&x)[N]) const {
         V right[N];
-        loadRow<N>(b, k, 0, right);
+        readRow<N>(b, k, 0, right);
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             x[i] = right[row(i)];
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], NothingLeft &) const {
         luSolve(factors.a, x);
     }
+
+    template <typename>
+    using Left = NothingLeft;
+    ZELM_INLINE void leave(NothingLeft) const {}
 };
 
 // How systems with a matrix each are taken in groups, and from which order on that is faster than one after

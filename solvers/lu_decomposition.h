@@ -180,32 +180,50 @@ ZELM_NOINLINE ZelmStatus luFactorRows(LuRows<T, N> &rows) {
     return magnitude(rows.element[rows.order[N - 1]][N - 1]) >= threshold ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
-// One row of N elements to or from a local row of whole packs.
+// The first N elements in the lanes of a pack, the others zero.
 template <typename T, unsigned N>
-ZELM_INLINE void copyRow(Address to, Address from) {
+ZELM_INLINE Pack<T> loadFirst(Address from) {
+    constexpr Address third = 2 * sizeof(T);
+    if constexpr (N == 1)
+        return inFirstLane(load<T>(from));
+    else if constexpr (N == 2)
+        return loadTwo(from);
+    else
+        return _mm_movelh_ps(loadTwo(from), inFirstLane(load<T>(from + third)));
+}
+
+// One row of N elements to a local row of whole packs, and back.
+template <typename T, unsigned N>
+ZELM_INLINE void loadLocalRow(Address local, Address from) {
     constexpr unsigned whole = N / kLanes<T>;
     ZELM_UNROLL
     for (unsigned p = 0; p < whole; ++p)
-        storePack(to + p * kBlockBytes, loadPack<T>(from + p * kBlockBytes));
+        storePack(local + p * kBlockBytes, loadPack<T>(from + p * kBlockBytes));
+    if constexpr (N % kLanes<T> != 0)
+        storePack(local + whole * kBlockBytes, loadFirst<T, N % kLanes<T>>(from + whole * kBlockBytes));
+}
+
+template <typename T, unsigned N>
+ZELM_INLINE void storeLocalRow(Address to, Address local) {
+    constexpr unsigned whole = N / kLanes<T>;
+    ZELM_UNROLL
+    for (unsigned p = 0; p < whole; ++p)
+        storePack(to + p * kBlockBytes, loadPack<T>(local + p * kBlockBytes));
     ZELM_UNROLL
     for (unsigned j = whole * kLanes<T>; j < N; ++j)
-        copyElement<T>(to + j * sizeof(T), from + j * sizeof(T));
+        copyElement<T>(to + j * sizeof(T), local + j * sizeof(T));
 }
 
 template <typename T, unsigned N>
 ZELM_INLINE ZelmStatus luDecompDense(const Dense<const T> &s, Address pivots, const Dense<T> &d) {
     LuRows<T, N> rows;
     ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i) {
-        copyRow<T, N>(addressOf(rows.element[i]), s.rowStart(i));
-        ZELM_UNROLL
-        for (unsigned j = N; j < rows.width; ++j)
-            rows.element[i][j] = 0;
-    }
+    for (unsigned i = 0; i < N; ++i)
+        loadLocalRow<T, N>(addressOf(rows.element[i]), s.rowStart(i));
     const ZelmStatus status = luFactorRows(rows);
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-        copyRow<T, N>(d.rowStart(i), addressOf(rows.element[i]));
+        storeLocalRow<T, N>(d.rowStart(i), addressOf(rows.element[i]));
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         store(pivots + i * 4, rows.order[i]);
@@ -251,15 +269,8 @@ ZELM_INLINE void storeOrder(const V (&order)[N], Address pivots) {
     }
 }
 
-// As many matrices as V has lanes. False, with nothing written, where one of them needs luDecompObject.
-template <typename V, unsigned N, typename S, typename D>
-ZELM_NOINLINE bool luDecompGroup(const S &s, const std::uint32_t *pivotIndex, const D &d, std::uint32_t k) {
-    V a[N][N], order[N];
-    loadMatrix(s, k, a);
-    if (!luFactor(a, order))
-        return false;
-    const Address pivots = pivotAddress(pivotIndex, Address{k} * N);
-    storeOrder(order, pivots);
+template <unsigned N, typename D, typename V>
+ZELM_INLINE void storeRowsAtPivots(const D &d, std::uint32_t k, Address pivots, const V (&a)[N][N]) {
     const auto storeRowAt = [&](unsigned i) ZELM_INLINE_LAMBDA {
         storeRowOfEach<N>(
             d, k, [&](unsigned lane) { return load<std::uint32_t>(pivots + (lane * N + i) * 4); }, a[i]);
@@ -273,7 +284,22 @@ ZELM_NOINLINE bool luDecompGroup(const S &s, const std::uint32_t *pivotIndex, co
         for (unsigned i = 0; i < N; ++i)
             storeRowAt(i);
     }
-    return true;
+}
+
+// Groups of matrices from k on, up to one where a matrix needs luDecompObject.
+template <typename V, unsigned N, typename S, typename D>
+ZELM_NOINLINE std::uint32_t luDecompGroups(const S &s, const std::uint32_t *pivotIndex, const D &d,
+                                           std::uint32_t k, std::uint32_t end) {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N], order[N];
+        loadMatrix(s, group, a);
+        if (!luFactor(a, order))
+            return false;
+        const Address pivots = pivotAddress(pivotIndex, Address{group} * N);
+        storeOrder(order, pivots);
+        storeRowsAtPivots(d, group, pivots, a);
+        return true;
+    });
 }
 
 // The matrices of an array, of a fixed size.
@@ -284,11 +310,12 @@ ZELM_NOINLINE ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, 
         return luDecompObject(s.object(k), pivotAddress(pivotIndex, Address{k} * N), d.object(k),
                               FixedSize<N>());
     };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return luDecompGroup<typename decltype(pack)::Pack, N>(s, pivotIndex, d, k);
+    const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+        return luDecompGroups<typename decltype(pack)::Pack, N>(s, pivotIndex, d, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, writesPerObject(pivotIndex, N * 4), group, one,
-                                         writes(d, N, N), reads(s, N, N, InPlace::Yes));
+    return forEachInGroups<kLongKernels>(count, writesPerObject(pivotIndex, N * 4),
+                                         inRuns<S, D>(count, group), one, writes(d, N, N),
+                                         reads(s, N, N, InPlace::Yes));
 }
 
 // ---- the exported rows

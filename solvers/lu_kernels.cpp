@@ -71,34 +71,7 @@ bool luFactor(V (&a)[N][N], V (&order)[N]) {
     return !anyLane(fails | notGreaterEqual(magnitude(a[N - 1][N - 1]), threshold));
 }
 
-template <typename V, typename F, unsigned N>
-void luSolve(const F (&a)[N][N], V (&x)[N]) {
-    ZELM_UNROLL
-    for (unsigned i = 1; i < N; ++i) {
-        V sum = {};
-        ZELM_UNROLL
-        for (unsigned j = 0; j < i; ++j)
-            sum = sum + inLanes<V>(a[i][j]) * x[j];
-        x[i] = x[i] - sum;
-    }
-    x[N - 1] = x[N - 1] / inLanes<V>(a[N - 1][N - 1]);
-    ZELM_UNROLL
-    for (unsigned m = 0; m < N - 1; ++m) {
-        const unsigned i = N - 2 - m;
-        V sum = {};
-        ZELM_UNROLL
-        for (unsigned j = i + 1; j < N; ++j)
-            sum = sum + inLanes<V>(a[i][j]) * x[j];
-        x[i] = (x[i] - sum) / inLanes<V>(a[i][i]);
-    }
-}
-
-#define ZELM_INSTANTIATE(V, N)                                                                               \
-    template bool luFactor<V, N>(V(&)[N][N], V(&)[N]);                                                       \
-    template void luSolve<V, V, N>(const V(&)[N][N], V(&)[N]);
-#define ZELM_INSTANTIATE_SHARED(V, N)                                                                        \
-    template void luSolve<V, Pack<ElementOf<V>>, N>(const Pack<ElementOf<V>>(&)[N][N], V(&)[N]);
+#define ZELM_INSTANTIATE(V, N) template bool luFactor<V, N>(V(&)[N][N], V(&)[N]);
 ZELM_PACKS(ZELM_INSTANTIATE)
-ZELM_WIDE_PACKS(ZELM_INSTANTIATE_SHARED)
 
 } // namespace zelm::solvers

@@ -20,6 +20,25 @@ bool luFactor(V (&a)[N][N], V (&order)[N]);
 // Solves with the factors a, rows in pivot order; x comes as b in pivot order and goes as the solution. F is
 // V, or a block whose lanes are all alike where one matrix serves all lanes.
 template <typename V, typename F, unsigned N>
-void luSolve(const F (&a)[N][N], V (&x)[N]);
+ZELM_INLINE void luSolve(const F (&a)[N][N], V (&x)[N]) {
+    ZELM_UNROLL
+    for (unsigned i = 1; i < N; ++i) {
+        V sum = {};
+        ZELM_UNROLL
+        for (unsigned j = 0; j < i; ++j)
+            sum = sum + inLanes<V>(a[i][j]) * x[j];
+        x[i] = x[i] - sum;
+    }
+    x[N - 1] = x[N - 1] / inLanes<V>(a[N - 1][N - 1]);
+    ZELM_UNROLL
+    for (unsigned m = 0; m < N - 1; ++m) {
+        const unsigned i = N - 2 - m;
+        V sum = {};
+        ZELM_UNROLL
+        for (unsigned j = i + 1; j < N; ++j)
+            sum = sum + inLanes<V>(a[i][j]) * x[j];
+        x[i] = (x[i] - sum) / inLanes<V>(a[i][i]);
+    }
+}
 
 } // namespace zelm::solvers

@@ -81,7 +81,7 @@ struct QrSystems {
     }
 
     template <typename A, typename F>
-    ZELM_INLINE bool hold(const A &a, Factors<F> &factors) const {
+    ZELM_NOINLINE bool hold(const A &a, Factors<F> &factors) const {
         for (unsigned i = 0; i < N; ++i)
             for (unsigned j = 0; j < N; ++j)
                 factors.a[i][j] = spread<F>(a.get(i, j, N));
@@ -91,17 +91,27 @@ struct QrSystems {
 
     template <typename B, typename V>
     ZELM_INLINE void loadRight(const B &b, std::uint32_t k, V (&x)[N]) const {
-        loadRow<N>(b, k, 0, x);
+        readRow<N>(b, k, 0, x);
     }
 
-    template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
+    // What the reflectors make of b.
+    template <typename V>
+    struct Left {
         V w[N];
+    };
+
+    template <typename F, typename V>
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], Left<V> &left) const {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
-            w[i] = x[i];
-        qrSolve(factors.a, factors.scale, w, x);
-        storeScratchOfGroup(scratch, w);
+            left.w[i] = x[i];
+        qrSolve(factors.a, factors.scale, left.w, x);
+        overwriteNow(left);
+    }
+
+    template <typename V>
+    ZELM_INLINE void leave(const Left<V> &left) const {
+        storeScratchOfGroup(scratch, left.w);
     }
 };
 

@@ -99,16 +99,31 @@ ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape s
     return qrThroughDst(s, scratch, d, RunTimeShape{shape.rows(), shape.columns()});
 }
 
-// As many matrices as V has lanes. False, with nothing written, where a column of one of them fails.
+// Groups of matrices from k on, up to one where a column of a matrix fails.
 template <typename V, unsigned N, typename S, typename D>
-ZELM_NOINLINE bool qrGroup(const S &s, Address scratch, const D &d, std::uint32_t k) {
-    V a[N][N], v[N];
-    loadMatrix(s, k, a);
-    if (!qrFactorGroup(a, v))
-        return false;
-    storeMatrix(d, k, a);
-    storeScratchOfGroup(scratch, v);
-    return true;
+ZELM_NOINLINE std::uint32_t qrGroups(const S &s, Address scratch, const D &d, std::uint32_t k,
+                                     std::uint32_t end) {
+    V left[N];
+    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N], v[N];
+        loadMatrix(s, group, a);
+        bool isMade;
+        if constexpr (N == 3)
+            isMade = qrFactorHere(a, v);
+        else
+            isMade = qrFactorGroup(a, v);
+        if (!isMade)
+            return false;
+        storeMatrix(d, group, a);
+        ZELM_UNROLL
+        for (unsigned i = 0; i < N; ++i)
+            left[i] = v[i];
+        overwriteNow(left);
+        return true;
+    });
+    if (next != k)
+        storeScratchOfGroup(scratch, left);
+    return next;
 }
 
 // The matrices of an array, of a fixed size.
@@ -118,11 +133,12 @@ ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::u
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         return qrObject(s.object(k), buffer, d.object(k), FixedShape<N, N>());
     };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return qrGroup<typename decltype(pack)::Pack, N>(s, buffer, d, k);
+    const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+        return qrGroups<typename decltype(pack)::Pack, N>(s, buffer, d, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)), group,
-                                         one, writes(d, N, N), reads(s, N, N, InPlace::Yes));
+    return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)),
+                                         inRuns<S, D>(count, group), one, writes(d, N, N),
+                                         reads(s, N, N, InPlace::Yes));
 }
 
 // ---- the exported rows

@@ -7,31 +7,50 @@
 //   so.
 // - hold(a, factors): reads the one matrix; false likewise.
 // - loadRight(b, k, x): reads the right sides of a group beside held factors.
-// - solve(factors, x): makes solutions of right sides.
+// - solve(factors, x, left): makes solutions of right sides.
+// - Left<V>, leave(left): what a group leaves in memory beside its results, and how; of many groups the last
+//   one's stays.
 #pragma once
 
 #include "solvers/groups.h"
 
 namespace zelm::solvers {
 
+// What most methods leave: nothing.
+struct NothingLeft {};
+
+// The groups from k on, as far as they go.
 template <typename V, typename Method, typename A, typename B, typename D>
-ZELM_NOINLINE bool solveOwnGroup(const Method &method, const A &a, const B &b, const D &d, std::uint32_t k) {
-    typename Method::template Factors<V> factors;
-    V x[Method::order];
-    if (!method.loadGroup(a, b, k, factors, x))
-        return false;
-    method.solve(factors, x);
-    storeRow<Method::order>(d, k, 0, x);
-    return true;
+ZELM_NOINLINE std::uint32_t solveOwnGroups(const Method &method, const A &a, const B &b, const D &d,
+                                           std::uint32_t k, std::uint32_t end) {
+    typename Method::template Left<V> left;
+    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        typename Method::template Factors<V> factors;
+        V x[Method::order];
+        if (!method.loadGroup(a, b, group, factors, x))
+            return false;
+        method.solve(factors, x, left);
+        writeRow<Method::order>(d, group, 0, x);
+        return true;
+    });
+    if (next != k)
+        method.leave(left);
+    return next;
 }
 
 template <typename V, typename Method, typename F, typename B, typename D>
-ZELM_NOINLINE void solveHeldGroup(const Method &method, const F &factors, const B &b, const D &d,
-                                  std::uint32_t k) {
-    V x[Method::order];
-    method.loadRight(b, k, x);
-    method.solve(factors, x);
-    storeRow<Method::order>(d, k, 0, x);
+ZELM_NOINLINE std::uint32_t solveHeldGroups(const Method &method, const F &factors, const B &b, const D &d,
+                                            std::uint32_t k, std::uint32_t end) {
+    typename Method::template Left<V> left;
+    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V x[Method::order];
+        method.loadRight(b, group, x);
+        method.solve(factors, x, left);
+        writeRow<Method::order>(d, group, 0, x);
+        return true;
+    });
+    method.leave(left);
+    return next;
 }
 
 // All systems: one(k) solves system k as the definition has it.
@@ -41,22 +60,21 @@ ZELM_INLINE ZelmStatus solveSystems(const Method &method, const Memory &buffer, 
                                     const B &b, InPlace inPlace, const D &d, std::uint32_t count) {
     constexpr unsigned N = Method::order;
     const auto run = [&](auto group) ZELM_INLINE_LAMBDA {
-        return forEachInGroups<grouping>(count, buffer, group, one, writes(d, 1, N), reads(a, N, N),
-                                         reads(b, 1, N, inPlace));
+        return forEachInGroups<grouping>(count, buffer, inRuns<A, B, D>(count, group), one, writes(d, 1, N),
+                                         reads(a, N, N), reads(b, 1, N, inPlace));
     };
     if constexpr (kIsArray<A>) {
-        return run([&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-            return solveOwnGroup<typename decltype(pack)::Pack>(method, a, b, d, k);
+        return run([&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
+            return solveOwnGroups<typename decltype(pack)::Pack>(method, a, b, d, k, end);
         });
     } else {
         typename Method::template Factors<Pack<typename D::Element>> held;
         bool isHeld = false;
-        return run([&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+        return run([&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
             if (!isHeld && !method.hold(a, held))
-                return false;
+                return k;
             isHeld = true;
-            solveHeldGroup<typename decltype(pack)::Pack>(method, held, b, d, k);
-            return true;
+            return solveHeldGroups<typename decltype(pack)::Pack>(method, held, b, d, k, end);
         });
     }
 }
