@@ -33,15 +33,16 @@ def all_mutations(subsystem):
 
 
 class Switched:
-    """One subsystem's mutations, switched, in a sample of the functions that it serves."""
+    """One subsystem's mutations, or only those with these names, switched, in a sample of the functions that it serves."""
 
-    def __init__(self, build, subsystem, per_unit, seed):
+    def __init__(self, build, subsystem, per_unit, seed, only=None):
         self.build, self.subsystem = build, subsystem
-        self.folder = build / "mutation" / subsystem
+        self.folder = build / "mutation" / (subsystem if only is None else subsystem + "-again")
+        self.is_again = only is not None
         self.copy = self.folder / "source"
         self.draw = random.Random(f"{seed} {subsystem}")
         self.per_unit = per_unit
-        self.mutations = dict(enumerate(all_mutations(subsystem), 1))
+        self.mutations = {number: m for number, m in enumerate(all_mutations(subsystem), 1) if only is None or m.name in only}
         self.commands, self.base = {}, {}
         for entry in json.loads((build / "compile_commands.json").read_text()):
             words = shlex.split(entry["command"])
@@ -67,23 +68,30 @@ class Switched:
 
     def sample(self):
         """{family: chosen functions}: some of each layout, and departing members, which have code of their own. The
-        frame, which serves all, is tried in two families of each subsystem."""
+        frame, which serves all, is tried in two families of each subsystem. What is tried again comes in all families,
+        and in all functions that the tests by name call."""
+        by_name = self.called_by_name() if self.is_again else set()
         grid = json.loads((self.build / "generated" / "zelm-grid.json").read_text())["functions"]
         chosen = {}
         for subsystem in sorted({f["subsystem"] for f in grid}) if self.subsystem == "frame" else (self.subsystem,):
             families = sorted({f["family"] for f in grid if f["subsystem"] == subsystem})
-            if self.subsystem == "frame":
+            if self.subsystem == "frame" and not self.is_again:
                 families = self.draw.sample(families, 2)
             share = max(1, self.per_unit // 3) if self.subsystem == "frame" else self.per_unit
             for family in families:
                 members = [f for f in grid if f["family"] == family]
-                picked = set()
+                picked = {f["name"] for f in members} & by_name
                 for layout in sorted({f["layout"] for f in members}):
                     for departs, most in ((False, share), (True, share // 2)):
                         names = [f["name"] for f in members if f["layout"] == layout and ("departure" in f) == departs]
                         picked |= set(self.draw.sample(names, min(most, len(names))))
                 chosen[family] = sorted(picked)
         return chosen
+
+    def called_by_name(self):
+        program = self.build / "tests" / "conformance" / "edge_cases"
+        listed = call(["nm", "-D", "--undefined-only", program], check=True, stdout=subprocess.PIPE).stdout
+        return set(re.findall(r"\bU (zelm\w+)", listed))
 
     def sources(self, chosen):
         """The sources to compile: of each family the chosen definitions, and the subsystem's own files."""
@@ -160,7 +168,7 @@ class Switched:
         """Of all that the compiled library follows from."""
         parts = [p.read_bytes() for folder in SUBSYSTEMS for p in files_of(folder)]
         parts += [p.read_bytes() for p in sorted(HERE.glob("*.*")) if p.name in ("changes.py", "switches.py")]
-        return hashlib.sha256(b"".join(parts) + " ".join(self.names).encode()).hexdigest()
+        return hashlib.sha256(b"".join(parts) + repr((self.names, sorted(self.mutations))).encode()).hexdigest()
 
     def object_of(self, unit):
         return self.folder / "objects" / (re.sub(r"\W", "_", str(unit.relative_to(self.folder))) + ".o")

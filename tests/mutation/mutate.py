@@ -2,6 +2,7 @@
 """How many wrong kernels and wrong catalogues the tests notice: changes one place of a source at a time.
 
     mutate.py run [SUBSYSTEM...] [--build build/x64] [--count N] [--minutes M] [--per-unit 2] [--seed 1]
+    mutate.py run --again [SUBSYSTEM...]   only the listed survivors of class untested, in more functions
     mutate.py prepare [SUBSYSTEM...]   only compiles what a run needs
     mutate.py report              the counts so far, survivors that the list doesn't have, listed ones that are killed now
     mutate.py list SUBSYSTEM      what could be tried
@@ -28,6 +29,7 @@ from build import CASES, SOURCE, SUBSYSTEMS, Switched, all_mutations, call, file
 
 EVERYTHING = (*SUBSYSTEMS, "grid")
 MORE_CASES = 600
+AGAIN = "-again"  # the state of what was tried with more functions has a name of its own
 # The suites of the edge cases that call a subsystem's functions, beside those of all array forms.
 EDGE_CASES = {
     "frame": "*",
@@ -46,30 +48,37 @@ class State:
         self.folder = build / "mutation" / "state"
         self.all = {p.stem: json.loads(p.read_text()) for p in self.folder.glob("*.json")}
 
-    def results(self, subsystem):
+    def results(self, part):
         """{key: result}, empty if the sources are no longer those that were tried."""
-        files = [SOURCE / "grid" / name for name in generator.FILES] if subsystem == "grid" else files_of(subsystem)
+        files = [SOURCE / "grid" / n for n in generator.FILES] if part == "grid" else files_of(part.removesuffix(AGAIN))
         digest = hashlib.sha256(b"".join(p.read_bytes() for p in files)).hexdigest()
-        mine = self.all.setdefault(subsystem, {"sources": digest, "results": {}, "seconds": 0, "left": {}})
+        mine = self.all.setdefault(part, {"sources": digest, "results": {}, "seconds": 0, "left": {}})
         if mine["sources"] != digest:
             mine.update(sources=digest, results={}, seconds=0, left={})
         return mine["results"]
 
-    def save(self, subsystem):
+    def save(self, part):
         self.folder.mkdir(parents=True, exist_ok=True)
-        new = self.folder / f"{subsystem}.new"
-        new.write_text(json.dumps(self.all[subsystem], indent=0))
-        new.replace(self.folder / f"{subsystem}.json")
+        new = self.folder / f"{part}.new"
+        new.write_text(json.dumps(self.all[part], indent=0))
+        new.replace(self.folder / f"{part}.json")
 
 
-def run_kernels(options, state, subsystem, until):
-    results = state.results(subsystem)
-    library = Switched(options.build, subsystem, options.per_unit, options.seed)
+def untested(options, subsystem):
+    """With --again, the names that the list has as untested."""
+    if not options.again:
+        return None
+    return {name for name, (kind, _) in survivors.read().items() if kind == "untested" and name.startswith(subsystem + "/")}
+
+
+def run_kernels(options, state, part, until):
+    results, subsystem = state.results(part), part.removesuffix(AGAIN)
+    library = Switched(options.build, subsystem, options.per_unit, options.seed, untested(options, subsystem))
     library.prepare()
     reached = library.reach()
     order = sorted(reached)
     random.Random(options.seed).shuffle(order)
-    state.all[subsystem]["left"] = {
+    state.all[part]["left"] = {
         "mutations": len(library.mutations),
         "that the compiler must know": len(library.mutations) - len(library.switched),
         "switched, but reached by none of the sampled calls": len(library.switched - reached.keys()),
@@ -88,7 +97,7 @@ def run_kernels(options, state, subsystem, until):
             else:
                 results[library.mutations[number].key] = result
             if len(results) % 50 == 0:
-                state.save(subsystem)
+                state.save(part)
 
         for first in range(0, len(numbers), 50):
             if time.time() > until:
@@ -99,33 +108,35 @@ def run_kernels(options, state, subsystem, until):
                 random.Random(n).shuffle(names)
                 lines.append(f"{n} {' '.join(names[:functions])}\n")
             library.judge("try", cases, "".join(lines), note)
-            state.save(subsystem)
+            state.save(part)
         return survived
 
     for n in attempt(attempt(attempt(left, CASES, 6), CASES, 100), MORE_CASES, 24):
         results[library.mutations[n].key] = "survived the model"
-    state.save(subsystem)
+    state.save(part)
     try_edge_cases(
         options,
         state,
         library,
         [n for n in order if results.get(library.mutations[n].key) == "survived the model"],
-        subsystem,
+        part,
         until,
     )
 
 
-def try_edge_cases(options, state, library, numbers, subsystem, until):
+def try_edge_cases(options, state, library, numbers, part, until):
     """The tests by name take seconds: of what survived the model, only what the list doesn't explain."""
-    results, listed = state.results(subsystem), survivors.read()
+    results, listed = state.results(part), survivors.read()
     for n in numbers if options.edge_cases else ():
         mutation = library.mutations[n]
         if listed.get(mutation.name, ("untested",))[0] != "untested":
             continue
         if time.time() > until:
             raise TimeoutError
-        results[mutation.key] = "edge cases" if edge_cases_fail(options.build, library, subsystem, n) else "survived"
-        state.save(subsystem)
+        results[mutation.key] = (
+            "edge cases" if edge_cases_fail(options.build, library, part.removesuffix(AGAIN), n) else "survived"
+        )
+        state.save(part)
 
 
 def edge_cases_fail(build, library, subsystem, number):
@@ -166,20 +177,21 @@ def run_generator(options, state, until):
 
 def run(options, state):
     until = time.time() + 60 * options.minutes
-    for subsystem in options.subsystems or EVERYTHING:
+    for subsystem in options.subsystems or (SUBSYSTEMS if options.again else EVERYTHING):
+        part = subsystem + AGAIN if options.again else subsystem
         start = time.time()
         try:
             if subsystem == "grid":
                 run_generator(options, state, until)
             else:
-                run_kernels(options, state, subsystem, until)
+                run_kernels(options, state, part, until)
         except TimeoutError:
             print("stopped; the same command goes on")
             break
         finally:
-            if subsystem in state.all:
-                state.all[subsystem]["seconds"] += time.time() - start
-                state.save(subsystem)
+            if part in state.all:
+                state.all[part]["seconds"] += time.time() - start
+                state.save(part)
     return report(options, state)
 
 
@@ -195,9 +207,10 @@ def report(_, state):
     """1 if a survivor isn't listed or a subsystem has fewer than 95 % killed."""
     listed, failed = survivors.read(), False
     for subsystem in EVERYTHING:
-        if subsystem not in state.all:
+        parts = [part for part in (subsystem, subsystem + AGAIN) if part in state.all]
+        if not parts:
             continue
-        results = {k: r for k, r in state.results(subsystem).items() if not r.startswith("same ")}
+        results = {k: r for part in parts for k, r in state.results(part).items() if not r.startswith("same ")}
         counts, unlisted = survivors.summary(results, listed)
         wrong = counts["killed"] + counts["untested"] + counts["unlisted"]
         share = 100 * counts["killed"] / wrong if wrong else 0
@@ -229,6 +242,7 @@ def main():
     parser.add_argument("--count", type=int, help="so many of each subsystem, drawn by the seed; otherwise all")
     parser.add_argument("--minutes", type=float, default=1e6)
     parser.add_argument("--per-unit", type=int, default=2, help="functions of each family and layout")
+    parser.add_argument("--again", action="store_true", help="only what the list has as untested, in more functions")
     parser.add_argument("--no-edge-cases", dest="edge_cases", action="store_false", help="the model only")
     parser.add_argument("--seed", type=int, default=1)
     options = parser.parse_args()
