@@ -182,7 +182,16 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T
         storeRowOf(rowOf<T, N>(a, i, b), d, i);
 }
 
-// ---- 32f 3x3: a row is a pack whose last element is not used. Rows that follow each other without a gap are
+// A pack of which some lanes are stored. clang++ takes unmasked exceptions for impossible: the other lanes it
+// would compute on whatever is at hand, which may trap.
+ZELM_INLINE Floats4 inAllLanes(Floats4 pack) {
+#if defined(__clang__)
+    __asm__("" : "+x"(pack));
+#endif
+    return pack;
+}
+
+// ---- 32f 3x3: a row is a pack whose last lane is not used. Rows that follow each other without a gap are
 // loaded and stored over each other, never outside of the matrix.
 
 ZELM_INLINE Floats4 loadThree(Address from) {
@@ -197,27 +206,38 @@ ZELM_INLINE Floats4 threeOfRow(const A &a, std::uint32_t row) {
         return loadThree(a.rowStart(row));
 }
 
+// The last lane of a row: that of the next row, where it is loaded along, ...
+template <typename A>
+ZELM_INLINE void loadThreeRows(const A &a, Floats4 (&row)[3]) {
+    if constexpr (!kIsTransposed<A>) {
+        if (a.rowStride == 12) {
+            row[0] = loadPack<float>(a.start);
+            row[1] = loadPack<float>(a.start + 12);
+            const Floats4 last = loadPack<float>(a.start + 20);
+            row[2] = _mm_shuffle_ps(last, last, _MM_SHUFFLE(3, 3, 2, 1));
+            return;
+        }
+    }
+    ZELM_UNROLL
+    for (unsigned t = 0; t < 3; ++t)
+        row[t] = threeOfRow(a, t);
+}
+
+// ... or the one before it again, so that no sum overflows that isn't asked for.
 template <>
 struct HeldRows<float, 3> {
     Floats4 row[3];
     template <typename A>
     ZELM_INLINE explicit HeldRows(const A &a) {
-        if constexpr (!kIsTransposed<A>) {
-            if (a.rowStride == 12) {
-                row[0] = loadPack<float>(a.start);
-                row[1] = loadPack<float>(a.start + 12);
-                const Floats4 last = loadPack<float>(a.start + 20);
-                row[2] = _mm_shuffle_ps(last, last, _MM_SHUFFLE(3, 3, 2, 1));
-                return;
-            }
-        }
+        loadThreeRows(a, row);
         ZELM_UNROLL
-        for (unsigned t = 0; t < 3; ++t)
-            row[t] = threeOfRow(a, t);
+        for (unsigned t = 0; t < 2; ++t)
+            row[t] = _mm_shuffle_ps(row[t], row[t], _MM_SHUFFLE(2, 2, 1, 0));
     }
 };
 
 ZELM_INLINE void storeThree(Address to, Floats4 row) {
+    row = inAllLanes(row);
     _mm_storel_pi(reinterpret_cast<__m64 *>(to), row);
     _mm_store_ss(reinterpret_cast<float *>(to + 8), _mm_movehl_ps(row, row));
 }
@@ -239,8 +259,9 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Den
         for (unsigned i = 0; i < 3; ++i)
             storeThree(d.rowStart(i), times(threeOfRow(a, i)));
     } else {
-        const HeldRows<float, 3> first(a);
-        const Floats4 rows[3] = {times(first.row[0]), times(first.row[1]), times(first.row[2])};
+        Floats4 first[3];
+        loadThreeRows(a, first);
+        const Floats4 rows[3] = {times(first[0]), times(first[1]), times(first[2])};
         if (d.rowStride == 12) {
             storePack(d.start, rows[0]);
             storePack(d.start + 12, rows[1]);

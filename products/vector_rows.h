@@ -47,7 +47,7 @@ ZELM_INLINE void storeSome(Address to, Floats4 rows, unsigned number) {
     else if (number == 3)
         storeThree(to, rows);
     else
-        _mm_storel_pi(reinterpret_cast<__m64 *>(to), rows);
+        _mm_storel_pi(reinterpret_cast<__m64 *>(to), inAllLanes(rows));
 }
 
 ZELM_INLINE void storeSome(Address to, Doubles2 rows, unsigned) {

@@ -83,9 +83,9 @@ ZELM_INLINE T columnSumAt(const Dense<const T> &s, unsigned j) {
     return columnSum(squares);
 }
 
-// (lane 0 + lane 2) + (lane 1 + lane 3).
+// (lane 0 + lane 2) + (lane 1 + lane 3). No lane is added to itself, which could overflow.
 ZELM_INLINE float evenThenOdd(Floats4 four) {
-    const Floats4 two = four + _mm_movehl_ps(four, four);
+    const Floats4 two = four + _mm_movehl_ps(_mm_setzero_ps(), four);
     return firstLane(two) + two[1];
 }
 

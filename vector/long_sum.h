@@ -35,16 +35,16 @@ struct Squares {
 };
 
 // The running sums, lane by lane: ((s0 + s4) + (s1 + s5)) + ((s2 + s6) + (s3 + s7)), and (s0 + s2) + (s1 +
-// s3).
+// s3). The last sum is one of elements: a lane added to itself could overflow.
 ZELM_INLINE float combined(Floats4 s0to3, Floats4 s4to7) {
     const Floats4 four = s0to3 + s4to7;
     const Floats4 pairs = four + _mm_shuffle_ps(four, four, _MM_SHUFFLE(2, 3, 0, 1));
-    return firstLane(pairs + _mm_movehl_ps(pairs, pairs));
+    return pairs[0] + pairs[2];
 }
 
 ZELM_INLINE double combined(Doubles2 s0to1, Doubles2 s2to3) {
     const Doubles2 two = s0to1 + s2to3;
-    return firstLane(two + _mm_unpackhi_pd(two, two));
+    return two[0] + two[1];
 }
 
 // The terms from t on, one after the other: multiplied by packs, added one by one.

@@ -19,14 +19,16 @@ ControlState unmasked(std::uint32_t exceptions) {
     return {sseDefault & ~(exceptions << 7), static_cast<std::uint16_t>(x87Default & ~exceptions)};
 }
 
-// LUDecomp and Invert may meet a denormal number in a lane whose result they don't use. What overflows in an
-// inverse may also be infinite in the formula of a whole group of which an object then goes another way.
+// LUDecomp and Invert may meet a denormal number in a lane whose result they don't use, Det of a run-time
+// size in the last element although an earlier pivot was too small. Where a result overflows, infinities meet
+// the zeros of lanes that aren't used, and terms of a whole formula that aren't either.
 std::uint32_t boundExceptions(const Target &target, std::uint32_t ofModel) {
     const std::string operation = target.function->operation;
     std::uint32_t bound = all;
-    if (operation == "LUDecomp" || operation == "Invert")
+    const bool eliminates = operation == "Det" && std::string_view(target.function->size).empty();
+    if (operation == "LUDecomp" || operation == "Invert" || eliminates)
         bound &= ~denormal;
-    if (operation == "Invert" && (ofModel & overflow))
+    if (ofModel & overflow)
         bound &= ~invalid;
     return bound;
 }
