@@ -117,8 +117,8 @@ ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d
         constexpr unsigned N = Size::fixed;
         if (hasNoNullObject(a, N, N, count) && hasNoNullObject(b, 1, N, count) &&
             hasNoNullObject(d, 1, N, count))
-            return solveSystems<kLongKernels>(CholeskySystems<N>(), NoBuffer(), one, a, b, InPlace::Yes, d,
-                                              count);
+            return solveSystems<kShortSystems<N, D>>(CholeskySystems<N>(), NoBuffer(), one, a, b,
+                                                     InPlace::Yes, d, count);
     }
     return forEachObject(count, one);
 }

@@ -174,14 +174,15 @@ ZELM_INLINE void overwriteNow(T &value) {
 }
 
 // ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
-// long code.
+// long code. Small matrices go without it and then need no memory.
 
-template <typename V, typename Array>
-constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || kLanesOf<V> == 2;
+template <unsigned N, typename V, typename Array>
+constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || kLanesOf<V> == 2 ||
+                              (kIsSpacedArray<Array> && N <= 4);
 
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N]) {
-    if constexpr (kUnrollsRows<V, Array>) {
+    if constexpr (kUnrollsRows<N, V, Array>) {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             readRow<N>(array, k, i, out[i]);
@@ -194,7 +195,7 @@ ZELM_INLINE void loadMatrix(const Array &array, std::uint32_t k, V (&out)[N][N])
 
 template <unsigned N, typename V, typename Array>
 ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[N][N]) {
-    if constexpr (kUnrollsRows<V, Array>) {
+    if constexpr (kUnrollsRows<N, V, Array>) {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             writeRow<N>(array, k, i, in[i]);

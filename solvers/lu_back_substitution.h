@@ -161,11 +161,11 @@ constexpr Grouping kOwnGrouping = {kIsWideArray<A>       ? kLongKernels.bytes
                                                          : kBlockBytes,
                                    kLongKernels.least, kLongKernels.leastInTables};
 
-template <typename A>
-constexpr Grouping kGroupingOfLu = kLongKernels;
-template <typename A>
+template <unsigned N, typename A, typename D>
+constexpr Grouping kGroupingOfLu = kShortSystems<N, D>;
+template <unsigned N, typename A, typename D>
 requires kIsArray<A>
-constexpr Grouping kGroupingOfLu<A> = kOwnGrouping<A>;
+constexpr Grouping kGroupingOfLu<N, A, D> = kOwnGrouping<A>;
 
 // The systems of an array, of a fixed size; the elements of each result are distinct.
 template <unsigned N, typename A, typename B, typename D>
@@ -181,8 +181,8 @@ ZELM_NOINLINE ZelmStatus luBackSubstObjects(const A &a, const std::uint32_t *piv
     } else {
         const Buffer pivots =
             kIsArray<A> ? readsPerObject(pivotIndex, N * 4) : readsForAll(pivotIndex, N * 4);
-        return solveSystems<kGroupingOfLu<A>>(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No, d,
-                                              count);
+        return solveSystems<kGroupingOfLu<N, A, D>>(LuSystems<N>{pivotIndex}, pivots, one, a, b, InPlace::No,
+                                                    d, count);
     }
 }
 
