@@ -1,9 +1,7 @@
 // Element-wise operations in the standard and L layouts, where the elements of a row are adjacent.
 #pragma once
 
-#include "elementwise/run.h"
-#include "frame/objects.h"
-#include "frame/overlap.h"
+#include "elementwise/invariant.h"
 
 namespace zelm::elementwise {
 
@@ -52,11 +50,6 @@ requires(Shape::isFixed &&Shape::rows() == 4 && Shape::columns() == 4) ZELM_INLI
     return TransposedFour(object);
 }
 
-template <typename Operand>
-constexpr bool kIsConstant = false;
-template <typename T>
-constexpr bool kIsConstant<Constant<T>> = true;
-
 // ---- all objects of an array, one behind the other, as the input of one run
 
 template <typename Array>
@@ -101,31 +94,18 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 
 // ---- one object
 
-template <typename Op, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE void plainObject(const A &a, const B &b, const D &d, Shape shape) {
-    using T = typename D::Element;
-    whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
-        d.set(i, j, shape.columns(), Op::template apply<T>(value(a, i, j, shape), value(b, i, j, shape)));
-        return true;
-    });
+template <typename Op, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    if constexpr (Shape::isFixed)
+        shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
+    else
+        run<Op, T>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
 }
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
-    const bool gapless = rowsAreGapless(a, shape) && rowsAreGapless(b, shape) && rowsAreGapless(d, shape);
+ZELM_INLINE void objectByRows(const A &a, const B &b, const Dense<T> &d, Shape shape) {
     if constexpr (kIsTransposed<A> || kIsTransposed<B>) {
-        // Sums of fixed size may read ahead of what they write; scaling reads each element just before it
-        // writes one.
-        if constexpr (Shape::isFixed && !kIsConstant<B>) {
-            if (gapless)
-                return shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
-        }
-        plainObject<Op>(a, b, d, shape);
-    } else if (gapless) {
-        if constexpr (Shape::isFixed)
-            shortRun<Op, T, shape.elements()>(inputRow(a, 0), inputRow(b, 0), d.start);
-        else
-            run<Op, T>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
+        objectInOrder<Op>(a, b, d, shape);
     } else {
         for (std::uint32_t i = 0; i < shape.rows(); ++i) {
             if constexpr (Shape::isFixed)
@@ -136,10 +116,29 @@ ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape sh
     }
 }
 
+// Sums of fixed size may read ahead of what they write; scaling reads each element just before it writes one.
+template <typename A, typename B, typename Shape>
+constexpr bool kRunsGapless = (!kIsTransposed<A> && !kIsTransposed<B>) || (Shape::isFixed && !kIsConstant<B>);
+
+template <typename A, typename B, typename D, typename Shape>
+ZELM_INLINE bool areGapless(const A &a, const B &b, const D &d, Shape shape) {
+    return kRunsGapless<A, B, Shape> && rowsAreGapless(a, shape) && rowsAreGapless(b, shape) &&
+           rowsAreGapless(d, shape);
+}
+
+template <typename Op, typename A, typename B, typename T, typename Shape>
+ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    if constexpr (kRunsGapless<A, B, Shape>)
+        if (areGapless(a, b, d, shape))
+            return gaplessObject<Op>(a, b, d, shape);
+    objectByRows<Op>(a, b, d, shape);
+}
+
 // ---- arrays
 
-template <typename Op, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
+template <typename Op, typename A, typename B, typename D, typename Shape, typename Watching = Unwatched>
+ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count,
+                                  Watching &&watch = {}) {
     using T = typename D::Element;
     if constexpr (!D::isList && !kIsTransposed<A> && !kIsTransposed<B>) {
         constexpr bool holdsMatrix = kIsHeldMatrix<A> || kIsHeldMatrix<B>;
@@ -149,48 +148,46 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
             return ZELM_OK;
         }
     }
-    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        denseObject<Op>(a.object(k), b.object(k), d.object(k), shape);
-        return ZELM_OK;
+    const auto objects = [&](auto compute) ZELM_INLINE_LAMBDA {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            const Dense<T> result = d.object(k);
+            if (watch.isReached(k, result.start))
+                return kReached;
+            compute(a.object(k), b.object(k), result);
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, a, b, d);
     };
-    return forEachObject(count, one, a, b, d);
+    if constexpr (kRunsGapless<A, B, Shape>)
+        if (areGapless(a, b, d, shape))
+            return objects([&](const auto &first, const auto &second, const Dense<T> &result)
+                               ZELM_INLINE_LAMBDA { gaplessObject<Op>(first, second, result, shape); });
+    return objects([&](const auto &first, const auto &second, const Dense<T> &result)
+                       ZELM_INLINE_LAMBDA { objectByRows<Op>(first, second, result, shape); });
 }
 
-// ---- invariant operands
-
-// One object among arrays: its start is its own, not that of an array.
-template <typename Operand>
-constexpr bool kIsInvariant = requires(const Operand &o) {
-    o.rowStart(0u);
-};
-
-// Whether nothing that the call writes lies in an invariant, so that held or read anew makes no difference.
-template <typename Operand, typename D, typename Shape>
-ZELM_INLINE bool isOutOfReach(const Operand &operand, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (!kIsInvariant<Operand>) {
-        return true;
-    } else if constexpr (D::isList) {
-        return false;
+template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
+ZELM_INLINE ZelmStatus denseArrayWithInvariant(const A &a, const B &b, const D &d, Shape shape,
+                                               std::uint32_t count) {
+    const auto use =
+        [&](const auto &first, const auto &second, const auto &result, auto &&watch)
+            ZELM_INLINE_LAMBDA { return denseArray<Op>(first, second, result, shape, count, watch); };
+    if constexpr (Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>)) {
+        const auto held = [](const auto &invariant) ZELM_INLINE_LAMBDA { return hold<Shape>(invariant); };
+        // A vector of whole packs is read as fast as it is held.
+        constexpr bool isWholePacks =
+            Shape::rows() == 1 && Shape::columns() % kLanes<typename D::Element> == 0;
+        if constexpr (reading == Invariant::ReadAnew && D::isList && isWholePacks)
+            return use(a, b, d, Unwatched{});
+        else if constexpr (reading == Invariant::ReadAnew)
+            return holdingWhilePossible<Op>(a, b, d, shape, count, held, use);
+        else if constexpr (kIsInvariant<A>)
+            return use(held(a), b, d, Unwatched{});
+        else
+            return use(a, held(b), d, Unwatched{});
     } else {
-        const std::uint32_t rows = kIsTransposed<Operand> ? shape.columns() : shape.rows();
-        const std::uint32_t columns = kIsTransposed<Operand> ? shape.rows() : shape.columns();
-        const Range source = rangeOfObject(operand, rows, columns);
-        const Range target = rangeOf(d, shape.rows(), shape.columns(), count);
-        return count <= kMostObjectsInRange && isKnown(source) && isKnown(target) &&
-               areDisjoint(source, target);
+        return use(a, b, d, Unwatched{});
     }
 }
-
-template <typename Shape, typename Object>
-ZELM_INLINE auto hold(const Object &invariant) {
-    using T = typename Object::Element;
-    if constexpr (Shape::rows() == 1)
-        return HeldVector<T, Shape::columns()>(invariant);
-    else
-        return HeldMatrix<T, Shape::rows(), Shape::columns()>(invariant);
-}
-
-// Held: the invariant is read once, before the first object. Anew: it is read for every object.
-enum class Invariant { Held, ReadAnew };
 
 } // namespace zelm::elementwise

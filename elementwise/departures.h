@@ -233,22 +233,27 @@ ZELM_INLINE void objectWithRegisters(const Dense<const double> &s, const HeldReg
 }
 
 template <typename Op, typename A, typename B>
-ZELM_INLINE ZelmStatus heldByAlignment(const A &a, const B &b, const DenseList<double> &d, FixedShape<3, 3>,
-                                       std::uint32_t count) {
+ZELM_INLINE ZelmStatus heldByAlignment(const A &a, const B &b, const DenseList<double> &d,
+                                       FixedShape<3, 3> shape, std::uint32_t count) {
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(d, 0));
         status != kProceed)
         return status;
-    const auto objects = [&](const HeldRegisters &held, const auto &s, auto first) ZELM_INLINE_LAMBDA {
+    const auto objects = [&](const auto &invariant, const auto &s, auto order) ZELM_INLINE_LAMBDA {
+        const bool isPacked = isMultipleOf16(invariant.start) && isMultipleOf16(invariant.rowStride);
+        const bool objectsMayBe = isMultipleOf16(s.rowStride) && isMultipleOf16(d.rowStride);
+        if (!isPacked && !objectsMayBe)
+            return denseObjects<Op, Invariant::Held>(a, b, d, shape, count);
+        const HeldRegisters held = holdInRegisters(invariant);
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-            objectWithRegisters<Op, decltype(first)::value>(s.object(k), held, d.object(k));
+            objectWithRegisters<Op, decltype(order)::value>(s.object(k), held, d.object(k));
             return ZELM_OK;
         };
         return forEachObject(count, one, s, d);
     };
     if constexpr (kIsInvariant<A>)
-        return objects(holdInRegisters(a), b, std::true_type{});
+        return objects(a, b, std::true_type{});
     else
-        return objects(holdInRegisters(b), a, std::false_type{});
+        return objects(b, a, std::false_type{});
 }
 
 // ---- zelm{Add,Sub}_{mmT,mTm,mTmT}_*_P of run-time size: the entry that is tested for a transposed operand

@@ -43,7 +43,7 @@ ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Dense<T> &d, Shape s
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Strided<T> &d, Shape shape) {
-    plainObject<Op>(a, b, d, shape);
+    objectInOrder<Op>(a, b, d, shape);
     return ZELM_OK;
 }
 
@@ -78,23 +78,7 @@ constexpr Invariant readingOf(Invariant reading) {
 // value: nothing that is stored can lie in them.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
 ZELM_NOINLINE ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
-    if constexpr (Shape::isFixed && kIsInvariant<A>) {
-        if (reading == Invariant::Held || isOutOfReach(a, d, shape, count))
-            return denseArray<Op>(hold<Shape>(a), b, d, shape, count);
-    } else if constexpr (Shape::isFixed && kIsInvariant<B>) {
-        if (reading == Invariant::Held || isOutOfReach(b, d, shape, count))
-            return denseArray<Op>(a, hold<Shape>(b), d, shape, count);
-    }
-    return denseArray<Op>(a, b, d, shape, count);
-}
-
-template <typename Op, typename A, typename B, typename D, typename Shape>
-ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        plainObject<Op>(a.object(k), b.object(k), d.object(k), shape);
-        return ZELM_OK;
-    };
-    return forEachObject(count, one, a, b, d);
+    return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
 }
 
 // One instance serves P and PS2.
@@ -120,7 +104,16 @@ ZELM_INLINE ZelmStatus stridedObjects(const A &a, const B &b, const D &d, Shape 
                 return denseObjects<Op, reading>(first, second, result, shape, count);
         }
     }
-    return objectsInOrder<Op>(a, b, d, shape, count);
+    if constexpr (Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>)) {
+        const auto use =
+            [&](const auto &first, const auto &second, const auto &result, auto &&watch)
+                ZELM_INLINE_LAMBDA { return objectsInOrder<Op>(first, second, result, shape, count, watch); };
+        const auto held = [](const auto &invariant)
+                              ZELM_INLINE_LAMBDA { return holdElements<Shape>(invariant); };
+        return holdingWhilePossible<Op>(a, b, d, shape, count, held, use);
+    } else {
+        return objectsInOrder<Op>(a, b, d, shape, count);
+    }
 }
 
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
@@ -129,7 +122,15 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
         if (isPlainer(a) && isPlainer(b) && isPlainer(d) &&
             runPerPosition<Op>(plainest(a), plainest(b), plainest(d), shape, count))
             return ZELM_OK;
-        return tabledObjects<Op>(withObjectStride(a), withObjectStride(b), withObjectStride(d), shape, count);
+        const auto first = withObjectStride(a);
+        const auto second = withObjectStride(b);
+        const auto result = withObjectStride(d);
+        // Between planes a stride apart one instance serves all sizes. A few planes of one source are better
+        // taken side by side.
+        if ((shape.elements() > 4 || (!kIsConstant<A> && !kIsConstant<B>)) && !isPlainer(d) &&
+            runPerPosition<Op>(first, second, result, RunTimeShape{shape.rows(), shape.columns()}, count))
+            return ZELM_OK;
+        return tabledObjects<Op>(first, second, result, shape, count);
     } else if constexpr (decltype(d.object(0))::isDense) {
         return denseObjects<Op, readingOf<A, B, Shape>(reading)>(a, b, d, shape, count);
     } else {

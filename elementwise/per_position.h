@@ -1,7 +1,7 @@
-// Element-wise operations in the P layout: the results of one position are one run over all objects.
+// Element-wise operations in the P and PS2 layouts: the results of one position are one run over all objects.
 #pragma once
 
-#include "elementwise/run.h"
+#include "elementwise/strided.h"
 #include "frame/overlap.h"
 
 namespace zelm::elementwise {
@@ -31,18 +31,49 @@ ZELM_INLINE Same<T> inputAtEntry(const Constant<T> &constant, Address) {
     return {constant.value};
 }
 
+// The same with objects a stride apart.
+template <typename T>
+ZELM_INLINE Rows<T> inputAtEntry(const TableArray<const T> &array, Address entry) {
+    return {array.object(0).position(entry), array.objStride, 0};
+}
+
+template <typename T>
+ZELM_INLINE ScaledRows<T> inputAtEntry(const Scaled<TableArray<const T>> &array, Address entry) {
+    return {{array.object(0).position(entry), array.objStride, 0}, array.factor};
+}
+
+template <typename T>
+ZELM_INLINE ConstantRows<T> rowsOfInput(const Same<T> &input) {
+    return {input.value};
+}
+template <typename Input>
+ZELM_INLINE const Input &rowsOfInput(const Input &input) {
+    return input;
+}
+
+// The bytes of one position of an array, an invariant's being one element. Strides that don't ascend have
+// none.
+template <typename S>
+ZELM_INLINE std::int64_t bytesOfPosition(const S &s, std::uint32_t count) {
+    constexpr std::int64_t size = sizeof(typename S::Element);
+    if constexpr (requires { s.objStride; }) {
+        const std::int64_t stride = signedDistance(s.objStride);
+        return stride < size ? 0 : stride * (count - 1) + size;
+    } else {
+        return size;
+    }
+}
+
 // Whether no result of the positions lies in another position of the source. In the same position a run gives
 // what the loop over objects gives, however the two overlap; an invariant is out of reach or not.
-template <typename S, typename T, typename Shape>
-bool isOutOfReachOf(S s, PackedTableArray<T> d, Shape shape, std::uint32_t count) {
+template <typename S, typename D, typename Shape>
+bool isOutOfReachOf(S s, D d, Shape shape, std::uint32_t count) {
     if constexpr (!S::isTable) {
         return true;
     } else {
-        const std::int64_t bytes = std::int64_t{count} * static_cast<std::int64_t>(sizeof(T));
-        const std::int64_t sourceBytes = requires {
-            s.objStride;
-        }
-        ? bytes : std::int64_t{sizeof(T)};
+        const std::int64_t bytes = bytesOfPosition(d, count), sourceBytes = bytesOfPosition(s, count);
+        if (sourceBytes == 0)
+            return false;
         const auto entries = static_cast<unsigned>(shape.elements());
         Range source = rangeOfObject(s.object(0), 1, entries),
               target = rangeOfObject(d.object(0), 1, entries);
@@ -73,19 +104,27 @@ constexpr Address kPerPositionElements = 36;
 
 // False, with nothing written, where the objects are to be done one by one. One instance serves P, and PS2
 // where its objects are adjacent.
-template <typename Op, typename A, typename B, typename T, typename Shape>
-ZELM_NOINLINE bool runPerPosition(A a, B b, PackedTableArray<T> d, Shape shape, std::uint32_t count) {
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_NOINLINE bool runPerPosition(A a, B b, D d, Shape shape, std::uint32_t count) {
+    using T = typename D::Element;
     if (count < kPerPositionCount || count > kMostObjectsInRange || shape.elements() > kPerPositionElements)
         return false;
-    if (!positionsAreApart(d.object(0), static_cast<unsigned>(shape.elements()),
-                           std::int64_t{count} * static_cast<std::int64_t>(sizeof(T))) ||
+    const std::int64_t bytes = bytesOfPosition(d, count);
+    if (bytes == 0 || !positionsAreApart(d.object(0), static_cast<unsigned>(shape.elements()), bytes) ||
         !isOutOfReachOf(a, d, shape, count) || !isOutOfReachOf(b, d, shape, count))
         return false;
-    for (std::uint32_t i = 0; i < shape.rows(); ++i)
-        for (std::uint32_t j = 0; j < shape.columns(); ++j)
-            run<Op, T>(inputAtEntry(a, entryNumber(a, i, j, shape)),
-                       inputAtEntry(b, entryNumber(b, i, j, shape)),
-                       d.object(0).position(Address{i} * shape.columns() + j), count);
+    for (std::uint32_t i = 0; i < shape.rows(); ++i) {
+        for (std::uint32_t j = 0; j < shape.columns(); ++j) {
+            const auto first = inputAtEntry(a, entryNumber(a, i, j, shape));
+            const auto second = inputAtEntry(b, entryNumber(b, i, j, shape));
+            const Address to = d.object(0).position(Address{i} * shape.columns() + j);
+            if constexpr (D::isSideBySide)
+                run<Op, T>(first, second, to, count);
+            else
+                elementsOfRow<Op>(rowsOfInput(first), rowsOfInput(second), Rows<T>{to, d.objStride, 0},
+                                  count);
+        }
+    }
     return true;
 }
 

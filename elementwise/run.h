@@ -253,6 +253,16 @@ ZELM_INLINE void shortPacks(const A &a, const B &b, Address dst) {
     }
 }
 
+// Where packs would be told from the plain loop. It stands apart and is cold, so that no addresses are
+// computed ahead for it. Vectors have too few of them, and would rather keep their constants in registers.
+constexpr unsigned kMostInline = 6;
+
+template <typename Op, typename T, typename A, typename B>
+ZELM_NOINLINE __attribute__((cold)) void overlappingRun(A a, B b, Address dst, Address length) {
+    for (Address i = 0; i < length; ++i)
+        store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+}
+
 template <typename Op, typename T, unsigned N, typename A, typename B>
 ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     if constexpr (N >= kLanes<T>) {
@@ -261,10 +271,14 @@ ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
                                                                     : kBlockBytes;
         if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest))
             return shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
+        if constexpr (N > kMostInline)
+            return overlappingRun<Op, T, A, B>(a, b, dst, N);
     }
-    ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    if constexpr (N < kLanes<T> || N <= kMostInline) {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    }
 }
 
 } // namespace zelm::elementwise

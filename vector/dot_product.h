@@ -160,14 +160,14 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
             storePack(results.object(k).start, sumOf<order>(products));
             return true;
         };
-        return forEachInGroups<groupingOf<A>(kShortKernels)>(
-            count, NoBuffer(), group, one, writes(results, 1, 1), reads(a, 1, N), reads(b, 1, N));
+        return forEachInGroups<kVectorGrouping<A>>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                   reads(a, 1, N), reads(b, 1, N));
     }
 }
 
 template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
-    return withPlainest(
+    return withPlainestVectors<Shape::isFixed>(
         [&](const auto &first, const auto &second)
             ZELM_INLINE_LAMBDA { return dotInOrder<order>(first, second, dst, shape, count); },
         a, b);

@@ -254,7 +254,7 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
     V elements[N][N], sum = {};
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-        loadRow<N>(s, k, i, elements[i]);
+        loadElements<N>(s, k, i, elements[i]);
     ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j)
         ZELM_UNROLL
@@ -277,8 +277,8 @@ ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape sh
             storePack(results.object(k).start, squareRoot(squaresOfGroup<N, V>(s, k)));
             return true;
         };
-        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
-                                                             writes(results, 1, 1), reads(s, N, N));
+        return forEachInGroups<kVectorGrouping<S>>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                   reads(s, N, N));
     } else {
         return forEachObject(count, one, s);
     }
@@ -294,7 +294,7 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
     if constexpr (Shape::isFixed && decltype(s.object(0))::isDense && sizeof(T) == 4)
         return frobeniusByTrees(s, results, shape, count);
     else
-        return withPlainest(
+        return withPlainestVectors<Shape::isFixed>(
             [&](const auto &plain)
                 ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, results, shape, count); },
             s);

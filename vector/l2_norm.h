@@ -94,8 +94,8 @@ ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count
             storePack(results.object(k).start, lengthOf<isDense>(sum));
             return true;
         };
-        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
-                                                             writes(results, 1, 1), reads(s, 1, N));
+        return forEachInGroups<kVectorGrouping<S>>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                   reads(s, 1, N));
     }
 }
 
@@ -106,9 +106,9 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
         status != kProceed)
         return status;
     constexpr bool isDense = decltype(s.object(0))::isDense;
-    return withPlainest([&](const auto &plain)
-                            ZELM_INLINE_LAMBDA { return lengthsOf<isDense>(plain, dst, shape, count); },
-                        s);
+    return withPlainestVectors<Shape::isFixed>(
+        [&](const auto &plain) ZELM_INLINE_LAMBDA { return lengthsOf<isDense>(plain, dst, shape, count); },
+        s);
 }
 
 } // namespace zelm::vector

@@ -7,6 +7,7 @@
 #include "frame/plainest.h"
 #include "frame/shapes.h"
 #include "frame/sums.h"
+#include "vector/alternate.h"
 
 namespace zelm::vector {
 
@@ -25,7 +26,7 @@ struct Vectors {
     ZELM_INLINE explicit Vectors(const S &s) : operand(s) {}
     template <typename V>
     ZELM_INLINE void load(std::uint32_t k, V (&out)[N]) const {
-        loadRow<N>(operand, k, 0, out);
+        loadElements<N>(operand, k, 0, out);
     }
 };
 

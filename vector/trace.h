@@ -47,8 +47,13 @@ template <unsigned N, typename V, typename S>
 ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
     V sum = {};
     ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        sum = sum + loadAs<V>(s.object(k).address(i, i, N));
+    for (unsigned i = 0; i < N; ++i) {
+        const Address at = s.object(k).address(i, i, N);
+        if constexpr (kIsAlternate<S> && kLanesOf<V> != 1)
+            sum = sum + loadAlternate<V>(at);
+        else
+            sum = sum + loadAs<V>(at);
+    }
     return sum;
 }
 
@@ -68,8 +73,8 @@ ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::ui
             storePack(results.object(k).start, tracesOfGroup<N, V>(s, k));
             return true;
         };
-        return forEachInGroups<groupingOf<S>(kShortKernels)>(count, NoBuffer(), group, one,
-                                                             writes(results, 1, 1), reads(s, N, N));
+        return forEachInGroups<kVectorGrouping<S>>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                   reads(s, N, N));
     } else {
         return forEachObject(count, one, s);
     }
@@ -85,7 +90,7 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
     const DenseArray<T> results = resultsAt(dst);
     // Only planes gain by it: the dense forms begin their sums in another way.
     if constexpr (S::isTable)
-        return withPlainest(
+        return withPlainestVectors<Size::fixed != 0>(
             [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, results, size, count); }, s);
     else
         return tracesOf(s, results, size, count);

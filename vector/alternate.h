@@ -1,0 +1,86 @@
+// Arrays behind tables whose objects lie two elements apart, as one field of two does: groups are loaded
+// whole and every second element is kept. Nothing before the first object or behind the last is touched.
+#pragma once
+
+#include "frame/groups.h"
+#include "frame/plainest.h"
+#include "frame/widths.h"
+
+namespace zelm::vector {
+
+using namespace zelm::frame;
+
+template <typename T>
+struct AlternateTableArray : TableArray<T> {
+    ZELM_INLINE explicit AlternateTableArray(const TableArray<T> &array) : TableArray<T>(array) {}
+};
+
+template <typename Operand>
+constexpr bool kIsAlternate = false;
+template <typename T>
+constexpr bool kIsAlternate<AlternateTableArray<T>> = true;
+
+template <typename Operand>
+ZELM_INLINE bool alternates(const Operand &) {
+    return true; // an invariant
+}
+template <typename T>
+ZELM_INLINE bool alternates(const TableArray<T> &array) {
+    return array.objStride == 2 * sizeof(T);
+}
+
+template <typename Operand>
+ZELM_INLINE const Operand &asAlternate(const Operand &operand) {
+    return operand;
+}
+template <typename T>
+ZELM_INLINE AlternateTableArray<T> asAlternate(const TableArray<T> &array) {
+    return AlternateTableArray<T>(array);
+}
+
+template <typename Operand>
+constexpr bool kMayAlternate = false;
+template <typename T>
+constexpr bool kMayAlternate<TableArray<T>> = true;
+
+// withPlainest, with alternate objects for a layout of their own where the size is fixed.
+template <bool isFixed, typename Use, typename First, typename... Rest>
+ZELM_INLINE auto withPlainestVectors(Use use, const First &first, const Rest &...rest) {
+    if constexpr (isFixed && kMayAlternate<First>)
+        if (alternates(first) && (alternates(rest) && ...))
+            return use(asAlternate(first), asAlternate(rest)...);
+    return withPlainest(use, first, rest...);
+}
+
+// Every second element from `at` on.
+template <typename V>
+ZELM_INLINE V loadAlternate(Address at) {
+    return fromBlocks<V>([at](unsigned b) ZELM_INLINE_LAMBDA {
+        const Address block = at + b * 2 * kBlockBytes;
+        if constexpr (sizeof(ElementOf<V>) == 4) {
+            return shuffle<0, 2, 1, 3>(loadPack<float>(block),
+                                       loadPack<float>(block + kBlockBytes - sizeof(float)));
+        } else {
+            const LaneAddresses<Doubles2> lanes = {block, block + kBlockBytes};
+            return gatherBlock(lanes, 0.0);
+        }
+    });
+}
+
+// The elements of row i, which has N of them, of the objects from k on.
+template <unsigned N, typename V, typename S>
+ZELM_INLINE void loadElements(const S &s, std::uint32_t k, unsigned i, V *out) {
+    if constexpr (kIsAlternate<S> && kLanesOf<V> != 1) {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            out[j] = loadAlternate<V>(s.object(k).address(i, j, N));
+    } else {
+        loadRow<N>(s, k, i, out);
+    }
+}
+
+// The widths of short kernels over such an array too.
+template <typename Array>
+constexpr Grouping kVectorGrouping = kIsAlternate<Array> ? kShortKernels : groupingOf<Array>(kShortKernels);
+
+} // namespace zelm::vector
