@@ -7,11 +7,9 @@
 
 namespace zelm::products {
 
-// Whether the running sum is read back from dst for every term, or kept beside it.
-template <typename D>
-constexpr bool kSumLivesInDst = D::isTable || D::isList;
-
-template <bool livesInDst, typename A, typename B, typename D>
+// What stands in dst between two products is what was stored there last, so that the sum is kept beside it;
+// the stores are for sources that lie over dst.
+template <typename A, typename B, typename D>
 ZELM_INLINE void accumulateMatrix(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < bounds.rows; ++i) {
@@ -19,10 +17,7 @@ ZELM_INLINE void accumulateMatrix(const A &a, const B &b, const D &d, Bounds bou
             T sum = 0;
             d.set(i, j, pitches.result, sum);
             for (std::uint32_t t = 0; t < bounds.terms; ++t) {
-                const T product = used(a, i, t, pitches.first) * used(b, t, j, pitches.second);
-                if constexpr (livesInDst)
-                    sum = d.get(i, j, pitches.result);
-                sum = sum + product;
+                sum = sum + used(a, i, t, pitches.first) * used(b, t, j, pitches.second);
                 d.set(i, j, pitches.result, sum);
             }
         }
@@ -31,19 +26,48 @@ ZELM_INLINE void accumulateMatrix(const A &a, const B &b, const D &d, Bounds bou
 
 // The entries of a position are tested just before it is used, dst's before it is set to zero.
 template <typename A, typename B, typename T>
-ZELM_INLINE ZelmStatus accumulateTested(const A &a, const B &b, const Table<T> &d, Bounds bounds,
-                                        Pitches pitches) {
+ZELM_NOINLINE ZelmStatus accumulateTested(A a, B b, Table<T> d, Bounds bounds, Pitches pitches) {
     for (std::uint32_t i = 0; i < bounds.rows; ++i) {
         for (std::uint32_t j = 0; j < bounds.columns; ++j) {
             if (d.elementIsNull(usedEntry(d, i, j, pitches.result)))
                 return ZELM_ERR_NULL_PTR;
-            d.set(i, j, pitches.result, T{0});
+            T sum = 0;
+            d.set(i, j, pitches.result, sum);
             for (std::uint32_t t = 0; t < bounds.terms; ++t) {
                 if (a.elementIsNull(usedEntry(a, i, t, pitches.first)) ||
                     b.elementIsNull(usedEntry(b, t, j, pitches.second)))
                     return ZELM_ERR_NULL_PTR;
-                const T product = used(a, i, t, pitches.first) * used(b, t, j, pitches.second);
-                d.set(i, j, pitches.result, d.get(i, j, pitches.result) + product);
+                sum = sum + used(a, i, t, pitches.first) * used(b, t, j, pitches.second);
+                d.set(i, j, pitches.result, sum);
+            }
+        }
+    }
+    return ZELM_OK;
+}
+
+// The same for a small order: where no entry is null, none is tested where it is used.
+template <unsigned entries, typename Operand>
+ZELM_INLINE bool anyIsNull(const Operand &operand) {
+    ZELM_UNROLL
+    for (unsigned e = 0; e < entries; ++e)
+        if (operand.elementIsNull(e))
+            return true;
+    return false;
+}
+
+template <unsigned N, typename A, typename B, typename T>
+ZELM_INLINE ZelmStatus accumulateTested(const A &a, const B &b, const Table<T> &d) {
+    if (anyIsNull<N * N>(a) || anyIsNull<N * N>(b) || anyIsNull<N * N>(d))
+        return accumulateTested(a, b, d, Bounds{N, N, N}, Pitches{N, N, N});
+    for (unsigned i = 0; i < N; ++i) {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j) {
+            T sum = 0;
+            d.set(i, j, N, sum);
+            ZELM_UNROLL
+            for (unsigned t = 0; t < N; ++t) {
+                sum = sum + used(a, i, t, N) * used(b, t, j, N);
+                d.set(i, j, N, sum);
             }
         }
     }
@@ -69,7 +93,7 @@ ZELM_INLINE T plus(T sum, const Z &z, std::uint32_t i) {
         return sum;
 }
 
-template <bool livesInDst, typename A, typename X, typename Z, typename D>
+template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE void accumulateVector(const A &a, const X &x, const Z &z, const D &d, std::uint32_t rows,
                                   std::uint32_t terms, std::uint32_t pitch) {
     using T = typename D::Element;
@@ -77,14 +101,11 @@ ZELM_INLINE void accumulateVector(const A &a, const X &x, const Z &z, const D &d
         T sum = 0;
         d.set(i, sum);
         for (std::uint32_t t = 0; t < terms; ++t) {
-            const T product = used(a, i, t, pitch) * x.get(t);
-            if constexpr (livesInDst)
-                sum = d.get(i);
-            sum = sum + product;
+            sum = sum + used(a, i, t, pitch) * x.get(t);
             d.set(i, sum);
         }
         if constexpr (kAdds<Z>)
-            d.set(i, d.get(i) + z.get(i));
+            d.set(i, sum + z.get(i));
     }
 }
 
@@ -101,28 +122,38 @@ ZELM_INLINE void accumulateVectorUnrolled(const A &a, const X &x, const Z &z, co
             sum = sum + used(a, i, t, N) * x.get(t);
             d.set(i, sum);
         }
-        d.set(i, sum + z.get(i));
+        if constexpr (kAdds<Z>)
+            d.set(i, sum + z.get(i));
     }
 }
 
 // Mul tests src1's entry ahead of src2's, Gaxpy the other way round: a null one of either ends the call
 // alike.
 template <typename A, typename X, typename Z, typename T>
-ZELM_INLINE ZelmStatus accumulateVectorTested(const A &a, const X &x, const Z &z, const Table<T> &d,
-                                              std::uint32_t rows, std::uint32_t terms, std::uint32_t pitch) {
+ZELM_NOINLINE ZelmStatus accumulateVectorTested(A a, X x, Z z, Table<T> d, std::uint32_t rows,
+                                                std::uint32_t terms, std::uint32_t pitch) {
     for (std::uint32_t i = 0; i < rows; ++i) {
         if (z.elementIsNull(i) || d.elementIsNull(i))
             return ZELM_ERR_NULL_PTR;
-        d.set(i, T{0});
+        T sum = 0;
+        d.set(i, sum);
         for (std::uint32_t t = 0; t < terms; ++t) {
             if (a.elementIsNull(usedEntry(a, i, t, pitch)) || x.elementIsNull(t))
                 return ZELM_ERR_NULL_PTR;
-            const T product = used(a, i, t, pitch) * x.get(t);
-            d.set(i, d.get(i) + product);
+            sum = sum + used(a, i, t, pitch) * x.get(t);
+            d.set(i, sum);
         }
         if constexpr (kAdds<Z>)
-            d.set(i, d.get(i) + z.get(i));
+            d.set(i, sum + z.get(i));
     }
+    return ZELM_OK;
+}
+
+template <unsigned N, typename A, typename X, typename Z, typename T>
+ZELM_INLINE ZelmStatus accumulateVectorTested(const A &a, const X &x, const Z &z, const Table<T> &d) {
+    if (anyIsNull<N * N>(a) || anyIsNull<N>(x) || anyIsNull<N>(z) || anyIsNull<N>(d))
+        return accumulateVectorTested(a, x, z, d, N, N, N);
+    accumulateVectorUnrolled<N>(a, x, z, d);
     return ZELM_OK;
 }
 

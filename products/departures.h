@@ -14,7 +14,7 @@ ZELM_INLINE ZelmStatus multiplyByTranspose(const Dense<const T> &a, const Transp
     using B = Transposed<Dense<const T>>;
     if (ZelmStatus status = checkSingle(isWrongSize<Dense<const T>, B>(sizes), a, b, d); status != kProceed)
         return status;
-    accumulateMatrix<false>(a, b, d, Bounds{sizes.height1, sizes.height2, sizes.width2}, Pitches{0, 0, 0});
+    accumulateMatrix(a, b, d, Bounds{sizes.height1, sizes.height2, sizes.width2}, Pitches{0, 0, 0});
     return ZELM_OK;
 }
 

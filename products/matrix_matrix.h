@@ -1,8 +1,8 @@
 // Products of two matrices.
 #pragma once
 
-#include "frame/batch.h"
 #include "frame/plainest.h"
+#include "products/across.h"
 #include "products/matrix_rows.h"
 #include "products/run_time.h"
 
@@ -92,6 +92,15 @@ ZELM_INLINE void multiplyObject(const A &a, const B &b, const D &d) {
     multiplyWith<order, N>(a, holdSecond<N, D>(b), d);
 }
 
+// The same where src2 serves many objects.
+template <InPlaceOf inPlace, Sum order, unsigned N, typename A, typename B, typename Held, typename D>
+ZELM_INLINE void multiplyByHeld(const A &a, const B &b, const Held &held, const D &d) {
+    if (!inPlace.first && beginsAt(a, d))
+        multiplyAnew<order, N>(a, b, d);
+    else
+        multiplyWith<order, N>(a, held, d);
+}
+
 // ---- single objects
 
 template <typename D>
@@ -120,7 +129,7 @@ ZELM_INLINE ZelmStatus accumulateSingle(const A &a, const B &b, const D &d, Boun
         if (productIsApart(a, b, d, bounds, pitches))
             multiplyApart(a, b, d, bounds, pitches);
         else
-            accumulateMatrix<false>(a, b, d, bounds, pitches);
+            accumulateMatrix(a, b, d, bounds, pitches);
         return ZELM_OK;
     }
 }
@@ -141,7 +150,7 @@ ZELM_INLINE ZelmStatus multiplySingle(const A &a, const B &b, const D &d, FixedS
     if (ZelmStatus status = checkSingle(false, a, b, d); status != kProceed)
         return status;
     if constexpr (D::isTable)
-        return accumulateTested(a, b, d, Bounds{N, N, N}, Pitches{N, N, N});
+        return accumulateTested<N>(a, b, d);
     else
         multiplyObject<kInPlace<A, B, D, N>, kMatrixSum<A, B, typename D::Element, N>, N>(a, b, d);
     return ZELM_OK;
@@ -166,61 +175,47 @@ ZELM_INLINE ZelmStatus multiplyArray(const A &a, const B &b, const D &d, MatrixS
         a, b, d);
 }
 
-// P: the same element of successive objects is adjacent, so that packs of them need no shuffle.
-template <unsigned N, typename S>
-struct Planes {
-    const S &operand;
-    template <typename V>
-    ZELM_INLINE V get(As<V>, std::uint32_t k, std::uint32_t i, std::uint32_t j) const {
-        if constexpr (kIsArray<S>) {
-            const auto object = operand.object(k);
-            return loadAs<V>(kIsTransposed<S> ? object.address(j, i, N) : object.address(i, j, N));
-        } else {
-            return spread<V>(used(operand, i, j, N));
-        }
-    }
-};
-
-template <unsigned N, typename V, typename A, typename B, typename T>
-ZELM_INLINE void multiplyPlanes(As<V> pack, const Planes<N, A> &a, const Planes<N, B> &b,
-                                const PackedTableArray<T> &d, std::uint32_t k) {
+// One product of a group. Rows of src1 and of dst one after the other: there are registers for no more.
+template <unsigned N, typename V, typename A, typename B, typename D>
+ZELM_INLINE void multiplyAcross(As<V>, const A &a, const B &b, const D &d, std::uint32_t k) {
     V second[N][N];
     ZELM_UNROLL
     for (unsigned t = 0; t < N; ++t)
-        ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        second[t][j] = b.get(pack, k, t, j);
+        b.loadRowOf(k, t, second[t]);
     for (unsigned i = 0; i < N; ++i) {
-        V row[N];
-        ZELM_UNROLL
-        for (unsigned t = 0; t < N; ++t)
-            row[t] = a.get(pack, k, i, t);
+        V row[N], result[N];
+        a.loadRowOf(k, i, row);
         ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j) {
-            V sum = row[0] * second[0][j];
+            result[j] = row[0] * second[0][j];
             ZELM_UNROLL
             for (unsigned t = 1; t < N; ++t)
-                sum = sum + row[t] * second[t][j];
-            storePack(d.object(k).address(i, j, N), sum);
+                result[j] = result[j] + row[t] * second[t][j];
         }
+        storeRow<N>(d, k, i, result);
     }
 }
 
-// `inPlace` is that of the called form. One instance serves P, and PS2 where its objects are adjacent.
-template <InPlaceOf inPlace, typename A, typename B, typename D, unsigned N>
-ZELM_NOINLINE ZelmStatus multiplyByPlanes(A a, B b, D d, FixedSizes<N>, std::uint32_t count) {
-    const Planes<N, A> first{a};
-    const Planes<N, B> second{b};
+// Tables: in P packs need no shuffle, and in PS2 gathering them takes less than the arithmetic that is saved.
+// `inPlace` is that of the called form.
+template <InPlaceOf inPlace, unsigned N, typename A, typename B, typename D>
+ZELM_NOINLINE ZelmStatus multiplyTables(A a, B b, D d, std::uint32_t count) {
+    const AcrossObjects<N, N, A> first(a);
+    const AcrossObjects<N, N, B> second(b);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
+        if constexpr (kIsArray<B> || D::isSideBySide)
+            multiplyObject<inPlace, Sum::Chain, N>(a.object(k), b.object(k), d.object(k));
+        else
+            multiplyByHeld<inPlace, Sum::Chain, N>(a.object(k), b,
+                                                   HeldElements<typename D::Element, N>(second), d.object(k));
         return ZELM_OK;
     };
     const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        multiplyPlanes(pack, first, second, d, k);
+        multiplyAcross<N>(pack, first, second, d, k);
         return true;
     };
-    return forEachInGroups<kProductKernels>(count, NoBuffer(), group, one, writes(d, N, N), reads(a, N, N),
-                                            reads(b, N, N));
+    return forEachInGroups<productGroupingOf<D>(true)>(count, NoBuffer(), group, one, writes(d, N, N),
+                                                       reads(a, N, N), reads(b, N, N));
 }
 
 // Inside one object after the other, which is as fast as across where a row fills a pack, and faster where
@@ -238,12 +233,7 @@ ZELM_INLINE ZelmStatus multiplyOneByOne(const A &a, const B &b, const D &d, Fixe
         // An invariant src2 is read once, ahead of the objects.
         const auto held = holdSecond<N, std::remove_cvref_t<decltype(d.object(0))>>(b);
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-            const auto first = a.object(k);
-            const auto result = d.object(k);
-            if (!inPlace.first && beginsAt(first, result))
-                multiplyAnew<Sum::Chain, N>(first, b, result);
-            else
-                multiplyWith<Sum::Chain, N>(first, held, result);
+            multiplyByHeld<inPlace, Sum::Chain, N>(a.object(k), b, held, d.object(k));
             return ZELM_OK;
         };
         return forEachObject(count, one, a, b, d);
@@ -255,10 +245,14 @@ ZELM_INLINE ZelmStatus multiplyFixed(const A &a, const B &b, const D &d, FixedSi
                                      std::uint32_t count) {
     constexpr InPlaceOf inPlace = kInPlace<A, B, D, N>;
     const auto multiply = [&](const auto &first, const auto &second, const auto &result) ZELM_INLINE_LAMBDA {
-        if constexpr (std::remove_cvref_t<decltype(result)>::isSideBySide)
-            return multiplyByPlanes<inPlace>(first, second, result, sizes, count);
-        else
+        if constexpr (std::remove_cvref_t<decltype(result)>::isTable) {
+            const UsedEntries<N, std::remove_cvref_t<decltype(first)>> ofFirst(first);
+            const UsedEntries<N, std::remove_cvref_t<decltype(second)>> ofSecond(second);
+            return multiplyTables<inPlace, N>(asUsed(first, ofFirst), asUsed(second, ofSecond), result,
+                                              count);
+        } else {
             return multiplyOneByOne<inPlace>(first, second, result, sizes, count);
+        }
     };
     return withPlainest(multiply, a, b, d);
 }

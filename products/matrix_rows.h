@@ -247,30 +247,30 @@ ZELM_INLINE Floats4 spreadLane(Floats4 pack) {
     return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pack), lane * 0x55));
 }
 
-// A transposed src1 is read a row at a time, so that a dst in its place is as wrong as it must be.
+template <unsigned i, typename A>
+ZELM_INLINE Floats4 rowOfThrees(const Floats4 (&a)[3], const HeldRows<float, 3> &b) {
+    if constexpr (kIsTransposed<A>)
+        return (spreadLane<i>(a[0]) * b.row[0] + spreadLane<i>(a[1]) * b.row[1]) +
+               spreadLane<i>(a[2]) * b.row[2];
+    else
+        return (spreadLane<0>(a[i]) * b.row[0] + spreadLane<1>(a[i]) * b.row[1]) +
+               spreadLane<2>(a[i]) * b.row[2];
+}
+
 template <typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Dense<float> &d) {
-    const auto times = [&](Floats4 row) ZELM_INLINE_LAMBDA {
-        return (spreadLane<0>(row) * b.row[0] + spreadLane<1>(row) * b.row[1]) +
-               spreadLane<2>(row) * b.row[2];
-    };
-    if constexpr (kIsTransposed<A>) {
+    Floats4 first[3]; // as stored
+    loadThreeRows(static_cast<const Dense<const float> &>(a), first);
+    const Floats4 rows[3] = {rowOfThrees<0, A>(first, b), rowOfThrees<1, A>(first, b),
+                             rowOfThrees<2, A>(first, b)};
+    if (d.rowStride == 12) {
+        storePack(d.start, rows[0]);
+        storePack(d.start + 12, rows[1]);
+        storeThree(d.start + 24, rows[2]);
+    } else {
         ZELM_UNROLL
         for (unsigned i = 0; i < 3; ++i)
-            storeThree(d.rowStart(i), times(threeOfRow(a, i)));
-    } else {
-        Floats4 first[3];
-        loadThreeRows(a, first);
-        const Floats4 rows[3] = {times(first[0]), times(first[1]), times(first[2])};
-        if (d.rowStride == 12) {
-            storePack(d.start, rows[0]);
-            storePack(d.start + 12, rows[1]);
-            storeThree(d.start + 24, rows[2]);
-        } else {
-            ZELM_UNROLL
-            for (unsigned i = 0; i < 3; ++i)
-                storeThree(d.rowStart(i), rows[i]);
-        }
+            storeThree(d.rowStart(i), rows[i]);
     }
 }
 

@@ -17,7 +17,7 @@ ZELM_INLINE ZelmStatus vectorSingle(const A &a, const X &x, const Z &z, const D 
         if (vectorProductIsApart(a, x, z, d, bounds))
             multiplyVectorApart(a, x, z, d, bounds);
         else
-            accumulateVector<false>(a, x, z, d, bounds.rows, bounds.terms, bounds.pitch);
+            accumulateVector(a, x, z, d, bounds.rows, bounds.terms, bounds.pitch);
         return ZELM_OK;
     }
 }
@@ -25,7 +25,7 @@ ZELM_INLINE ZelmStatus vectorSingle(const A &a, const X &x, const Z &z, const D 
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorSingleFixed(const A &a, const X &x, const Z &z, const D &d) {
     if constexpr (D::isTable)
-        return accumulateVectorTested(a, x, z, d, N, N, N);
+        return accumulateVectorTested<N>(a, x, z, d);
     else if constexpr (kAdds<Z> && !D::isDense && N <= 4)
         accumulateVectorUnrolled<N>(a, x, z, d);
     else
@@ -47,32 +47,35 @@ ZELM_INLINE ZelmStatus vectorArray(const A &a, const X &x, const Z &z, const D &
 enum class Way {
     OneByOne,    // inside one object
     HeldColumns, // inside one object, the matrix held as columns
+    HeldVector,  // inside one object, the vector held
     Groups       // across objects
 };
 
 // In the standard and L layouts a row of 4 fills a pack, and 5 and 6 nearly do, so that one matrix for all
 // objects is held by columns in order 4, and in lists, whose addresses are not known ahead, in all; a matrix
 // to each object is faster inside the object. The sums of the other layouts are chains, which groups form
-// without a shuffle where the data lies in planes or rows; strided objects are groups of one. Only transposed
-// matrices of rows, which a group can't load, are left.
-template <unsigned N, bool isDense, typename A, typename D>
+// without a shuffle where the data lies in planes or rows; other strided objects are gathered, or groups of
+// one. Left are transposed matrices of rows, which a group can't load, and the products of strided lists,
+// whose null tests take as long as a group of one gains if nothing is added.
+template <unsigned N, bool isDense, bool adds, typename A, typename X, typename D>
 constexpr Way wayOf() {
     constexpr bool hasRows = decltype(std::declval<const D &>().object(0))::isDense;
-    if (!isDense && (!kGainsByGroups<D> || (hasRows && kIsArray<A> && kIsTransposed<A>)))
+    if (isDense && kIsArray<A>)
+        return D::isList || kIsArray<X> ? Way::OneByOne : Way::HeldVector;
+    if (isDense)
+        return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;
+    if (hasRows ? kIsArray<A> && kIsTransposed<A> : D::isList && !adds)
         return Way::OneByOne;
-    if (!isDense)
-        return Way::Groups;
-    if (kIsArray<A>)
-        return Way::OneByOne;
-    return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;
+    return Way::Groups;
 }
 
-template <unsigned N, typename A, typename D>
-ZELM_INLINE bool missesInvariant(const A &a, const D &d, std::uint32_t count) {
+// Whether no result is stored in an invariant operand.
+template <unsigned N, typename S, typename D>
+ZELM_INLINE bool missesInvariant(const S &s, unsigned rows, const D &d, std::uint32_t count) {
     if constexpr (D::isList)
         return true; // what a list's objects do to the matrix is open
     else
-        return count <= kMostObjectsInRange && isUntouched(a, N, N, d, 1, N, count);
+        return count <= kMostObjectsInRange && isUntouched(s, rows, N, d, 1, N, count);
 }
 
 template <unsigned N, typename A, typename X, typename Z, typename D>
@@ -88,15 +91,30 @@ ZELM_INLINE ZelmStatus multiplyByColumns(const A &a, const X &x, const Z &z, con
     return forEachObject(count, one, a, x, z, d);
 }
 
+template <unsigned N, typename A, typename X, typename Z, typename D>
+ZELM_INLINE ZelmStatus multiplyByVector(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
+    const VectorFor<N, A> vector(x);
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        multiplyDenseVector<N>(a.object(k), vector, z.object(k), d.object(k));
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, x, z, d);
+}
+
 // `isDense`: whether the called form is one of the standard and L layouts.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
-    constexpr Way way = wayOf<N, isDense, A, D>();
-    if constexpr (way == Way::Groups)
-        return multiplyInGroups<N, isDense>(a, x, z, d, count);
+    constexpr Way way = wayOf<N, isDense, kAdds<Z>, A, X, D>();
+    if constexpr (way == Way::Groups) {
+        const UsedEntries<N, A> entries(a);
+        return multiplyInGroups<N, isDense>(asUsed(a, entries), x, z, d, count);
+    }
     if constexpr (way == Way::HeldColumns)
-        if (missesInvariant<N>(a, d, count))
+        if (missesInvariant<N>(a, N, d, count))
             return multiplyByColumns<N>(a, x, z, d, count);
+    if constexpr (way == Way::HeldVector)
+        if (missesInvariant<N>(x, 1, d, count))
+            return multiplyByVector<N>(a, x, z, d, count);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;

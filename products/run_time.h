@@ -181,7 +181,7 @@ ZELM_INLINE bool productIsApart(const A &a, const B &b, const D &d, const Bounds
 template <typename A, typename B, typename D>
 ZELM_NOINLINE ZelmStatus multiplyRunTime(A a, B b, D d, Bounds bounds, Pitches pitches, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        accumulateMatrix<kSumLivesInDst<D>>(a.object(k), b.object(k), d.object(k), bounds, pitches);
+        accumulateMatrix(a.object(k), b.object(k), d.object(k), bounds, pitches);
         return ZELM_OK;
     };
     if (!isInReach<D>(bounds, pitches))

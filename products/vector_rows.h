@@ -213,24 +213,36 @@ ZELM_INLINE void multiplyWholeRows(const Dense<const T> &a, const VectorAlongRow
     }
 }
 
+// The vector as a dense object of 4x4 or 6x6 takes it, or as another.
+template <unsigned N, typename A>
+using VectorFor = std::conditional_t<!kIsTransposed<A> && N % 2 == 0, VectorAlongRows<typename A::Element, N>,
+                                     HeldVectorOf<typename A::Element, N>>;
+
+template <unsigned N, typename A, typename T, typename Z, typename D>
+ZELM_INLINE void multiplyDenseVector(const A &a, const VectorAlongRows<T, N> &x, const Z &z, const D &d) {
+    multiplyWholeRows<N>(a, x, z, d);
+}
+
+template <unsigned N, typename A, typename T, typename Z, typename D>
+ZELM_INLINE void multiplyDenseVector(const A &a, const HeldVectorOf<T, N> &x, const Z &z, const D &d) {
+    multiplyRowsOf<N, 0, kIsTransposed<A>>(ReadRows<N, A>{a}, x, z, d);
+}
+
 // `isDense`: whether the called form is one of the standard and L layouts, whose sums have orders of their
 // own.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE void multiplyVectorOnce(const A &a, const X &x, const Z &z, const D &d) {
-    using T = typename D::Element;
-    if constexpr (isDense && !kIsTransposed<A> && N % 2 == 0)
-        multiplyWholeRows<N>(a, VectorAlongRows<T, N>(x), z, d);
-    else if constexpr (isDense)
-        multiplyRowsOf<N, 0, kIsTransposed<A>>(ReadRows<N, A>{a}, HeldVectorOf<T, N>(x), z, d);
+    if constexpr (isDense)
+        multiplyDenseVector<N>(a, VectorFor<N, A>(x), z, d);
     else
-        multiplyVectorHeld<N>(a, HeldVectorOf<T, N>(x).element, d);
+        multiplyVectorHeld<N>(a, HeldVectorOf<typename D::Element, N>(x).element, d);
 }
 
 // In the standard and L layouts dst may be src2, in the others it may not.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE void multiplyVectorObject(const A &a, const X &x, const Z &z, const D &d) {
     if constexpr (kAdds<Z> && !isDense) {
-        accumulateVector<false>(a, x, z, d, N, N, N);
+        accumulateVector(a, x, z, d, N, N, N);
     } else {
         if (!isDense && beginsAt(x, d))
             multiplyVectorAnew<N>(a, x, d);

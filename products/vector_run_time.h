@@ -91,8 +91,8 @@ template <typename A, typename X, typename Z, typename D>
 ZELM_NOINLINE ZelmStatus multiplyVectorsRunTime(A a, X x, Z z, D d, VectorBounds bounds,
                                                 std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        accumulateVector<kSumLivesInDst<D>>(a.object(k), x.object(k), z.object(k), d.object(k), bounds.rows,
-                                            bounds.terms, bounds.pitch);
+        accumulateVector(a.object(k), x.object(k), z.object(k), d.object(k), bounds.rows, bounds.terms,
+                         bounds.pitch);
         return ZELM_OK;
     };
     if (!isInReach<D>(bounds))
