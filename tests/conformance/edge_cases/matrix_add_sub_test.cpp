@@ -223,4 +223,12 @@ TEST(MatrixAddSub, NullEntries) {
     EXPECT_EQ(result, (std::array<float, 18>{0, 0, 0, 0, 0, 0, 0, 0, 0, 7, 7, 7, 7, 7, 7, 7, 7, 7}));
 }
 
+TEST(MatrixAddSub, RowsThatFollowEachOtherMayHaveGapsFromObjectToObject) {
+    // One row of two elements to an object, at the row stride of packed ones.
+    std::array<float, 8> memory{1, 2, 9, 3, 4, 9, 5, 6};
+    float *const m = memory.data();
+    EXPECT_EQ(zelmAdd_mama_32f(m, 3 * f, 2 * f, m, 3 * f, 2 * f, m, 3 * f, 2 * f, 2, 1, 3), ZELM_OK);
+    EXPECT_EQ(memory, (std::array<float, 8>{2, 4, 9, 6, 8, 9, 10, 12}));
+}
+
 } // namespace

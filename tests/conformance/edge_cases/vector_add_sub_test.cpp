@@ -129,4 +129,11 @@ TEST(VectorAddSub, PartialOverlapGivesWhatThePlainLoopGives) {
         EXPECT_EQ(vector[i], static_cast<float>(i + 1));
 }
 
+TEST(VectorAddSub, ObjectsThatLieAcrossEachOtherAreDoneOneByOne) {
+    // Each object of four elements begins at the middle of the one before it.
+    std::array<float, 10> memory{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    EXPECT_EQ(zelmAdd_vac_32f_4x1(memory.data(), 8, 1, memory.data(), 8, 3), ZELM_OK);
+    EXPECT_EQ(memory, (std::array<float, 10>{2, 3, 5, 6, 7, 8, 8, 9, 9, 10}));
+}
+
 } // namespace
