@@ -94,10 +94,10 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 
 // ---- one object
 
-template <typename Op, typename A, typename B, typename T, typename Shape>
+template <typename Op, unsigned mostInline = kMostInline, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
     if constexpr (Shape::isFixed)
-        shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
+        shortRun<Op, T, shape.elements(), mostInline>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
     else
         run<Op, T>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
 }
@@ -126,11 +126,12 @@ ZELM_INLINE bool areGapless(const A &a, const B &b, const D &d, Shape shape) {
            rowsAreGapless(d, shape);
 }
 
+// A single object: no loop keeps anything ahead, and a call would need a frame.
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
     if constexpr (kRunsGapless<A, B, Shape>)
         if (areGapless(a, b, d, shape))
-            return gaplessObject<Op>(a, b, d, shape);
+            return gaplessObject<Op, ~0u>(a, b, d, shape);
     objectByRows<Op>(a, b, d, shape);
 }
 
@@ -142,8 +143,10 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
     using T = typename D::Element;
     if constexpr (!D::isList && !kIsTransposed<A> && !kIsTransposed<B>) {
         constexpr bool holdsMatrix = kIsHeldMatrix<A> || kIsHeldMatrix<B>;
-        if ((!holdsMatrix || count >= kHeldMatrixCount) && isGapless(a, shape) && isGapless(b, shape) &&
-            isGapless(d, shape)) {
+        // Expected, so that the loop of the run begins where loops do.
+        if (__builtin_expect((!holdsMatrix || count >= kHeldMatrixCount) && isGapless(a, shape) &&
+                                 isGapless(b, shape) && isGapless(d, shape),
+                             1)) {
             run<Op, T>(inputOfAll(a), inputOfAll(b), d.start, count * shape.elements());
             return ZELM_OK;
         }

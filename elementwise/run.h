@@ -263,7 +263,7 @@ ZELM_NOINLINE __attribute__((cold)) void overlappingRun(A a, B b, Address dst, A
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
 }
 
-template <typename Op, typename T, unsigned N, typename A, typename B>
+template <typename Op, typename T, unsigned N, unsigned mostInline = kMostInline, typename A, typename B>
 ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     if constexpr (N >= kLanes<T>) {
         constexpr unsigned widest = N * sizeof(T) >= kShortRunBytes ? kShortRunBytes
@@ -271,10 +271,10 @@ ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
                                                                     : kBlockBytes;
         if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest))
             return shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
-        if constexpr (N > kMostInline)
+        if constexpr (N > mostInline)
             return overlappingRun<Op, T, A, B>(a, b, dst, N);
     }
-    if constexpr (N < kLanes<T> || N <= kMostInline) {
+    if constexpr (N < kLanes<T> || N <= mostInline) {
         ZELM_UNROLL
         for (unsigned j = 0; j < N; ++j)
             store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
