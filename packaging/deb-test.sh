@@ -75,7 +75,7 @@ older_packages
 echo "==> $machine: install, upgrade, purge"
 if [ "$machine" = amd64 ]; then
     new_tree own amd64,i386
-    life_of own libzelmx64-4 libzelm-dev:amd64 python3-zelm libzelm-doc libzelmt7:i386 libzelm-dev:i386
+    life_of own libzelmx64-4 libzelm-dev:amd64 zelm-selftest python3-zelm libzelm-doc libzelmt7:i386 libzelm-dev:i386
 else
     new_tree own i386
     life_of own libzelmt7 libzelm-dev
