@@ -581,6 +581,19 @@ private:
                static_cast<std::uintptr_t>(static_cast<std::intptr_t>(o.origin + offset));
     }
 
+    // `shift`, or one near it by which no entry of the table can come to null. Slabs begin at whole pages,
+    // somewhere: whether an entry is null, and with it the digest, would depend on where.
+    std::int32_t shiftWithoutNulls(const Placement &o, std::int32_t shift) const {
+        constexpr std::uintptr_t page = 4096;
+        const auto mayBeNull = [&](std::int64_t entry) {
+            const auto distance = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(shift));
+            return (address(o, entry) - distance) % page == 0;
+        };
+        while (std::any_of(o.entries.begin(), o.entries.end(), mayBeNull))
+            shift = static_cast<std::int32_t>(static_cast<std::uint32_t>(shift) + 1);
+        return shift;
+    }
+
     void passOperands() {
         const bool oneTable = random_.chance(50);
         const auto common = static_cast<std::int32_t>(8 * random_.between(-64, 64));
@@ -609,7 +622,7 @@ private:
                 p.base = address(o, 0);
                 continue;
             }
-            p.shift = shiftKind == 0 ? 0 : shiftKind == 1 ? small : anyShift;
+            p.shift = shiftKind == 0 ? 0 : shiftKind == 1 ? small : shiftWithoutNulls(o, anyShift);
             if (relation_ == Relation::Interleaved && o.perObject)
                 p.shift = common + static_cast<std::int32_t>(o.origin - case_.operands[firstTable()].origin);
             if (n > 0 && oneTable && sharesTable(o)) {
