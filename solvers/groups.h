@@ -11,12 +11,28 @@ namespace zelm::solvers {
 
 using namespace zelm::frame;
 
+// Positions at most this far apart: so many of them as one object has stay away from where an address would
+// wrap.
+constexpr Address kMostApart = Address{1} << 24;
+
+// Whether each of a table's positions lies behind the one before it, as most tables have them: one sum of
+// bits shows all gaps.
+template <unsigned entries, typename T>
+ZELM_INLINE bool positionsAscend(const Table<T> &d) {
+    Address gaps = 0;
+    ZELM_UNROLL
+    for (unsigned e = 1; e < entries; ++e)
+        gaps |= addressOf(d.table[e]) - addressOf(d.table[e - 1]) - sizeof(T);
+    return gaps < kMostApart;
+}
+
 // Whether the elements of one result vector are distinct; those of an array's objects all are if those of the
 // first are.
 template <unsigned N, typename D>
 ZELM_INLINE bool resultIsDistinct(const D &d) {
     if constexpr (D::isTable)
-        return positionsAreApart(d.object(0), N, sizeof(typename D::Element));
+        return positionsAscend<N>(d.object(0)) ||
+               positionsAreApart(d.object(0), N, sizeof(typename D::Element));
     else
         return span(d.elemStride) >= std::int64_t{sizeof(typename D::Element)};
 }
@@ -27,11 +43,10 @@ template <unsigned N, typename D>
 ZELM_INLINE bool matrixIsDistinct(const D &d) {
     using T = typename D::Element;
     if constexpr (D::isTable) {
-        return positionsAreApart(d.object(0), N * N, sizeof(T));
+        return positionsAscend<N * N>(d) || positionsAreApart(d, N * N, sizeof(T));
     } else {
-        constexpr Address most = Address{1} << 24;
         const Address row = (N - 1) * d.elemStride + sizeof(T);
-        return d.elemStride - sizeof(T) < most && d.rowStride - row < most;
+        return d.elemStride - sizeof(T) < kMostApart && d.rowStride - row < kMostApart;
     }
 }
 
@@ -227,19 +242,21 @@ ZELM_INLINE void storeLower(const Array &array, std::uint32_t k, const V (&in)[N
 template <unsigned N, typename T, typename S>
 ZELM_INLINE void readMatrix(const S &s, T (&out)[N][N]) {
     ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
+    for (unsigned i = 0; i < N; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        out[i][j] = s.get(i, j, N);
+        for (unsigned j = 0; j < N; ++j)
+            out[i][j] = s.get(i, j, N);
+    }
 }
 
 template <unsigned N, typename T, typename D>
 ZELM_INLINE void writeMatrix(const D &d, const T (&in)[N][N]) {
     ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
+    for (unsigned i = 0; i < N; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        d.set(i, j, N, in[i][j]);
+        for (unsigned j = 0; j < N; ++j)
+            d.set(i, j, N, in[i][j]);
+    }
 }
 
 } // namespace zelm::solvers

@@ -3,27 +3,12 @@
 
 #include "solvers/groups.h"
 #include "solvers/lu_kernels.h"
+#include "solvers/tested_matrix.h"
 
 namespace zelm::solvers {
 
 ZELM_INLINE Address pivotAddress(const std::uint32_t *pivotIndex, Address i) {
     return addressOf(pivotIndex) + i * sizeof(std::uint32_t);
-}
-
-// The multiplier of a row and its negation. Both are defined in 64-bit float and rounded to T; for 32-bit
-// float the quotient in T has the same bits (see luFactor), and so has its negation unless it underflows to
-// zero.
-template <typename T>
-struct Multiplier {
-    T value, negated;
-};
-
-template <typename T>
-ZELM_INLINE Multiplier<T> luMultiplier(T element, T pivot) {
-    const T value = element / pivot;
-    if (sizeof(T) == 4 && value == 0 && element != 0)
-        return {value, static_cast<T>(0.0 - static_cast<double>(element) / static_cast<double>(pivot))};
-    return {value, T{0} - value};
 }
 
 // One matrix, factored in d as the definition has it, whatever overlaps.
@@ -69,10 +54,9 @@ struct LuThroughDst {
     }
 };
 
-template <typename S, typename D, typename Size>
-ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, Size size) {
+template <typename S, typename D>
+ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, std::uint32_t n) {
     using T = typename D::Element;
-    const std::uint32_t n = size.value();
     const LuThroughDst<D> lu = {d, pivots, n};
     for (std::uint32_t i = 0; i < n; ++i)
         for (std::uint32_t j = 0; j < n; ++j)
@@ -89,159 +73,46 @@ ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D 
     return lu.isPivot(lu.element(n - 1, n - 1)) ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
-// One matrix whose rows lie in whole packs of a local copy: a row is updated a pack at a time, with the lanes
-// up to the pivot's column left as they are. Writes the local copy and the order of its rows; the caller
-// stores them.
-template <typename T, unsigned N>
-struct LuRows {
-    static constexpr unsigned packs = (N + kLanes<T> - 1) / kLanes<T>;
-    static constexpr unsigned width = packs * kLanes<T>;
-    alignas(kBlockBytes) T element[N][width];
+// Whether a matrix can be factored in a local copy: its elements in d are distinct, and pivotIndex lies apart
+// from them.
+template <unsigned N, typename D>
+ZELM_INLINE bool mayFactorInCopy(const D &d, Address pivots) {
+    constexpr Address size = sizeof(typename D::Element), last = N - 1;
+    if constexpr (D::isTable) {
+        const Address first = d.position(0), bytes = d.position(N * N - 1) - first + size;
+        return positionsAscend<N * N>(d) && areDisjoint(pivots, N * 4, first, bytes);
+    } else {
+        const Address bytes = last * (d.rowStride + d.elemStride) + size;
+        return matrixIsDistinct<N>(d) && areDisjoint(pivots, N * 4, d.start, bytes);
+    }
+}
+
+template <unsigned N, typename S, typename D>
+ZELM_INLINE ZelmStatus luDecompInCopy(const S &s, Address pivots, const D &d) {
+    typename D::Element a[N][N];
     std::uint32_t order[N];
-};
-
-// All bits of the lanes behind column k, none of the others.
-template <typename T>
-struct LaneMasks {
-    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    Bits bits[2 * kLanes<T>];
-};
-template <typename T>
-inline constexpr LaneMasks<T> kLaneMasks = [] {
-    LaneMasks<T> masks = {};
-    for (unsigned lane = kLanes<T>; lane < 2 * kLanes<T>; ++lane)
-        masks.bits[lane] = ~typename LaneMasks<T>::Bits{0};
-    return masks;
-}();
-
-// b, but a in the lanes from `first` on.
-template <typename V>
-ZELM_INLINE V onlyFrom(unsigned first, V a, V b) {
-    using T = ElementOf<V>;
-    const V mask = loadPack<T>(addressOf(kLaneMasks<T>.bits + kLanes<T> - first));
-    return bitOr(bitAnd(mask, a), (V)(~(BitsOf<V>)mask & (BitsOf<V>)b));
-}
-
-// The row of largest magnitude in column k takes place k.
-template <typename T, unsigned N>
-ZELM_INLINE std::uint32_t choosePivotRow(LuRows<T, N> &rows, std::uint32_t k) {
-    auto &order = rows.order;
-    T best = magnitude(rows.element[order[k]][k]);
-    std::uint32_t bestPos = k;
-    ZELM_UNROLL
-    for (std::uint32_t j = k + 1; j < N; ++j) {
-        const T value = magnitude(rows.element[order[j]][k]);
-        const std::uint32_t wins = value > best;
-        best = value > best ? value : best;
-        bestPos ^= (bestPos ^ j) & (0 - wins);
-    }
-    const std::uint32_t pivotRow = order[bestPos];
-    order[bestPos] = order[k];
-    order[k] = pivotRow;
-    return pivotRow;
-}
-
-template <typename T, unsigned N>
-ZELM_INLINE void eliminateRows(LuRows<T, N> &rows, std::uint32_t k, std::uint32_t pivotRow, T pivot) {
-    constexpr unsigned lanes = kLanes<T>;
-    const unsigned first = (k + 1) / lanes; // the first pack that holds a column behind k
-    const unsigned ahead = (k + 1) % lanes; // its lanes that do not
-    ZELM_UNROLL
-    for (std::uint32_t j = k + 1; j < N; ++j) {
-        T *row = rows.element[rows.order[j]];
-        const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
-        const Pack<T> negated = spread<Pack<T>>(multiplier.negated);
-        ZELM_UNROLL
-        for (unsigned p = first; p < LuRows<T, N>::packs; ++p) {
-            const Address at = addressOf(row + p * lanes);
-            const Pack<T> old = loadPack<T>(at);
-            const Pack<T> updated =
-                loadPack<T>(addressOf(rows.element[pivotRow] + p * lanes)) * negated + old;
-            storePack(at, p == first ? onlyFrom(ahead, updated, old) : updated);
-        }
-        row[k] = multiplier.value;
-    }
-}
-
-template <typename T, unsigned N>
-ZELM_NOINLINE ZelmStatus luFactorRows(LuRows<T, N> &rows) {
-    constexpr T threshold = static_cast<T>(kLuThreshold);
-    ZELM_UNROLL
-    for (std::uint32_t i = 0; i < N; ++i)
-        rows.order[i] = i;
-    ZELM_UNROLL
-    for (std::uint32_t k = 0; k + 1 < N; ++k) {
-        const std::uint32_t pivotRow = choosePivotRow(rows, k);
-        const T pivot = rows.element[pivotRow][k];
-        if (!(magnitude(pivot) >= threshold))
-            return ZELM_ERR_DIV_BY_ZERO;
-        eliminateRows(rows, k, pivotRow, pivot);
-    }
-    return magnitude(rows.element[rows.order[N - 1]][N - 1]) >= threshold ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
-}
-
-// The first N elements in the lanes of a pack, the others zero.
-template <typename T, unsigned N>
-ZELM_INLINE Pack<T> loadFirst(Address from) {
-    constexpr Address third = 2 * sizeof(T);
-    if constexpr (N == 1)
-        return inFirstLane(load<T>(from));
-    else if constexpr (N == 2)
-        return loadTwo(from);
-    else
-        return _mm_movelh_ps(loadTwo(from), inFirstLane(load<T>(from + third)));
-}
-
-// One row of N elements to a local row of whole packs, and back.
-template <typename T, unsigned N>
-ZELM_INLINE void loadLocalRow(Address local, Address from) {
-    constexpr unsigned whole = N / kLanes<T>;
-    ZELM_UNROLL
-    for (unsigned p = 0; p < whole; ++p)
-        storePack(local + p * kBlockBytes, loadPack<T>(from + p * kBlockBytes));
-    if constexpr (N % kLanes<T> != 0)
-        storePack(local + whole * kBlockBytes, loadFirst<T, N % kLanes<T>>(from + whole * kBlockBytes));
-}
-
-template <typename T, unsigned N>
-ZELM_INLINE void storeLocalRow(Address to, Address local) {
-    constexpr unsigned whole = N / kLanes<T>;
-    ZELM_UNROLL
-    for (unsigned p = 0; p < whole; ++p)
-        storePack(to + p * kBlockBytes, loadPack<T>(local + p * kBlockBytes));
-    ZELM_UNROLL
-    for (unsigned j = whole * kLanes<T>; j < N; ++j)
-        copyElement<T>(to + j * sizeof(T), local + j * sizeof(T));
-}
-
-template <typename T, unsigned N>
-ZELM_INLINE ZelmStatus luDecompDense(const Dense<const T> &s, Address pivots, const Dense<T> &d) {
-    LuRows<T, N> rows;
+    readMatrix(s, a);
+    const bool isFactored = luFactorAlone(a, order);
+    writeMatrix(d, a);
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-        loadLocalRow<T, N>(addressOf(rows.element[i]), s.rowStart(i));
-    const ZelmStatus status = luFactorRows(rows);
-    ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        storeLocalRow<T, N>(d.rowStart(i), addressOf(rows.element[i]));
-    ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        store(pivots + i * 4, rows.order[i]);
-    return status;
+        store(pivots + i * 4, order[i]);
+    return isFactored ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
-// One matrix, factored into d. Adjacent rows of a fixed size are factored in a local copy, unless the rows of
-// d lie over each other or over pivotIndex.
+// One matrix, factored into d.
 template <typename S, typename D, typename Size>
 ZELM_INLINE ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Size size) {
-    using T = typename D::Element;
-    if constexpr (D::isDense && Size::fixed != 0) {
-        constexpr unsigned N = Size::fixed;
-        if (static_cast<std::int32_t>(d.rowStride) >= static_cast<std::int32_t>(N * sizeof(T)) &&
-            areDisjoint(pivots, N * 4, d.start, d.rowStride * (N - 1) + N * sizeof(T)))
-            return luDecompDense<T, N>(s, pivots, d);
-    }
-    return luDecompThroughDst(s, pivots, d, size);
+    if constexpr (Size::fixed != 0)
+        if (mayFactorInCopy<Size::fixed>(d, pivots))
+            return luDecompInCopy<Size::fixed>(s, pivots, d);
+    return luDecompThroughDst(s, pivots, d, size.value());
+}
+
+// The same as a real function, which what arrays leave over shares.
+template <unsigned N, typename S, typename D>
+ZELM_NOINLINE ZelmStatus luDecompAlone(const S &s, Address pivots, const D &d) {
+    return luDecompObject(s, pivots, d, FixedSize<N>());
 }
 
 // The order of the rows of a group, from numbers in the element type to the pivotIndex of each object.
@@ -307,8 +178,7 @@ template <unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, const D &d,
                                          std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return luDecompObject(s.object(k), pivotAddress(pivotIndex, Address{k} * N), d.object(k),
-                              FixedSize<N>());
+        return luDecompAlone<N>(s.object(k), pivotAddress(pivotIndex, Address{k} * N), d.object(k));
     };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return luDecompGroups<typename decltype(pack)::Pack, N>(s, pivotIndex, d, k, end);
@@ -322,8 +192,7 @@ ZELM_NOINLINE ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, 
 
 template <typename S, typename D, typename Size>
 ZELM_INLINE ZelmStatus luDecompSingle(const S &s, std::uint32_t *pivotIndex, const D &d, Size size) {
-    const Address n = size.value();
-    if (ZelmStatus status = checkSingleWhole(size.isZero(), tested(s, n * n), tested(d, n * n),
+    if (ZelmStatus status = checkSingleWhole(size.isZero(), testedMatrix(s, size), testedMatrix(d, size),
                                              tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;

@@ -52,7 +52,50 @@ ZELM_INLINE Mask<V> eliminateColumn(V (&a)[N][N], unsigned k) {
     return fails;
 }
 
+// The row of largest magnitude in column k takes place k.
+template <typename T, unsigned N>
+ZELM_INLINE std::uint32_t choosePivotRow(const T (&a)[N][N], std::uint32_t (&order)[N], unsigned k) {
+    T best = magnitude(a[order[k]][k]);
+    std::uint32_t bestPos = k;
+    ZELM_UNROLL
+    for (std::uint32_t j = k + 1; j < N; ++j) {
+        const T value = magnitude(a[order[j]][k]);
+        // Nobody can guess it: what a branch would save is lost where it is taken wrongly.
+        bestPos = __builtin_expect_with_probability(value > best, 1, 0.5) ? j : bestPos;
+        best = value > best ? value : best;
+    }
+    const std::uint32_t pivotRow = order[bestPos];
+    order[bestPos] = order[k];
+    order[k] = pivotRow;
+    return pivotRow;
+}
+
 } // namespace
+
+template <typename T, unsigned N>
+bool luFactorAlone(T (&a)[N][N], std::uint32_t (&order)[N]) {
+    constexpr T threshold = static_cast<T>(kLuThreshold);
+    ZELM_UNROLL
+    for (unsigned i = 0; i < N; ++i)
+        order[i] = i;
+    ZELM_UNROLL
+    for (unsigned k = 0; k < N - 1; ++k) {
+        const T(&pivotRow)[N] = a[choosePivotRow(a, order, k)];
+        const T pivot = pivotRow[k];
+        if (!(magnitude(pivot) >= threshold))
+            return false;
+        ZELM_UNROLL
+        for (unsigned j = k + 1; j < N; ++j) {
+            T(&row)[N] = a[order[j]];
+            const Multiplier<T> multiplier = luMultiplier(row[k], pivot);
+            row[k] = multiplier.value;
+            ZELM_UNROLL
+            for (unsigned c = k + 1; c < N; ++c)
+                row[c] = pivotRow[c] * multiplier.negated + row[c];
+        }
+    }
+    return magnitude(a[order[N - 1]][N - 1]) >= threshold;
+}
 
 template <typename V, unsigned N>
 bool luFactor(V (&a)[N][N], V (&order)[N]) {
@@ -71,7 +114,9 @@ bool luFactor(V (&a)[N][N], V (&order)[N]) {
     return !anyLane(fails | notGreaterEqual(magnitude(a[N - 1][N - 1]), threshold));
 }
 
-#define ZELM_INSTANTIATE(V, N) template bool luFactor<V, N>(V(&)[N][N], V(&)[N]);
-ZELM_PACKS(ZELM_INSTANTIATE)
+#define ZELM_INSTANTIATE_ALONE(T, N) template bool luFactorAlone<T, N>(T(&)[N][N], std::uint32_t(&)[N]);
+#define ZELM_INSTANTIATE_GROUP(V, N) template bool luFactor<V, N>(V(&)[N][N], V(&)[N]);
+ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
+ZELM_PACKS(ZELM_INSTANTIATE_GROUP)
 
 } // namespace zelm::solvers

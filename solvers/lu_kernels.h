@@ -10,8 +10,29 @@ using namespace zelm::frame;
 // A pivot below this counts as zero, in both element types.
 constexpr double kLuThreshold = 0x1p-23;
 
-// Factors a in place by the elimination of luDecompThroughDst, but with rows really exchanged: row i of the
-// result is row order[i], a number in the element type, of the matrix. False where a lane needs the
+// The multiplier of a row and its negation. Both are defined in 64-bit float and rounded to T; for 32-bit
+// float the quotient in T has the same bits (see luFactor), and so has its negation unless it underflows to
+// zero.
+template <typename T>
+struct Multiplier {
+    T value, negated;
+};
+
+template <typename T>
+ZELM_INLINE Multiplier<T> luMultiplier(T element, T pivot) {
+    const T value = element / pivot;
+    if (sizeof(T) == 4 && value == 0 && element != 0)
+        return {value, static_cast<T>(0.0 - static_cast<double>(element) / static_cast<double>(pivot))};
+    return {value, T{0} - value};
+}
+
+// Factors one matrix in place, its rows left where they are: row order[i] plays the part of row i. False
+// where a pivot fails: the contents are then those of that moment.
+template <typename T, unsigned N>
+bool luFactorAlone(T (&a)[N][N], std::uint32_t (&order)[N]);
+
+// Factors a group in place by the elimination of luDecompThroughDst, but with rows really exchanged: row i of
+// the result is row order[i], a number in the element type, of the matrix. False where a lane needs the
 // elimination one by one, because its pivot fails or because its multiplier is too small for the element
 // type: the contents are then of no use.
 template <typename V, unsigned N>

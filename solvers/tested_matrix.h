@@ -1,6 +1,7 @@
 // One matrix behind a table, whose entries are tested without a loop of their own.
 #pragma once
 
+#include "frame/checks.h"
 #include "frame/shapes.h"
 
 namespace zelm::solvers {
@@ -23,6 +24,32 @@ template <unsigned entries, typename D>
 ZELM_INLINE bool hasNullEntry(const D &d) {
     return !whileTrue(FixedShape<1, entries>{}, [&](std::uint32_t, std::uint32_t entry)
                                                     ZELM_INLINE_LAMBDA { return !d.elementIsNull(entry); });
+}
+
+// As tested(), for the entries of one object: where their number is fixed, they are tested without a loop.
+// The end of a loop is guessed wrong time and again where branches on values, such as those of a search for
+// pivots, come between the calls.
+template <unsigned entries, typename Operand>
+struct TestedAlone {
+    const Operand &operand;
+    ZELM_INLINE bool isNull() const { return operand.isNull(); }
+    ZELM_INLINE bool hasNullEntry() const { return solvers::hasNullEntry<entries>(operand); }
+};
+
+template <typename Size, typename Operand>
+ZELM_INLINE auto testedMatrix(const Operand &matrix, Size size) {
+    if constexpr (Size::fixed == 0)
+        return tested(matrix, Address{size.value()} * size.value());
+    else
+        return TestedAlone<Size::fixed * Size::fixed, Operand>{matrix};
+}
+
+template <typename Size, typename Operand>
+ZELM_INLINE auto testedVector(const Operand &vector, Size size) {
+    if constexpr (Size::fixed == 0)
+        return tested(vector, size.value());
+    else
+        return TestedAlone<Size::fixed, Operand>{vector};
 }
 
 } // namespace zelm::solvers
