@@ -44,8 +44,8 @@ ZELM_INLINE ZelmStatus checkSingle(bool zeroSize, const Operands &...operands) {
 }
 
 // A single object whose table is tested as a whole before anything is computed.
-template <typename... TestedOperands>
-ZELM_INLINE ZelmStatus checkSingleWhole(bool zeroSize, const TestedOperands &...operands) {
+template <typename... Operands>
+ZELM_INLINE ZelmStatus checkSingleWhole(bool zeroSize, const Tested<Operands> &...operands) {
     if (ZelmStatus status = checkSingle(zeroSize, operands...); status != kProceed)
         return status;
     if ((operands.hasNullEntry() || ...))

@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: d is the only work space.
 template <typename A, typename B, typename D>
-ZELM_NOINLINE void choleskySolveThroughDst(const A &a, const B &b, const D &d, std::uint32_t n) {
+ZELM_NOINLINE void choleskySolveThroughDst(A a, B b, D d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         T x = b.get(i);
@@ -27,7 +27,7 @@ ZELM_NOINLINE void choleskySolveThroughDst(const A &a, const B &b, const D &d, s
 // The same for a fixed size, where the elements of d are distinct: what was stored in d is read from
 // registers.
 template <unsigned N, typename A, typename B, typename D>
-ZELM_NOINLINE void choleskySolveInRegisters(const A &a, const B &b, const D &d) {
+ZELM_INLINE void choleskySolveInRegisters(const A &a, const B &b, const D &d) {
     using T = typename D::Element;
     T x[N];
     ZELM_UNROLL
@@ -59,6 +59,12 @@ ZELM_INLINE void choleskySolveObject(const A &a, const B &b, const D &d, Size si
             return choleskySolveInRegisters<N>(a, b, d);
     }
     choleskySolveThroughDst(a, b, d, size.value());
+}
+
+// The same as a real function, which what arrays leave over shares.
+template <typename A, typename B, typename D, typename Size>
+ZELM_NOINLINE void choleskySolveAlone(A a, B b, D d, Size size) {
+    choleskySolveObject(a, b, d, size);
 }
 
 // Systems by their Cholesky factors: see systems.h.
@@ -110,7 +116,7 @@ ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d
         const auto right = b.object(k);
         const auto target = d.object(k);
         if (!matrix.isNull() && !right.isNull() && !target.isNull())
-            choleskySolveObject(matrix, right, target, size);
+            choleskySolveAlone(matrix, right, target, size);
         return ZELM_OK;
     };
     if constexpr (Size::fixed != 0) {

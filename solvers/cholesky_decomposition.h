@@ -20,7 +20,7 @@ ZELM_INLINE T choleskyReciprocal(T pivot) {
 
 // One matrix, as the definition has it, whatever overlaps.
 template <typename S, typename D>
-ZELM_NOINLINE ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus choleskyThroughDst(S s, D d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         for (std::uint32_t j = 0; j < i; ++j) {
@@ -42,7 +42,7 @@ ZELM_NOINLINE ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_
 // The same for a fixed size, where the elements of d are distinct: what was stored in d is read from
 // registers.
 template <unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus choleskyInRegisters(const S &s, const D &d) {
+ZELM_INLINE ZelmStatus choleskyInRegisters(const S &s, const D &d) {
     using T = typename D::Element;
     T l[N][N];
     ZELM_UNROLL
@@ -76,20 +76,26 @@ ZELM_INLINE ZelmStatus choleskyOfOrder(const S &s, const D &d) {
                                        : choleskyThroughDst(source, target, N);
 }
 
+// The same as a real function, which run-time sizes and what arrays leave over share.
+template <unsigned N, typename S, typename D>
+ZELM_NOINLINE ZelmStatus choleskyAlone(S s, D d) {
+    return choleskyOfOrder<N>(s, d);
+}
+
 template <typename S, typename D, typename Size>
 ZELM_INLINE ZelmStatus choleskyObject(const S &s, const D &d, Size size) {
     if constexpr (Size::fixed != 0) {
-        return choleskyOfOrder<Size::fixed>(s, d);
+        return choleskyAlone<Size::fixed>(s, d);
     } else {
         switch (size.value()) {
         case 3:
-            return choleskyOfOrder<3>(s, d);
+            return choleskyAlone<3>(s, d);
         case 4:
-            return choleskyOfOrder<4>(s, d);
+            return choleskyAlone<4>(s, d);
         case 5:
-            return choleskyOfOrder<5>(s, d);
+            return choleskyAlone<5>(s, d);
         case 6:
-            return choleskyOfOrder<6>(s, d);
+            return choleskyAlone<6>(s, d);
         default:
             return choleskyThroughDst(s, d, size.value());
         }
@@ -139,7 +145,10 @@ template <typename S, typename D, typename Size>
 ZELM_INLINE ZelmStatus choleskySingle(const S &s, const D &d, Size size) {
     if (ZelmStatus status = checkSingle(size.isZero(), s, d); status != kProceed)
         return status;
-    return choleskyObject(s, d, size);
+    if constexpr (Size::fixed != 0)
+        return choleskyOfOrder<Size::fixed>(s, d);
+    else
+        return choleskyObject(s, d, size);
 }
 
 // `count` is signed in the layouts without a table per element; below zero nothing is done.

@@ -129,7 +129,7 @@ ZELM_INLINE ZelmStatus invertInRegisters(const T (&a)[3][3], const D &d) {
 }
 
 template <bool dense, unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus invertInCopy(const S &s, const D &d) {
+ZELM_INLINE ZelmStatus invertInCopy(const S &s, const D &d) {
     typename D::Element a[N][N];
     readMatrix(s, a);
     const Outcome outcome = invertAlone<dense>(a);
@@ -153,6 +153,12 @@ ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
     } else {
         return invertInCopy<dense, N>(s, d);
     }
+}
+
+// The same as a real function, which what arrays leave over shares.
+template <bool dense, unsigned N, typename S, typename D>
+ZELM_NOINLINE ZelmStatus invertObjectAlone(S s, D d) {
+    return invertObject<dense, N>(s, d);
 }
 
 // Groups of matrices from k on, up to one where a matrix must be inverted alone. Closed inverses are short
@@ -179,7 +185,7 @@ ZELM_NOINLINE std::uint32_t invertGroups(const S &s, const D &d, std::uint32_t k
 template <bool dense, unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
     const auto one = [&](std::uint32_t k)
-                         ZELM_INLINE_LAMBDA { return invertObject<dense, N>(s.object(k), d.object(k)); };
+                         ZELM_INLINE_LAMBDA { return invertObjectAlone<dense, N>(s.object(k), d.object(k)); };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return invertGroups<typename decltype(pack)::Pack, dense, N>(s, d, k, end);
     };
@@ -207,7 +213,9 @@ ZELM_INLINE ZelmStatus invertSingle(const S &s, void *scratch, const D &d, Size 
             return ZELM_ERR_NULL_PTR;
         return invertInRegisters<false>(a, d);
     } else {
-        if (ZelmStatus status = checkSingleWhole(false, tested(s, n * n), tested(d, n * n));
+        constexpr unsigned entries = Size::fixed * Size::fixed;
+        if (ZelmStatus status =
+                checkAlone(false, testedAlone<entries>(s, entries), testedAlone<entries>(d, entries));
             status != kProceed)
             return status;
         return invertObject<D::isDense, Size::fixed>(s, d);

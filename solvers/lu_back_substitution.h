@@ -8,10 +8,9 @@ namespace zelm::solvers {
 
 // One system, as the definition has it. d is the only work space: it holds the forward pass's results, so
 // where it overlaps b, later rows of b are read after they were overwritten.
-template <typename A, typename B, typename D, typename Size>
-ZELM_NOINLINE void luBackSubstThroughDst(const A &a, Address pivots, const B &b, const D &d, Size size) {
+template <typename A, typename B, typename D>
+ZELM_NOINLINE void luBackSubstThroughDst(A a, Address pivots, B b, D d, std::uint32_t n) {
     using T = typename D::Element;
-    const std::uint32_t n = size.value();
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
 
     copyElement<T>(d.address(0, 0, 0), b.address(0, row(0), 0));
@@ -191,18 +190,19 @@ ZELM_NOINLINE ZelmStatus luBackSubstObjects(const A &a, const std::uint32_t *piv
 template <typename A, typename B, typename D, typename Size>
 ZELM_INLINE ZelmStatus luBackSubstSingle(const A &a, const std::uint32_t *pivotIndex, const B &b, const D &d,
                                          Size size) {
+    constexpr unsigned N = Size::fixed;
     const Address n = size.value();
-    if (ZelmStatus status = checkSingleWhole(size.isZero(), tested(a, n * n), tested(b, n), tested(d, n),
-                                             tested(Pointer(pivotIndex), 0));
+    if (ZelmStatus status = checkAlone(size.isZero(), testedAlone<N * N>(a, n * n), testedAlone<N>(b, n),
+                                       testedAlone<N>(d, n), tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
-    if constexpr (Size::fixed != 0) {
-        if (resultIsDistinct<Size::fixed>(d)) {
-            luBackSubstInRegisters<Size::fixed>(a, addressOf(pivotIndex), b, d);
+    if constexpr (N != 0) {
+        if (resultIsDistinct<N>(d)) {
+            luBackSubstInRegisters<N>(a, addressOf(pivotIndex), b, d);
             return ZELM_OK;
         }
     }
-    luBackSubstThroughDst(a, addressOf(pivotIndex), b, d, size);
+    luBackSubstThroughDst(a, addressOf(pivotIndex), b, d, size.value());
     return ZELM_OK;
 }
 
@@ -224,7 +224,7 @@ ZELM_INLINE ZelmStatus luBackSubstArray(const A &a, const std::uint32_t *pivotIn
                 a, b, d);
     const auto throughDst = [&](std::uint32_t k) {
         luBackSubstThroughDst(a.object(k), pivotAddress(pivotIndex, kIsArray<A> ? k * n : 0), b.object(k),
-                              d.object(k), size);
+                              d.object(k), size.value());
         return ZELM_OK;
     };
     return forEachObject(count, throughDst, a, b, d);

@@ -15,7 +15,7 @@ ZELM_INLINE Address pivotAddress(const std::uint32_t *pivotIndex, Address i) {
 template <typename D>
 struct LuThroughDst {
     using T = typename D::Element;
-    const D &d;
+    D d;
     Address pivots;
     std::uint32_t n;
 
@@ -55,7 +55,7 @@ struct LuThroughDst {
 };
 
 template <typename S, typename D>
-ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus luDecompThroughDst(S s, Address pivots, D d, std::uint32_t n) {
     using T = typename D::Element;
     const LuThroughDst<D> lu = {d, pivots, n};
     for (std::uint32_t i = 0; i < n; ++i)
@@ -111,7 +111,7 @@ ZELM_INLINE ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Si
 
 // The same as a real function, which what arrays leave over shares.
 template <unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus luDecompAlone(const S &s, Address pivots, const D &d) {
+ZELM_NOINLINE ZelmStatus luDecompAlone(S s, Address pivots, D d) {
     return luDecompObject(s, pivots, d, FixedSize<N>());
 }
 
@@ -192,8 +192,10 @@ ZELM_NOINLINE ZelmStatus luDecompObjects(const S &s, std::uint32_t *pivotIndex, 
 
 template <typename S, typename D, typename Size>
 ZELM_INLINE ZelmStatus luDecompSingle(const S &s, std::uint32_t *pivotIndex, const D &d, Size size) {
-    if (ZelmStatus status = checkSingleWhole(size.isZero(), testedMatrix(s, size), testedMatrix(d, size),
-                                             tested(Pointer(pivotIndex), 0));
+    constexpr unsigned N = Size::fixed;
+    const Address n = size.value();
+    if (ZelmStatus status = checkAlone(size.isZero(), testedAlone<N * N>(s, n * n),
+                                       testedAlone<N * N>(d, n * n), tested(Pointer(pivotIndex), 0));
         status != kProceed)
         return status;
     return luDecompObject(s, addressOf(pivotIndex), d, size);

@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: scratch holds what the reflectors make of b.
 template <typename A, typename B, typename D, typename Shape>
-ZELM_NOINLINE void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d, Shape shape) {
+ZELM_NOINLINE void qrSolveThroughScratch(A a, Address scratch, B b, D d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     const Dense<T> w(scratch, 0);
@@ -38,7 +38,7 @@ ZELM_NOINLINE void qrSolveThroughScratch(const A &a, Address scratch, const B &b
 
 // One system of a fixed size in local copies, where the elements of d are distinct.
 template <unsigned N, typename A, typename B, typename D>
-ZELM_NOINLINE void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
+ZELM_INLINE void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
     using T = typename D::Element;
     T factors[N][N], scale[N], w[N], x[N];
     readMatrix(a, factors);
@@ -59,6 +59,12 @@ ZELM_INLINE void qrSolveObject(const A &a, Address scratch, const B &b, const D 
         if (resultIsDistinct<Shape::rows()>(d))
             return qrSolveInCopy<Shape::rows()>(a, scratch, b, d);
     qrSolveThroughScratch(a, scratch, b, d, RunTimeShape{shape.rows(), shape.columns()});
+}
+
+// The same as a real function, which what arrays leave over shares.
+template <typename A, typename B, typename D, typename Shape>
+ZELM_NOINLINE void qrSolveAlone(A a, Address scratch, B b, D d, Shape shape) {
+    qrSolveObject(a, scratch, b, d, shape);
 }
 
 // Systems by their QR factors: see systems.h.
@@ -120,7 +126,7 @@ template <unsigned N, typename A, typename B, typename D>
 ZELM_NOINLINE ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, const D &d,
                                         std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        qrSolveObject(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
+        qrSolveAlone(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
         return ZELM_OK;
     };
     return solveSystems<kLongKernels>(QrSystems<N>{addressOf(scratch)},
@@ -132,9 +138,10 @@ ZELM_NOINLINE ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, c
 
 template <typename A, typename T, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus qrSolveSingle(const A &a, T *scratch, const B &b, const D &d, Shape shape) {
+    constexpr unsigned N = Shape::columnsIfFixed;
     if (ZelmStatus status =
-            checkSingleWhole(shape.isZero(), tested(a, shape.elements()), tested(Pointer(scratch), 0),
-                             tested(b, shape.columns()), tested(d, shape.columns()));
+            checkAlone(shape.isZero(), testedAlone<N * N>(a, shape.elements()), tested(Pointer(scratch), 0),
+                       testedAlone<N>(b, shape.columns()), testedAlone<N>(d, shape.columns()));
         status != kProceed)
         return status;
     qrSolveObject(a, addressOf(scratch), b, d, shape);

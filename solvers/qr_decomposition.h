@@ -3,6 +3,7 @@
 
 #include "solvers/groups.h"
 #include "solvers/qr_kernels.h"
+#include "solvers/tested_matrix.h"
 
 namespace zelm::solvers {
 
@@ -42,7 +43,7 @@ ZELM_INLINE void reflectThroughDst(const D &d, const Dense<T> &v, std::uint32_t 
 
 // One matrix, factored in d as the definition has it, whatever overlaps.
 template <typename S, typename D, typename Shape>
-ZELM_NOINLINE ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, Shape shape) {
+ZELM_NOINLINE ZelmStatus qrThroughDst(S s, Address scratch, D d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     for (std::uint32_t i = 0; i < rows; ++i)
@@ -80,7 +81,7 @@ ZELM_INLINE void storeScratchOfGroup(Address scratch, const V (&v)[N]) {
 
 // One matrix of a fixed size in a local copy, where the elements of d are distinct.
 template <unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
+ZELM_INLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
     using T = typename D::Element;
     T a[N][N], v[N];
     readMatrix(s, a);
@@ -97,6 +98,12 @@ ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape s
         if (matrixIsDistinct<Shape::rows()>(d))
             return qrInCopy<Shape::rows()>(s, scratch, d);
     return qrThroughDst(s, scratch, d, RunTimeShape{shape.rows(), shape.columns()});
+}
+
+// The same as a real function, which what arrays leave over shares.
+template <typename S, typename D, typename Shape>
+ZELM_NOINLINE ZelmStatus qrAlone(S s, Address scratch, D d, Shape shape) {
+    return qrObject(s, scratch, d, shape);
 }
 
 // Groups of matrices from k on, up to one where a column of a matrix fails.
@@ -131,7 +138,7 @@ template <unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::uint32_t count) {
     const Address buffer = addressOf(scratch);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return qrObject(s.object(k), buffer, d.object(k), FixedShape<N, N>());
+        return qrAlone(s.object(k), buffer, d.object(k), FixedShape<N, N>());
     };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return qrGroups<typename decltype(pack)::Pack, N>(s, buffer, d, k, end);
@@ -145,8 +152,10 @@ ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::u
 
 template <typename S, typename T, typename D, typename Shape>
 ZELM_INLINE ZelmStatus qrSingle(const S &s, T *scratch, const D &d, Shape shape) {
-    if (ZelmStatus status = checkSingleWhole(shape.isZero(), tested(s, shape.elements()),
-                                             tested(d, shape.elements()), tested(Pointer(scratch), 0));
+    constexpr unsigned entries = Shape::columnsIfFixed * Shape::columnsIfFixed;
+    if (ZelmStatus status =
+            checkAlone(shape.isZero(), testedAlone<entries>(s, shape.elements()),
+                       testedAlone<entries>(d, shape.elements()), tested(Pointer(scratch), 0));
         status != kProceed)
         return status;
     return qrObject(s, addressOf(scratch), d, shape);

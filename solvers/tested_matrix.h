@@ -36,20 +36,20 @@ struct TestedAlone {
     ZELM_INLINE bool hasNullEntry() const { return solvers::hasNullEntry<entries>(operand); }
 };
 
-template <typename Size, typename Operand>
-ZELM_INLINE auto testedMatrix(const Operand &matrix, Size size) {
-    if constexpr (Size::fixed == 0)
-        return tested(matrix, Address{size.value()} * size.value());
+// `fixed` is their number where it is fixed, else 0.
+template <unsigned fixed, typename Operand>
+ZELM_INLINE auto testedAlone(const Operand &operand, Address entries) {
+    if constexpr (fixed == 0)
+        return tested(operand, entries);
     else
-        return TestedAlone<Size::fixed * Size::fixed, Operand>{matrix};
+        return TestedAlone<fixed, Operand>{operand};
 }
 
-template <typename Size, typename Operand>
-ZELM_INLINE auto testedVector(const Operand &vector, Size size) {
-    if constexpr (Size::fixed == 0)
-        return tested(vector, size.value());
-    else
-        return TestedAlone<Size::fixed, Operand>{vector};
+template <typename... AllTested>
+ZELM_INLINE ZelmStatus checkAlone(bool zeroSize, const AllTested &...operands) {
+    if (ZelmStatus status = checkSingle(zeroSize, operands...); status != kProceed)
+        return status;
+    return (operands.hasNullEntry() || ...) ? ZELM_ERR_NULL_PTR : kProceed;
 }
 
 } // namespace zelm::solvers
