@@ -55,15 +55,11 @@ ZELM_INLINE Mask<V> eliminateColumn(V (&a)[N][N], unsigned k) {
 // The row of largest magnitude in column k takes place k.
 template <typename T, unsigned N>
 ZELM_INLINE std::uint32_t choosePivotRow(const T (&a)[N][N], std::uint32_t (&order)[N], unsigned k) {
-    T best = magnitude(a[order[k]][k]);
     std::uint32_t bestPos = k;
     ZELM_UNROLL
-    for (std::uint32_t j = k + 1; j < N; ++j) {
-        const T value = magnitude(a[order[j]][k]);
-        // Nobody can guess it: what a branch would save is lost where it is taken wrongly.
-        bestPos = __builtin_expect_with_probability(value > best, 1, 0.5) ? j : bestPos;
-        best = value > best ? value : best;
-    }
+    for (std::uint32_t j = k + 1; j < N; ++j)
+        if (magnitude(a[order[j]][k]) > magnitude(a[order[bestPos]][k]))
+            bestPos = j;
     const std::uint32_t pivotRow = order[bestPos];
     order[bestPos] = order[k];
     order[k] = pivotRow;
