@@ -191,22 +191,23 @@ ZELM_INLINE Floats4 inAllLanes(Floats4 pack) {
     return pack;
 }
 
-// ---- 32f 3x3: a row is a pack whose last lane is not used. Rows that follow each other without a gap are
-// loaded and stored over each other, never outside of the matrix.
+// ---- 32f 3x3: a row is a pack whose last lane is not used. It holds the element before it again, which
+// raises no exception that this element doesn't raise. Rows that follow each other without a gap are loaded
+// and stored over each other, never outside of the matrix.
 
 ZELM_INLINE Floats4 loadThree(Address from) {
-    return _mm_movelh_ps(loadTwo(from), _mm_load_ss(reinterpret_cast<const float *>(from + 8)));
+    return _mm_shuffle_ps(loadTwo(from), loadTwo(from + 4), _MM_SHUFFLE(1, 1, 1, 0));
 }
 
 template <typename A>
 ZELM_INLINE Floats4 threeOfRow(const A &a, std::uint32_t row) {
     if constexpr (kIsTransposed<A>)
-        return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), 0);
+        return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), used(a, row, 2, 0));
     else
         return loadThree(a.rowStart(row));
 }
 
-// The last lane of a row: that of the next row, where it is loaded along, ...
+// Where the next row's first element is loaded along, the last lane holds that, ...
 template <typename A>
 ZELM_INLINE void loadThreeRows(const A &a, Floats4 (&row)[3]) {
     if constexpr (!kIsTransposed<A>) {
@@ -223,7 +224,7 @@ ZELM_INLINE void loadThreeRows(const A &a, Floats4 (&row)[3]) {
         row[t] = threeOfRow(a, t);
 }
 
-// ... or the one before it again, so that no sum overflows that isn't asked for.
+// ... but not in rows that are multiplied.
 template <>
 struct HeldRows<float, 3> {
     Floats4 row[3];
