@@ -143,7 +143,7 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
     using T = typename D::Element;
     if constexpr (!D::isList && !kIsTransposed<A> && !kIsTransposed<B>) {
         constexpr bool holdsMatrix = kIsHeldMatrix<A> || kIsHeldMatrix<B>;
-        // Expected, so that the loop of the run begins where loops do.
+        // Expected, so that the run stands where the function begins.
         if (__builtin_expect((!holdsMatrix || count >= kHeldMatrixCount) && isGapless(a, shape) &&
                                  isGapless(b, shape) && isGapless(d, shape),
                              1)) {

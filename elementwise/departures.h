@@ -379,10 +379,11 @@ ZELM_INLINE void scaleTransposed4x4(const Dense<const T> &s, T factor, const Den
             column[j][p] = read[j] * factors;
     }
     ZELM_UNROLL
-    for (unsigned j = 0; j < 4; ++j)
+    for (unsigned j = 0; j < 4; ++j) {
         ZELM_UNROLL
-    for (unsigned p = 0; p < 4 / lanes; ++p)
-        storePack(d.rowStart(j) + p * kBlockBytes, column[j][p]);
+        for (unsigned p = 0; p < 4 / lanes; ++p)
+            storePack(d.rowStart(j) + p * kBlockBytes, column[j][p]);
+    }
 }
 
 template <typename Op, typename T>

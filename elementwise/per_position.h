@@ -56,7 +56,7 @@ ZELM_INLINE const Input &rowsOfInput(const Input &input) {
 template <typename S>
 ZELM_INLINE std::int64_t bytesOfPosition(const S &s, std::uint32_t count) {
     constexpr std::int64_t size = sizeof(typename S::Element);
-    if constexpr (requires { s.objStride; }) {
+    if constexpr (kIsArray<S>) {
         const std::int64_t stride = signedDistance(s.objStride);
         return stride < size ? 0 : stride * (count - 1) + size;
     } else {
@@ -84,10 +84,9 @@ bool isOutOfReachOf(S s, D d, Shape shape, std::uint32_t count) {
         for (std::uint32_t i = 0; i < shape.rows(); ++i) {
             for (std::uint32_t j = 0; j < shape.columns(); ++j) {
                 const Range result = rangeFrom(d.object(0).position(Address{i} * shape.columns() + j), bytes);
-                const Address own = requires {
-                    s.objStride;
-                }
-                ? entryNumber(s, i, j, shape) : entries;
+                Address own = entries;
+                if constexpr (kIsArray<S>)
+                    own = entryNumber(s, i, j, shape);
                 for (Address e = 0; e < entries; ++e)
                     if (e != own && !areDisjoint(result, rangeFrom(s.object(0).position(e), sourceBytes)))
                         return false;

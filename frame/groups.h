@@ -162,6 +162,19 @@ ZELM_INLINE void storeAdjacent(const Address *at, const V *in) {
     }
 }
 
+// ---- every second element: the packs that hold them, up to the last one's end, shuffled
+
+template <typename V, unsigned... lane>
+ZELM_INLINE V loadAlternate(Address first, std::integer_sequence<unsigned, lane...>) {
+    constexpr unsigned lanes = kLanesOf<V>;
+    const V low = loadAs<V>(first), high = loadAs<V>(first + (lanes - 1) * sizeof(ElementOf<V>));
+    return __builtin_shufflevector(low, high, (lane < lanes / 2 ? 2 * lane : 2 * lane + 1)...);
+}
+template <typename V>
+ZELM_INLINE V loadAlternate(Address first) {
+    return loadAlternate<V>(first, std::make_integer_sequence<unsigned, kLanesOf<V>>());
+}
+
 // ---- objects of three adjacent elements that follow each other without a gap: a block of objects is three
 // blocks of memory
 

@@ -250,10 +250,11 @@ template <unsigned lanes>
 ZELM_INLINE bool areApartFromEachOther(const Lowest<lanes> &a, Address bytes) {
     bool apart = true;
     ZELM_UNROLL
-    for (unsigned lane = 1; lane < lanes; ++lane)
+    for (unsigned lane = 1; lane < lanes; ++lane) {
         ZELM_UNROLL
-    for (unsigned other = 0; other < lane; ++other)
-        apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
+        for (unsigned other = 0; other < lane; ++other)
+            apart &= areDisjoint(a.at[lane], bytes, a.at[other], bytes);
+    }
     return apart;
 }
 

@@ -44,6 +44,9 @@ constexpr Grouping kLongKernels = {kWidestBytes, 2, 16};
 // Products of matrices and vectors, across objects.
 constexpr Grouping kProductKernels = {kWidestBytes, 8};
 
+// The same where an element is gathered by steps of a stride: wider packs are put together of more loads.
+constexpr Grouping kGatheredProducts = {widestUpTo(32), 8};
+
 // Runs of adjacent elements: whole arrays, and the elements of one object.
 constexpr unsigned kRunBytes = kWidestBytes, kShortRunBytes = widestUpTo(32);
 

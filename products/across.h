@@ -59,7 +59,7 @@ ZELM_INLINE StridedArray<T> asUsed(const Transposed<StridedArray<T>> &stored, co
 // and stored by itself.
 template <typename D>
 constexpr Grouping productGroupingOf(bool gathers) {
-    return kLoadsInGroups<D> ? kProductKernels : gathers ? Grouping{widestUpTo(32), 8} : kOneAtATime;
+    return kLoadsInGroups<D> ? kProductKernels : gathers ? kGatheredProducts : kOneAtATime;
 }
 
 // One object for all is read once: this is asked for only where no result is stored in it. Without AVX a

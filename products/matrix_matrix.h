@@ -31,10 +31,11 @@ struct HeldElements {
     template <typename B>
     ZELM_INLINE explicit HeldElements(const B &b) {
         ZELM_UNROLL
-        for (unsigned t = 0; t < N; ++t)
+        for (unsigned t = 0; t < N; ++t) {
             ZELM_UNROLL
-        for (unsigned j = 0; j < N; ++j)
-            element[t][j] = used(b, t, j, N);
+            for (unsigned j = 0; j < N; ++j)
+                element[t][j] = used(b, t, j, N);
+        }
     }
     ZELM_INLINE T get(std::uint32_t i, std::uint32_t j, std::uint32_t) const { return element[i][j]; }
 };

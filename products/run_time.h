@@ -107,10 +107,11 @@ ZELM_INLINE void sumBlock(const A &a, const Dense<const T> &b, const Dense<T> &d
         }
     }
     ZELM_UNROLL
-    for (unsigned r = 0; r < rows; ++r)
+    for (unsigned r = 0; r < rows; ++r) {
         ZELM_UNROLL
-    for (unsigned p = 0; p < packs; ++p)
-        storePack(d.address(i + r, j + p * kLanesOf<V>, 0), sums[r][p]);
+        for (unsigned p = 0; p < packs; ++p)
+            storePack(d.address(i + r, j + p * kLanesOf<V>, 0), sums[r][p]);
+    }
 }
 
 template <unsigned packs, typename V, typename A, typename T>

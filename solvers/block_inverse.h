@@ -93,10 +93,11 @@ ZELM_INLINE void composeInverse(const V (&pInverse)[B][B], const V (&x)[B][M], c
         }
     }
     ZELM_UNROLL
-    for (unsigned i = 0; i < M; ++i)
+    for (unsigned i = 0; i < M; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < M; ++j)
-        a[B + i][B + j] = w[i][j];
+        for (unsigned j = 0; j < M; ++j)
+            a[B + i][B + j] = w[i][j];
+    }
 }
 
 // In place. The result is the lanes where P or the complement counts as singular.
@@ -105,10 +106,11 @@ ZELM_INLINE Mask<V> invertByBlocks(V (&a)[N][N]) {
     constexpr unsigned M = N - B;
     V p[B][B], pInverse[B][B];
     ZELM_UNROLL
-    for (unsigned i = 0; i < B; ++i)
+    for (unsigned i = 0; i < B; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < B; ++j)
-        p[i][j] = a[i][j];
+        for (unsigned j = 0; j < B; ++j)
+            p[i][j] = a[i][j];
+    }
     Mask<V> singular = noLane<V>();
     if constexpr (B == 2)
         singular = invertOrder2(p, pInverse);

@@ -100,10 +100,11 @@ template <typename V>
 ZELM_INLINE void minorsOfRows(const V (&upper)[4], const V (&lower)[4], V (&m)[6]) {
     unsigned number = 0;
     ZELM_UNROLL
-    for (unsigned c = 0; c < 4; ++c)
+    for (unsigned c = 0; c < 4; ++c) {
         ZELM_UNROLL
-    for (unsigned d = c + 1; d < 4; ++d)
-        m[number++] = upper[c] * lower[d] - lower[c] * upper[d];
+        for (unsigned d = c + 1; d < 4; ++d)
+            m[number++] = upper[c] * lower[d] - lower[c] * upper[d];
+    }
 }
 
 template <typename V>
@@ -147,10 +148,11 @@ ZELM_INLINE Mask<V> invertClosed(const V (&a)[N][N], V (&inverse)[N][N]) {
     else
         r = reciprocal(det);
     ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
+    for (unsigned i = 0; i < N; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        inverse[i][j] = c[j][i] * r;
+        for (unsigned j = 0; j < N; ++j)
+            inverse[i][j] = c[j][i] * r;
+    }
     if constexpr (singular == Singular::InBand)
         return inBand(det);
     else

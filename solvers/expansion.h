@@ -32,10 +32,12 @@ ZELM_INLINE V expandByMinors(const Elements &a, Keep keep) {
     const auto bit = [](unsigned column) ZELM_INLINE_LAMBDA { return 1u << (N - 1 - column); };
     unsigned number = 0;
     ZELM_UNROLL
-    for (unsigned c = 0; c < N; ++c)
+    for (unsigned c = 0; c < N; ++c) {
         ZELM_UNROLL
-    for (unsigned d = c + 1; d < N; ++d)
-        minors[bit(c) | bit(d)] = keep(2, number++, a(N - 2, c) * a(N - 1, d) - a(N - 1, c) * a(N - 2, d));
+        for (unsigned d = c + 1; d < N; ++d)
+            minors[bit(c) | bit(d)] =
+                keep(2, number++, a(N - 2, c) * a(N - 1, d) - a(N - 1, c) * a(N - 2, d));
+    }
     ZELM_UNROLL
     for (unsigned order = 3; order <= N; ++order) {
         number = 0;

@@ -102,18 +102,6 @@ ZELM_INLINE void scatterSpaced(Address first, Address stride, V value) {
     });
 }
 
-// The same where every second element is taken: the packs that hold them, up to the last one's end, shuffled.
-template <typename V, unsigned... lane>
-ZELM_INLINE V everySecond(Address first, std::integer_sequence<unsigned, lane...>) {
-    constexpr unsigned lanes = kLanesOf<V>;
-    const V low = loadAs<V>(first), high = loadAs<V>(first + (lanes - 1) * sizeof(ElementOf<V>));
-    return __builtin_shufflevector(low, high, (lane < lanes / 2 ? 2 * lane : 2 * lane + 1)...);
-}
-template <typename V>
-ZELM_INLINE V everySecond(Address first) {
-    return everySecond<V>(first, std::make_integer_sequence<unsigned, kLanesOf<V>>());
-}
-
 // The first N elements of row i, which has `columns` of them.
 template <unsigned N, unsigned columns = N, typename V, typename Array>
 ZELM_INLINE void readRow(const Array &array, std::uint32_t k, unsigned i, V *out) {
@@ -122,7 +110,7 @@ ZELM_INLINE void readRow(const Array &array, std::uint32_t k, unsigned i, V *out
             if (array.objStride == 2 * sizeof(ElementOf<V>)) {
                 ZELM_UNROLL
                 for (unsigned j = 0; j < N; ++j)
-                    out[j] = everySecond<V>(array.object(k).address(i, j, columns));
+                    out[j] = loadAlternate<V>(array.object(k).address(i, j, columns));
                 return;
             }
         }

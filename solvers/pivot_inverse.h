@@ -75,19 +75,21 @@ ZELM_INLINE Mask<V> invertTrailing(V (&a)[N][N]) {
     constexpr unsigned P = N - 4;
     V z[4][4], w[4][4];
     ZELM_UNROLL
-    for (unsigned i = 0; i < 4; ++i)
+    for (unsigned i = 0; i < 4; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < 4; ++j)
-        z[i][j] = a[P + i][P + j];
+        for (unsigned j = 0; j < 4; ++j)
+            z[i][j] = a[P + i][P + j];
+    }
     const Mask<V> singular = invertClosed<true, Singular::Zero>(z, w);
     // Where a matrix is singular, its working rows are part of the result: nothing is overwritten.
     if (anyLane(singular))
         return singular;
     ZELM_UNROLL
-    for (unsigned i = 0; i < 4; ++i)
+    for (unsigned i = 0; i < 4; ++i) {
         ZELM_UNROLL
-    for (unsigned j = 0; j < 4; ++j)
-        a[P + i][P + j] = w[i][j];
+        for (unsigned j = 0; j < 4; ++j)
+            a[P + i][P + j] = w[i][j];
+    }
     return singular;
 }
 

@@ -52,21 +52,6 @@ ZELM_INLINE auto withPlainestVectors(Use use, const First &first, const Rest &..
     return withPlainest(use, first, rest...);
 }
 
-// Every second element from `at` on.
-template <typename V>
-ZELM_INLINE V loadAlternate(Address at) {
-    return fromBlocks<V>([at](unsigned b) ZELM_INLINE_LAMBDA {
-        const Address block = at + b * 2 * kBlockBytes;
-        if constexpr (sizeof(ElementOf<V>) == 4) {
-            return shuffle<0, 2, 1, 3>(loadPack<float>(block),
-                                       loadPack<float>(block + kBlockBytes - sizeof(float)));
-        } else {
-            const LaneAddresses<Doubles2> lanes = {block, block + kBlockBytes};
-            return gatherBlock(lanes, 0.0);
-        }
-    });
-}
-
 // The elements of row i, which has N of them, of the objects from k on.
 template <unsigned N, typename V, typename S>
 ZELM_INLINE void loadElements(const S &s, std::uint32_t k, unsigned i, V *out) {

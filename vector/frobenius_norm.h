@@ -256,10 +256,11 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
     for (unsigned i = 0; i < N; ++i)
         loadElements<N>(s, k, i, elements[i]);
     ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
+    for (unsigned j = 0; j < N; ++j) {
         ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        sum = sum + elements[i][j] * elements[i][j];
+        for (unsigned i = 0; i < N; ++i)
+            sum = sum + elements[i][j] * elements[i][j];
+    }
     return sum;
 }
 
