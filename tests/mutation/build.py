@@ -59,6 +59,9 @@ class Switched:
             f"-I{self.copy}",
             *words[1:],
             "-O0",
+            # A place outside of an array is a crash.
+            "-fsanitize=bounds-strict",
+            "-fsanitize-undefined-trap-on-error",
             "-w",
             "-fmax-errors=0",
             "-fdiagnostics-plain-output",

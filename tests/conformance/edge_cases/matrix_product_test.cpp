@@ -485,4 +485,31 @@ TEST(MatrixProduct, ArraysOf32BitFloatsAlwaysAdvance) {
     EXPECT_EQ(std::to_array(result), std::to_array(a));
 }
 
+// Rows of dst begin inside of each other: a later row's elements stand over an earlier one's.
+TEST(MatrixProduct, RowsOfTheResultMayLieAcrossEachOther) {
+    constexpr std::size_t terms = 3;
+    const std::vector<float> a = counting<float>(6 * terms), b = counting<float>(terms * 12);
+    for (std::uint32_t rows = 1; rows <= 6; ++rows)
+        for (std::uint32_t columns = 1; columns <= 12; ++columns)
+            for (std::uint32_t apart = 0; apart <= columns; ++apart) {
+                std::vector<float> expected(100, 7), single = expected, array = expected;
+                for (std::size_t i = 0; i < rows; ++i)
+                    for (std::size_t j = 0; j < columns; ++j) {
+                        float sum = 0;
+                        for (std::size_t t = 0; t < terms; ++t)
+                            sum += a[i * terms + t] * b[t * 12 + j];
+                        expected[i * apart + j] = sum;
+                    }
+                const auto step = static_cast<std::int32_t>(apart) * f;
+                EXPECT_EQ(zelmMul_mm_32f(a.data(), terms * f, terms, rows, b.data(), 12 * f, columns, terms,
+                                         single.data(), step),
+                          ZELM_OK);
+                EXPECT_EQ(zelmMul_mam_32f(a.data(), 0, terms * f, terms, rows, b.data(), 12 * f, columns,
+                                          terms, array.data(), 0, step, 1),
+                          ZELM_OK);
+                ASSERT_EQ(single, expected) << rows << " rows of " << columns << ", " << apart << " apart";
+                ASSERT_EQ(array, expected) << rows << " rows of " << columns << ", " << apart << " apart";
+            }
+}
+
 } // namespace
