@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: d is the only work space.
 template <typename A, typename B, typename D>
-ZELM_NOINLINE void choleskySolveThroughDst(A a, B b, D d, std::uint32_t n) {
+ZELM_NOINLINE void choleskySolveThroughDst(const A &a, const B &b, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         T x = b.get(i);
@@ -58,13 +58,13 @@ ZELM_INLINE void choleskySolveObject(const A &a, const B &b, const D &d, Size si
         if (resultIsDistinct<N>(d))
             return choleskySolveInRegisters<N>(a, b, d);
     }
-    choleskySolveThroughDst(a, b, d, size.value());
+    choleskySolveThroughDst(aside(a), aside(b), aside(d), size.value());
 }
 
 // The same as a real function, which what arrays leave over shares.
-template <typename A, typename B, typename D, typename Size>
-ZELM_NOINLINE void choleskySolveAlone(A a, B b, D d, Size size) {
-    choleskySolveObject(a, b, d, size);
+template <unsigned N, typename A, typename B, typename D>
+ZELM_NOINLINE void choleskySolveAlone(const A &a, const B &b, const D &d) {
+    choleskySolveObject(a, b, d, FixedSize<N>());
 }
 
 // Systems by their Cholesky factors: see systems.h.
@@ -115,8 +115,12 @@ ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d
         const auto matrix = a.object(k);
         const auto right = b.object(k);
         const auto target = d.object(k);
-        if (!matrix.isNull() && !right.isNull() && !target.isNull())
-            choleskySolveAlone(matrix, right, target, size);
+        if (matrix.isNull() || right.isNull() || target.isNull())
+            return ZELM_OK;
+        if constexpr (Size::fixed != 0)
+            choleskySolveAlone<Size::fixed>(matrix, right, target);
+        else
+            choleskySolveObject(matrix, right, target, size);
         return ZELM_OK;
     };
     if constexpr (Size::fixed != 0) {

@@ -20,7 +20,7 @@ ZELM_INLINE T choleskyReciprocal(T pivot) {
 
 // One matrix, as the definition has it, whatever overlaps.
 template <typename S, typename D>
-ZELM_NOINLINE ZelmStatus choleskyThroughDst(S s, D d, std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus choleskyThroughDst(const S &s, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     for (std::uint32_t i = 0; i < n; ++i) {
         for (std::uint32_t j = 0; j < i; ++j) {
@@ -73,12 +73,12 @@ ZELM_INLINE ZelmStatus choleskyOfOrder(const S &s, const D &d) {
     const auto source = departures::wholeSteps(s);
     const auto target = departures::wholeSteps(d);
     return matrixIsDistinct<N>(target) ? choleskyInRegisters<N>(source, target)
-                                       : choleskyThroughDst(source, target, N);
+                                       : choleskyThroughDst(aside(source), aside(target), N);
 }
 
 // The same as a real function, which run-time sizes and what arrays leave over share.
 template <unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus choleskyAlone(S s, D d) {
+ZELM_NOINLINE ZelmStatus choleskyAlone(const S &s, const D &d) {
     return choleskyOfOrder<N>(s, d);
 }
 

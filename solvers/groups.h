@@ -50,6 +50,13 @@ ZELM_INLINE bool matrixIsDistinct(const D &d) {
     }
 }
 
+// A copy of an operand for a real function that is rarely called: handed over itself, it would lie in memory
+// on the common way too.
+template <typename Operand>
+ZELM_INLINE Operand aside(const Operand &operand) {
+    return operand;
+}
+
 // No object starts at null. Of lists the frame asks it group by group.
 template <typename Operand>
 ZELM_INLINE bool hasNoNullObject(const Operand &operand, unsigned rows, unsigned columns,

@@ -157,7 +157,7 @@ ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
 
 // The same as a real function, which what arrays leave over shares.
 template <bool dense, unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus invertObjectAlone(S s, D d) {
+ZELM_NOINLINE ZelmStatus invertObjectAlone(const S &s, const D &d) {
     return invertObject<dense, N>(s, d);
 }
 

@@ -9,7 +9,8 @@ namespace zelm::solvers {
 // One system, as the definition has it. d is the only work space: it holds the forward pass's results, so
 // where it overlaps b, later rows of b are read after they were overwritten.
 template <typename A, typename B, typename D>
-ZELM_NOINLINE void luBackSubstThroughDst(A a, Address pivots, B b, D d, std::uint32_t n) {
+ZELM_NOINLINE void luBackSubstThroughDst(const A &a, Address pivots, const B &b, const D &d,
+                                         std::uint32_t n) {
     using T = typename D::Element;
     const auto row = [&](std::uint32_t i) { return load<std::uint32_t>(pivots + Address{i} * 4); };
 
@@ -202,7 +203,7 @@ ZELM_INLINE ZelmStatus luBackSubstSingle(const A &a, const std::uint32_t *pivotI
             return ZELM_OK;
         }
     }
-    luBackSubstThroughDst(a, addressOf(pivotIndex), b, d, size.value());
+    luBackSubstThroughDst(aside(a), addressOf(pivotIndex), aside(b), aside(d), size.value());
     return ZELM_OK;
 }
 

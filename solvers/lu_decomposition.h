@@ -15,7 +15,7 @@ ZELM_INLINE Address pivotAddress(const std::uint32_t *pivotIndex, Address i) {
 template <typename D>
 struct LuThroughDst {
     using T = typename D::Element;
-    D d;
+    const D &d;
     Address pivots;
     std::uint32_t n;
 
@@ -55,7 +55,7 @@ struct LuThroughDst {
 };
 
 template <typename S, typename D>
-ZELM_NOINLINE ZelmStatus luDecompThroughDst(S s, Address pivots, D d, std::uint32_t n) {
+ZELM_NOINLINE ZelmStatus luDecompThroughDst(const S &s, Address pivots, const D &d, std::uint32_t n) {
     using T = typename D::Element;
     const LuThroughDst<D> lu = {d, pivots, n};
     for (std::uint32_t i = 0; i < n; ++i)
@@ -106,12 +106,12 @@ ZELM_INLINE ZelmStatus luDecompObject(const S &s, Address pivots, const D &d, Si
     if constexpr (Size::fixed != 0)
         if (mayFactorInCopy<Size::fixed>(d, pivots))
             return luDecompInCopy<Size::fixed>(s, pivots, d);
-    return luDecompThroughDst(s, pivots, d, size.value());
+    return luDecompThroughDst(aside(s), pivots, aside(d), size.value());
 }
 
 // The same as a real function, which what arrays leave over shares.
 template <unsigned N, typename S, typename D>
-ZELM_NOINLINE ZelmStatus luDecompAlone(S s, Address pivots, D d) {
+ZELM_NOINLINE ZelmStatus luDecompAlone(const S &s, Address pivots, const D &d) {
     return luDecompObject(s, pivots, d, FixedSize<N>());
 }
 

@@ -8,7 +8,7 @@ namespace zelm::solvers {
 
 // One system, as the definition has it: scratch holds what the reflectors make of b.
 template <typename A, typename B, typename D, typename Shape>
-ZELM_NOINLINE void qrSolveThroughScratch(A a, Address scratch, B b, D d, Shape shape) {
+ZELM_NOINLINE void qrSolveThroughScratch(const A &a, Address scratch, const B &b, const D &d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     const Dense<T> w(scratch, 0);
@@ -58,12 +58,12 @@ ZELM_INLINE void qrSolveObject(const A &a, Address scratch, const B &b, const D 
     if constexpr (Shape::isFixed)
         if (resultIsDistinct<Shape::rows()>(d))
             return qrSolveInCopy<Shape::rows()>(a, scratch, b, d);
-    qrSolveThroughScratch(a, scratch, b, d, RunTimeShape{shape.rows(), shape.columns()});
+    qrSolveThroughScratch(aside(a), scratch, aside(b), aside(d), RunTimeShape{shape.rows(), shape.columns()});
 }
 
 // The same as a real function, which what arrays leave over shares.
 template <typename A, typename B, typename D, typename Shape>
-ZELM_NOINLINE void qrSolveAlone(A a, Address scratch, B b, D d, Shape shape) {
+ZELM_NOINLINE void qrSolveAlone(const A &a, Address scratch, const B &b, const D &d, Shape shape) {
     qrSolveObject(a, scratch, b, d, shape);
 }
 

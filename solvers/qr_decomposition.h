@@ -43,7 +43,7 @@ ZELM_INLINE void reflectThroughDst(const D &d, const Dense<T> &v, std::uint32_t 
 
 // One matrix, factored in d as the definition has it, whatever overlaps.
 template <typename S, typename D, typename Shape>
-ZELM_NOINLINE ZelmStatus qrThroughDst(S s, Address scratch, D d, Shape shape) {
+ZELM_NOINLINE ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, Shape shape) {
     using T = typename D::Element;
     const std::uint32_t rows = shape.rows(), columns = shape.columns(), r = reflectors(shape);
     for (std::uint32_t i = 0; i < rows; ++i)
@@ -97,12 +97,12 @@ ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape s
     if constexpr (Shape::isFixed)
         if (matrixIsDistinct<Shape::rows()>(d))
             return qrInCopy<Shape::rows()>(s, scratch, d);
-    return qrThroughDst(s, scratch, d, RunTimeShape{shape.rows(), shape.columns()});
+    return qrThroughDst(aside(s), scratch, aside(d), RunTimeShape{shape.rows(), shape.columns()});
 }
 
 // The same as a real function, which what arrays leave over shares.
 template <typename S, typename D, typename Shape>
-ZELM_NOINLINE ZelmStatus qrAlone(S s, Address scratch, D d, Shape shape) {
+ZELM_NOINLINE ZelmStatus qrAlone(const S &s, Address scratch, const D &d, Shape shape) {
     return qrObject(s, scratch, d, shape);
 }
 
