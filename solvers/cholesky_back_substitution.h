@@ -120,7 +120,7 @@ ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d
         if constexpr (Size::fixed != 0)
             choleskySolveAlone<Size::fixed>(matrix, right, target);
         else
-            choleskySolveObject(matrix, right, target, size);
+            choleskySolveThroughDst(matrix, right, target, size.value());
         return ZELM_OK;
     };
     if constexpr (Size::fixed != 0) {
