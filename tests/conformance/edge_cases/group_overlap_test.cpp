@@ -173,6 +173,66 @@ TEST(GroupOverlap, ArraysAtAllSmallStrides) {
             expectArraysInOrder(objects, by);
 }
 
+// ---- matrices
+
+ZelmStatus decompose(const float *a, std::uint32_t *pivots, float *lu, std::int32_t row, std::int32_t elem) {
+    return zelmLUDecomp_m_32f_3x3_S2(a, bytes<float>(n), bytes<float>(1), pivots, lu, row, elem);
+}
+ZelmStatus decompose(const double *a, std::uint32_t *pivots, double *lu, std::int32_t row,
+                     std::int32_t elem) {
+    return zelmLUDecomp_m_64f_3x3_S2(a, bytes<double>(n), bytes<double>(1), pivots, lu, row, elem);
+}
+ZelmStatus decompose(const float *a, std::uint32_t *pivots, float *lu, std::int32_t obj, std::int32_t row,
+                     std::int32_t elem, std::uint32_t objects) {
+    return zelmLUDecomp_ma_32f_3x3_S2(a, bytes<float>(n * n), bytes<float>(n), bytes<float>(1), pivots, lu,
+                                      obj, row, elem, objects);
+}
+ZelmStatus decompose(const double *a, std::uint32_t *pivots, double *lu, std::int32_t obj, std::int32_t row,
+                     std::int32_t elem, std::uint32_t objects) {
+    return zelmLUDecomp_ma_64f_3x3_S2(a, bytes<double>(n * n), bytes<double>(n), bytes<double>(1), pivots, lu,
+                                      obj, row, elem, objects);
+}
+
+// An object's elements are distinct, and may be those of other objects.
+template <class T>
+void expectMatricesInOrder(std::int64_t obj, std::int64_t row, std::int64_t elem, std::uint32_t objects) {
+    std::vector<T> a, array(400), single = array;
+    for (std::uint32_t e = 0; e < objects * n * n; ++e)
+        a.push_back(static_cast<T>(e % 9 % 4 == 0 ? 20 + e : 1 + e % 5)); // large on the diagonal
+    std::vector<std::uint32_t> pivots(objects * n), pivotsOfOne(n);
+    EXPECT_EQ(decompose(a.data(), pivots.data(), array.data(), bytes<T>(obj), bytes<T>(row), bytes<T>(elem),
+                        objects),
+              ZELM_OK);
+    for (std::uint32_t k = 0; k < objects; ++k)
+        EXPECT_EQ(decompose(&a[k * n * n], pivotsOfOne.data(), single.data() + k * obj, bytes<T>(row),
+                            bytes<T>(elem)),
+                  ZELM_OK);
+    EXPECT_EQ(array, single) << objects << " objects at " << obj << ", rows at " << row << ", elements at "
+                             << elem;
+}
+
+bool elementsAreDistinct(std::int64_t row, std::int64_t elem) {
+    std::vector<std::int64_t> places;
+    for (std::int64_t i = 0; i < n; ++i)
+        for (std::int64_t j = 0; j < n; ++j)
+            places.push_back(i * row + j * elem);
+    std::ranges::sort(places);
+    return std::ranges::adjacent_find(places) == places.end();
+}
+
+TEST(GroupOverlap, MatricesThatLieAcrossEachOther) {
+    for (const std::uint32_t objects : {2u, 4u, 5u, 16u})
+        for (const std::int64_t obj : {0, 1, 2, 3, 7, 9})
+            for (std::int64_t elem = 0; elem <= 20; ++elem)
+                for (std::int64_t row = 0; row <= 50; row += row < 12 ? 1 : 3)
+                    if (elementsAreDistinct(row, elem)) {
+                        expectMatricesInOrder<float>(obj, row, elem, objects);
+                        expectMatricesInOrder<double>(obj, row, elem, objects);
+                        if (HasFailure())
+                            return;
+                    }
+}
+
 // ---- tables
 
 // Of the width of a table's entries, so that a result of zeros makes entries null.
