@@ -201,10 +201,25 @@ ZELM_INLINE bool listMisses(const Source<S> &s, const Range &target, std::uint32
     low = low < 1 ? 1 : low;
     if (high < low || high >= end)
         return false;
-    const Address from = static_cast<Address>(low), width = static_cast<Address>(high - low);
+    const Address from = static_cast<Address>(low), to = static_cast<Address>(high);
+    typedef Address Entries __attribute__((vector_size(kBlockBytes), aligned(alignof(Address)), may_alias));
+    constexpr unsigned lanes = kBlockBytes / sizeof(Address);
+    Entries outsides = {}; // signs say which
+    std::uint32_t k = first;
+    for (; last - k >= lanes; k += lanes) {
+        const Entries entries = *reinterpret_cast<const Entries *>(s.operand.table + k);
+        // These processors don't compare 64-bit numbers in packs: as distances from both ends of the window,
+        // which is less than half of all addresses, one is below zero.
+        if constexpr (sizeof(Address) == 8)
+            outsides |= (entries - from) | (to - entries);
+        else
+            outsides |= reinterpret_cast<Entries>(entries - from > to - from);
+    }
     bool outside = false;
-    for (std::uint32_t k = first; k < last; ++k)
-        outside |= addressOf(s.operand.table[k]) - from > width;
+    for (unsigned lane = 0; lane < lanes; ++lane)
+        outside |= static_cast<std::intptr_t>(outsides[lane]) < 0;
+    for (; k < last; ++k)
+        outside |= addressOf(s.operand.table[k]) - from > to - from;
     return !outside;
 }
 

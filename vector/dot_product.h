@@ -10,15 +10,35 @@ namespace zelm::vector {
 template <typename T, typename Object>
 constexpr Sum kDotOrder = sizeof(T) == 8 && Object::isDense ? Sum::EvenOddThenRest : Sum::Chain;
 
+template <typename T, unsigned N>
+constexpr bool kFillsPack = sizeof(T) == 4 && N == 4;
+
+template <typename T>
+ZELM_INLINE Pack<T> packOf(const Dense<const T> &b) {
+    return loadPack<T>(b.start);
+}
+template <unsigned N, typename B>
+ZELM_INLINE auto packOf(const Vectors<N, B> &b) {
+    return Pack<typename B::Element>{b.get(0), b.get(1), b.get(2), b.get(3)};
+}
+
 template <Sum order, unsigned N, typename A, typename B>
 ZELM_INLINE auto dotOf(const A &a, const B &b) {
     using T = typename A::Element;
-    if constexpr (A::isDense && B::isDense && kSumsByPairs<order, T, N>)
-        return sumByPairs<order, N>(Products<T>{a.start, b.start});
+    if constexpr (kSumsByPairs<order, T, N>)
+        if constexpr (A::isDense && B::isDense)
+            return sumByPairs<order, N>(Products<T>{a.start, b.start});
     T products[N];
-    ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        products[j] = a.get(j) * b.get(j);
+    if constexpr (A::isDense && kFillsPack<T, N>) {
+        const Pack<T> pack = loadPack<T>(a.start) * packOf(b);
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            products[j] = pack[j];
+    } else {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            products[j] = a.get(j) * b.get(j);
+    }
     return sumOf<order>(products);
 }
 
@@ -139,19 +159,28 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
-    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        if constexpr (Shape::isFixed)
-            results.object(k).set(0, dotOf<order, Shape::columns()>(a.object(k), b.object(k)));
-        else
-            results.object(k).set(0, dotOfLength(a.object(k), b.object(k), shape.columns()));
-        return ZELM_OK;
+    const auto oneBy = [&](const auto &second) ZELM_INLINE_LAMBDA {
+        return [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            if constexpr (Shape::isFixed)
+                results.object(k).set(0, dotOf<order, Shape::columns()>(a.object(k), second.object(k)));
+            else
+                results.object(k).set(0, dotOfLength(a.object(k), second.object(k), shape.columns()));
+            return ZELM_OK;
+        };
     };
-    // Of two lists of threes the null tests and the sum cost less than collecting the objects does.
-    constexpr bool areListsOfThrees = A::isList && B::isList && Shape::columnsIfFixed == 3;
-    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || areListsOfThrees) {
+    const auto one = oneBy(b);
+    // In lists of threes and in those whose sums are ones of pairs the null tests and the sum cost less than
+    // collecting the objects does.
+    constexpr bool byPairs = kSumsByPairs<order, T, Shape::columnsIfFixed>;
+    constexpr unsigned N = Shape::columnsIfFixed;
+    constexpr bool areShortLists =
+        A::isList && (N == 3 || byPairs || (kLoadsInGroups<A> && kFillsPack<T, N>));
+    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || areShortLists) {
+        if constexpr (areShortLists && !byPairs && !kIsArray<B>)
+            if (isUntouched(b, 1, N, results, 1, 1, count))
+                return forEachObject(count, oneBy(Vectors<N, B>(b)), a);
         return forEachObject(count, one, a, b);
     } else {
-        constexpr unsigned N = Shape::columns();
         const Vectors<N, A> firsts(a);
         const Vectors<N, B> seconds(b);
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {

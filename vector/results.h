@@ -39,6 +39,8 @@ requires(!kIsArray<S>) struct Vectors<N, S> {
         for (unsigned j = 0; j < N; ++j)
             element[j] = s.get(j);
     }
+    ZELM_INLINE const Vectors &object(std::uint32_t) const { return *this; }
+    ZELM_INLINE auto get(unsigned j) const { return element[j]; }
     template <typename V>
     ZELM_INLINE void load(std::uint32_t, V (&out)[N]) const {
         ZELM_UNROLL
