@@ -141,7 +141,8 @@ ZELM_INLINE std::uint32_t multiplyPacks(const A &a, const Dense<const T> &b, con
 
 // One object.
 template <typename A, typename B, typename D>
-ZELM_NOINLINE void multiplyApart(A a, B b, D d, Bounds bounds, Pitches pitches) {
+ZELM_NOINLINE void multiplyApart(const A &a, const B &b, const D &d, const Bounds &bounds,
+                                 const Pitches &pitches) {
     using T = typename D::Element;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<B, Dense<const T>> && D::isDense)

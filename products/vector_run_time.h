@@ -58,7 +58,8 @@ ZELM_INLINE std::uint32_t multiplyRowPacks(const Transposed<Dense<const T>> &a, 
 
 // One object.
 template <typename A, typename X, typename Z, typename D>
-ZELM_NOINLINE void multiplyVectorApart(A a, X x, Z z, D d, VectorBounds bounds) {
+ZELM_NOINLINE void multiplyVectorApart(const A &a, const X &x, const Z &z, const D &d,
+                                       const VectorBounds &bounds) {
     using T = typename D::Element;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<A, Transposed<Dense<const T>>> && D::isDense)
