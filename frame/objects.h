@@ -10,7 +10,7 @@ namespace zelm::frame {
 template <typename One, typename... Operands>
 ZELM_INLINE ZelmStatus forEachObject(std::uint32_t count, One one, const Operands &...operands) {
     for (std::uint32_t k = 0; k < count; ++k) {
-        if ((operands.entryIsNull(k) || ...))
+        if ((__builtin_expect(operands.entryIsNull(k), 0) || ...))
             return ZELM_ERR_NULL_PTR;
         if (ZelmStatus status = one(k); status != ZELM_OK)
             return status;

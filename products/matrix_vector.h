@@ -110,10 +110,10 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
         return multiplyInGroups<N, isDense>(asUsed(a, entries), x, z, d, count);
     }
     if constexpr (way == Way::HeldColumns)
-        if (missesInvariant<N>(a, N, d, count))
+        if (__builtin_expect(missesInvariant<N>(a, N, d, count), 1))
             return multiplyByColumns<N>(a, x, z, d, count);
     if constexpr (way == Way::HeldVector)
-        if (missesInvariant<N>(x, 1, d, count))
+        if (__builtin_expect(missesInvariant<N>(x, 1, d, count), 1))
             return multiplyByVector<N>(a, x, z, d, count);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));

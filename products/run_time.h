@@ -139,11 +139,17 @@ ZELM_INLINE std::uint32_t multiplyPacks(const A &a, const Dense<const T> &b, con
         return j;
 }
 
-// One object.
+// One object. Its operands come by reference, as what a caller puts together on the stack field by field and
+// reads back in packs waits; loops read copies.
 template <typename A, typename B, typename D>
-ZELM_NOINLINE void multiplyApart(const A &a, const B &b, const D &d, const Bounds &bounds,
-                                 const Pitches &pitches) {
+ZELM_NOINLINE void multiplyApart(const A &first, const B &second, const D &result, const Bounds &size,
+                                 const Pitches &entries) {
     using T = typename D::Element;
+    const A a = first;
+    const B b = second;
+    const D d = result;
+    const Bounds bounds = size;
+    const Pitches pitches = entries;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<B, Dense<const T>> && D::isDense)
         done = multiplyPacks<Pack<T, kInsideBytes>>(a, b, d, 0, bounds);

@@ -122,6 +122,13 @@ struct HeldVectorOf {
             element[t] = N % kLanes<T> == 1 ? loadedOnce(x.get(t)) : x.get(t);
             inAllLanes[t] = spread<Pack<T>>(element[t]);
         }
+        if constexpr (X::isDense && sizeof(T) == 4 && N == 4) { // one load for all, and no copies
+            const auto all = _mm_castps_si128(loadPack<T>(x.start));
+            inAllLanes[0] = _mm_castsi128_ps(_mm_shuffle_epi32(all, 0x00));
+            inAllLanes[1] = _mm_castsi128_ps(_mm_shuffle_epi32(all, 0x55));
+            inAllLanes[2] = _mm_castsi128_ps(_mm_shuffle_epi32(all, 0xaa));
+            inAllLanes[3] = _mm_castsi128_ps(_mm_shuffle_epi32(all, 0xff));
+        }
     }
 };
 

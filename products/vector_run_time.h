@@ -58,9 +58,14 @@ ZELM_INLINE std::uint32_t multiplyRowPacks(const Transposed<Dense<const T>> &a, 
 
 // One object.
 template <typename A, typename X, typename Z, typename D>
-ZELM_NOINLINE void multiplyVectorApart(const A &a, const X &x, const Z &z, const D &d,
-                                       const VectorBounds &bounds) {
+ZELM_NOINLINE void multiplyVectorApart(const A &matrix, const X &vector, const Z &added, const D &result,
+                                       const VectorBounds &size) {
     using T = typename D::Element;
+    const A a = matrix;
+    const X x = vector;
+    const Z z = added;
+    const D d = result;
+    const VectorBounds bounds = size;
     std::uint32_t done = 0;
     if constexpr (std::is_same_v<A, Transposed<Dense<const T>>> && D::isDense)
         done = multiplyRowPacks<Pack<T>>(a, x, z, d, bounds);
