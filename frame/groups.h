@@ -191,9 +191,9 @@ ZELM_INLINE void storeThird(Address at, unsigned third, V value) {
                         ZELM_INLINE_LAMBDA { storePack(at + (b * 3 + third) * kBlockBytes, block); });
 }
 
+// Three packs of such memory to one pack per element.
 template <typename V>
-ZELM_INLINE void loadThrees(Address at, V *out) {
-    const V r0 = loadThird<V>(at, 0), r1 = loadThird<V>(at, 1), r2 = loadThird<V>(at, 2);
+ZELM_INLINE void transposeThrees(V r0, V r1, V r2, V *out) {
     if constexpr (sizeof(ElementOf<V>) == 4) {
         const V a = shuffle<2, 3, 1, 2>(r1, r2), b = shuffle<1, 2, 0, 1>(r0, r1);
         out[0] = shuffle<0, 3, 0, 2>(r0, a);
@@ -204,6 +204,11 @@ ZELM_INLINE void loadThrees(Address at, V *out) {
         out[1] = shuffle<1, 0>(r0, r2);
         out[2] = shuffle<0, 1>(r1, r2);
     }
+}
+
+template <typename V>
+ZELM_INLINE void loadThrees(Address at, V *out) {
+    transposeThrees(loadThird<V>(at, 0), loadThird<V>(at, 1), loadThird<V>(at, 2), out);
 }
 
 template <typename V>

@@ -96,10 +96,25 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
 template <typename S>
 constexpr bool kIsArrayOfRows = kIsArray<S> &&decltype(std::declval<const S &>().object(0))::isDense;
 
-// Three elements are transposed in fewer steps by the frame, where they follow each other without a gap.
+template <typename A, typename B>
+ZELM_INLINE bool areThreesWithoutGap(const A &a, const B &b) {
+    constexpr Address bytes = 3 * sizeof(typename A::Element);
+    return a.objStride == bytes && b.objStride == bytes;
+}
+
 template <unsigned N, typename V, typename A, typename B>
 ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,
                                  V (&products)[N]) {
+    if constexpr (kLanesOf < V >> 1 && N == 3 && kIsDenseArray<A> && kIsDenseArray<B>) {
+        if (areThreesWithoutGap(a.operand, b.operand)) {
+            const Address first = a.operand.object(k).start, second = b.operand.object(k).start;
+            const auto third = [&](unsigned number) ZELM_INLINE_LAMBDA {
+                return loadThird<V>(first, number) * loadThird<V>(second, number);
+            };
+            return transposeThrees(third(0), third(1), third(2), products);
+        }
+    }
+    // Three elements with gaps are collected in fewer steps by the frame.
     if constexpr (kLanesOf < V >> 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
         LaneAddresses<V> first, second;
         ZELM_UNROLL
@@ -169,14 +184,14 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
         };
     };
     const auto one = oneBy(b);
-    // In lists of threes and in those whose sums are ones of pairs the null tests and the sum cost less than
-    // collecting the objects does.
+    // Pairs of arrays whose sums are ones of pairs, and short lists: the null tests and the sum cost less
+    // than collecting the objects does.
     constexpr bool byPairs = kSumsByPairs<order, T, Shape::columnsIfFixed>;
     constexpr unsigned N = Shape::columnsIfFixed;
-    constexpr bool areShortLists =
-        A::isList && (N == 3 || byPairs || (kLoadsInGroups<A> && kFillsPack<T, N>));
-    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || areShortLists) {
-        if constexpr (areShortLists && !byPairs && !kIsArray<B>)
+    constexpr bool isShort =
+        byPairs ? A::isList || kIsArray<B> : A::isList && (N == 3 || (kLoadsInGroups<A> && kFillsPack<T, N>));
+    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || isShort) {
+        if constexpr (isShort && !byPairs && !kIsArray<B>)
             if (isUntouched(b, 1, N, results, 1, 1, count))
                 return forEachObject(count, oneBy(Vectors<N, B>(b)), a);
         return forEachObject(count, one, a, b);
