@@ -1,6 +1,7 @@
 // Products of matrices and vectors across objects: one pack per element, of as many objects as it has lanes.
 #pragma once
 
+#include "frame/threes.h"
 #include "products/vector_rows.h"
 
 namespace zelm::products {
@@ -27,31 +28,35 @@ ZELM_INLINE void multiplyRowsAcross(const M &m, std::uint32_t k, const V (&x)[N]
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_NOINLINE ZelmStatus multiplyInGroups(A a, X x, Z z, D d, std::uint32_t count) {
     const AcrossObjects<N, N, A> matrices(a);
-    const AcrossObjects<1, N, X> vectors(x);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<N, isDense>(a.object(k), x.object(k), z.object(k), d.object(k));
         return ZELM_OK;
     };
-    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-        using V = typename decltype(pack)::Pack;
-        V factors[N], added[N], result[N];
-        vectors.loadRowOf(k, 0, factors);
-        if constexpr (kAdds<Z>)
-            loadRow<N>(z, k, 0, added);
-        multiplyRowsAcross<N, isDense, kIsTransposed<A>, 0, kAdds<Z>>(matrices, k, factors, added, result);
-        storeRow<N>(d, k, 0, result);
-        return true;
-    };
     // To gather a matrix to each object takes more than its arithmetic, but where pointers are saved.
     constexpr bool gathers = !D::isList && (!kIsArray<A> || (D::isTable && !kIsArray<X>));
     constexpr Grouping grouping = productGroupingOf<D>(gathers);
-    constexpr InPlace vector = isDense ? InPlace::Yes : InPlace::No;
-    if constexpr (kAdds<Z>)
-        return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(d, 1, N), reads(a, N, N),
-                                         reads(x, 1, N, vector), reads(z, 1, N, vector));
-    else
-        return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(d, 1, N), reads(a, N, N),
-                                         reads(x, 1, N, vector));
+    constexpr InPlace inPlace = isDense ? InPlace::Yes : InPlace::No;
+    const auto run = [&](const auto &vector, const auto &addend, const auto &sum) ZELM_INLINE_LAMBDA {
+        const AcrossObjects<1, N, std::remove_cvref_t<decltype(vector)>> vectors(vector);
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+            using V = typename decltype(pack)::Pack;
+            V factors[N], added[N], result[N];
+            vectors.loadRowOf(k, 0, factors);
+            if constexpr (kAdds<Z>)
+                loadRow<N>(addend, k, 0, added);
+            multiplyRowsAcross<N, isDense, kIsTransposed<A>, 0, kAdds<Z>>(matrices, k, factors, added,
+                                                                          result);
+            storeRow<N>(sum, k, 0, result);
+            return true;
+        };
+        if constexpr (kAdds<Z>)
+            return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(d, 1, N), reads(a, N, N),
+                                             reads(x, 1, N, inPlace), reads(z, 1, N, inPlace));
+        else
+            return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(d, 1, N), reads(a, N, N),
+                                             reads(x, 1, N, inPlace));
+    };
+    return withThrees<N>(run, x, z, d);
 }
 
 } // namespace zelm::products

@@ -142,18 +142,21 @@ ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint3
     if constexpr (D::isList) {
         return forEachObject(count, one, a, b, d);
     } else {
-        const Vectors<3, A> firsts(a);
-        const Vectors<3, B> seconds(b);
-        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-            typename decltype(pack)::Pack first[3], second[3], result[3];
-            firsts.load(k, first);
-            seconds.load(k, second);
-            crossOf(first, second, result);
-            storeRow<3>(d, k, 0, result);
-            return true;
+        const auto run = [&](const auto &first, const auto &second, const auto &result) ZELM_INLINE_LAMBDA {
+            const Vectors<3, std::remove_cvref_t<decltype(first)>> firsts(first);
+            const Vectors<3, std::remove_cvref_t<decltype(second)>> seconds(second);
+            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+                typename decltype(pack)::Pack x[3], y[3], lines[3];
+                firsts.load(k, x);
+                seconds.load(k, y);
+                crossOf(x, y, lines);
+                storeRow<3>(result, k, 0, lines);
+                return true;
+            };
+            return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(d, 1, 3),
+                                                  reads(a, 1, 3, InPlace::Yes), reads(b, 1, 3, InPlace::Yes));
         };
-        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(d, 1, 3),
-                                              reads(a, 1, 3, InPlace::Yes), reads(b, 1, 3, InPlace::Yes));
+        return withThrees<3>(run, a, b, d);
     }
 }
 

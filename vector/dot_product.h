@@ -96,26 +96,16 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
 template <typename S>
 constexpr bool kIsArrayOfRows = kIsArray<S> &&decltype(std::declval<const S &>().object(0))::isDense;
 
-template <typename A, typename B>
-ZELM_INLINE bool areThreesWithoutGap(const A &a, const B &b) {
-    constexpr Address bytes = 3 * sizeof(typename A::Element);
-    return a.objStride == bytes && b.objStride == bytes;
-}
-
 template <unsigned N, typename V, typename A, typename B>
 ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,
                                  V (&products)[N]) {
-    if constexpr (kLanesOf < V >> 1 && N == 3 && kIsDenseArray<A> && kIsDenseArray<B>) {
-        if (areThreesWithoutGap(a.operand, b.operand)) {
-            const Address first = a.operand.object(k).start, second = b.operand.object(k).start;
-            const auto third = [&](unsigned number) ZELM_INLINE_LAMBDA {
-                return loadThird<V>(first, number) * loadThird<V>(second, number);
-            };
-            return transposeThrees(third(0), third(1), third(2), products);
-        }
-    }
-    // Three elements with gaps are collected in fewer steps by the frame.
-    if constexpr (kLanesOf < V >> 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
+    if constexpr (kLanesOf < V >> 1 && kIsThrees<A> && kIsThrees<B>) {
+        const Address first = a.operand.object(k).start, second = b.operand.object(k).start;
+        const auto third = [&](unsigned number) ZELM_INLINE_LAMBDA {
+            return loadThird<V>(first, number) * loadThird<V>(second, number);
+        };
+        transposeThrees(third(0), third(1), third(2), products);
+    } else if constexpr (kLanesOf < V >> 1 && N > 3 && kIsArrayOfRows<A> && kIsArrayOfRows<B>) {
         LaneAddresses<V> first, second;
         ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane) {
@@ -194,18 +184,35 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
         if constexpr (isShort && !byPairs && !kIsArray<B>)
             if (isUntouched(b, 1, N, results, 1, 1, count))
                 return forEachObject(count, oneBy(Vectors<N, B>(b)), a);
+        if constexpr (kHasPlanesOfRunTime<A, Shape::isFixed>) {
+            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+                using V = typename decltype(pack)::Pack;
+                V sum = {};
+                for (std::uint32_t j = 0; j < shape.columns(); ++j)
+                    sum = sum + elementsAt<V>(a, k, j) * elementsAt<V>(b, k, j);
+                storePack(results.object(k).start, sum);
+                return true;
+            };
+            if (shape.columns() <= kMostPositions)
+                return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                      reads(a, 1, shape.columns()),
+                                                      reads(b, 1, shape.columns()));
+        }
         return forEachObject(count, one, a, b);
     } else {
-        const Vectors<N, A> firsts(a);
-        const Vectors<N, B> seconds(b);
-        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-            typename decltype(pack)::Pack products[N];
-            productsOfGroup<N>(firsts, seconds, k, products);
-            storePack(results.object(k).start, sumOf<order>(products));
-            return true;
+        const auto run = [&](const auto &first, const auto &second) ZELM_INLINE_LAMBDA {
+            const Vectors<N, std::remove_cvref_t<decltype(first)>> firsts(first);
+            const Vectors<N, std::remove_cvref_t<decltype(second)>> seconds(second);
+            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+                typename decltype(pack)::Pack products[N];
+                productsOfGroup<N>(firsts, seconds, k, products);
+                storePack(results.object(k).start, sumOf<order>(products));
+                return true;
+            };
+            return forEachInGroups<kVectorGrouping<A>>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                       reads(a, 1, N), reads(b, 1, N));
         };
-        return forEachInGroups<kVectorGrouping<A>>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                                   reads(a, 1, N), reads(b, 1, N));
+        return withThrees<N>(run, a, b);
     }
 }
 

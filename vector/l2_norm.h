@@ -79,6 +79,21 @@ ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count
         return ZELM_OK;
     };
     if constexpr (!Shape::isFixed || !kGainsByGroups<S>) {
+        if constexpr (kHasPlanesOfRunTime<S, Shape::isFixed>) {
+            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+                using V = typename decltype(pack)::Pack;
+                V sum = {};
+                for (std::uint32_t j = 0; j < shape.columns(); ++j) {
+                    const V elements = elementsAt<V>(s, k, j);
+                    sum = sum + elements * elements;
+                }
+                storePack(results.object(k).start, squareRoot(sum));
+                return true;
+            };
+            if (shape.columns() <= kMostPositions)
+                return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                      reads(s, 1, shape.columns()));
+        }
         return forEachObject(count, one, s);
     } else {
         constexpr unsigned N = Shape::columns();

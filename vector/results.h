@@ -7,6 +7,7 @@
 #include "frame/plainest.h"
 #include "frame/shapes.h"
 #include "frame/sums.h"
+#include "frame/threes.h"
 #include "vector/alternate.h"
 
 namespace zelm::vector {
@@ -48,5 +49,23 @@ requires(!kIsArray<S>) struct Vectors<N, S> {
             out[j] = spread<V>(element[j]);
     }
 };
+
+// ---- run-time sizes in planes
+
+// More element positions than this are done object by object: each is tested ahead of the groups.
+constexpr std::uint32_t kMostPositions = 64;
+
+// Whether groups are formed of objects whose size is an argument.
+template <typename S, bool isFixed>
+constexpr bool kHasPlanesOfRunTime = !isFixed && S::isSideBySide;
+
+// The element of an entry, of the objects from k on.
+template <typename V, typename S>
+ZELM_INLINE V elementsAt(const S &s, std::uint32_t k, Address entry) {
+    if constexpr (kIsArray<S>)
+        return loadAs<V>(s.object(k).position(entry));
+    else
+        return spread<V>(load<ElementOf<V>>(s.position(entry)));
+}
 
 } // namespace zelm::vector

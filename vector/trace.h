@@ -75,6 +75,20 @@ ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::ui
         };
         return forEachInGroups<kVectorGrouping<S>>(count, NoBuffer(), group, one, writes(results, 1, 1),
                                                    reads(s, N, N));
+    } else if constexpr (kHasPlanesOfRunTime<S, Size::fixed != 0>) {
+        const std::uint32_t n = size.value();
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+            using V = typename decltype(pack)::Pack;
+            V sum = {};
+            for (std::uint32_t i = 0; i < n; ++i)
+                sum = sum + elementsAt<V>(s, k, Address{i} * n + i);
+            storePack(results.object(k).start, sum);
+            return true;
+        };
+        if (n * n > kMostPositions || n > kMostPositions)
+            return forEachObject(count, one, s);
+        return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                              reads(s, n, n));
     } else {
         return forEachObject(count, one, s);
     }
