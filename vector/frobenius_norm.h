@@ -223,8 +223,8 @@ ZELM_INLINE ZelmStatus frobeniusSingle(const S &s, T *dst, Shape shape) {
 // The dense 32-bit arrays of a fixed size: in the orders 3 and 4 objects by fours as far as they last, the
 // rest one by one. The place of an object decides its tree, also where a group can't be loaded at once.
 template <typename S, unsigned N>
-ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, float *dst, FixedShape<N, N> shape, std::uint32_t count) {
-    const DenseArray<float> results = resultsAt(dst);
+ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &results, FixedShape<N, N> shape,
+                                        std::uint32_t count) {
     const auto store = [&](std::uint32_t k, float sum) ZELM_INLINE_LAMBDA {
         results.object(k).set(0, rootByRefinedReciprocal(sum));
         return ZELM_OK;
@@ -266,8 +266,7 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
 
 // All other arrays.
 template <typename S, typename T, typename Shape>
-ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, T *dst, Shape shape, std::uint32_t count) {
-    const DenseArray<T> results = resultsAt(dst);
+ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape shape, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
         return ZELM_OK;
@@ -292,12 +291,13 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
             checkArray(shape.isZero(), count, tested(s, shape.elements()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
+    const DenseArray<T> results = resultsAt(dst);
     if constexpr (Shape::isFixed && decltype(s.object(0))::isDense && sizeof(T) == 4)
-        return frobeniusByTrees(s, dst, shape, count);
+        return frobeniusByTrees(s, results, shape, count);
     else
         return withPlainestVectors<Shape::isFixed>(
             [&](const auto &plain)
-                ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, dst, shape, count); },
+                ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, results, shape, count); },
             s);
 }
 

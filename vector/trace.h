@@ -58,8 +58,7 @@ ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
 }
 
 template <typename S, typename T, typename Size>
-ZELM_NOINLINE ZelmStatus tracesOf(S s, T *dst, Size size, std::uint32_t count) {
-    const DenseArray<T> results = resultsAt(dst);
+ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         if constexpr (decltype(s.object(0))::isDense && !S::isList && Size::fixed != 0)
             results.object(k).set(0, traceOf<Size::fixed>(s.object(k)));
@@ -102,12 +101,13 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
             checkArray(size.isZero(), count, tested(s, size.value()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
+    const DenseArray<T> results = resultsAt(dst);
     // Only planes gain by it: the dense forms begin their sums in another way.
     if constexpr (S::isTable)
         return withPlainestVectors<Size::fixed != 0>(
-            [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, dst, size, count); }, s);
+            [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, results, size, count); }, s);
     else
-        return tracesOf(s, dst, size, count);
+        return tracesOf(s, results, size, count);
 }
 
 } // namespace zelm::vector
