@@ -45,7 +45,7 @@ ZELM_INLINE ThreesArray<T> asThrees(const DenseArray<T> &array) {
 template <unsigned N, typename Use, typename... Operands>
 ZELM_INLINE auto withThrees(Use use, const Operands &...operands) {
     if constexpr (N == 3 && (kIsDenseArray<Operands> || ...))
-        if ((mayBeThrees(operands) && ...))
+        if (__builtin_expect((mayBeThrees(operands) && ...), 1))
             return use(asThrees(operands)...);
     return use(operands...);
 }
