@@ -40,14 +40,11 @@ ZELM_INLINE decltype(auto) inputOf(const Object &object) {
 }
 
 template <typename Shape, typename T>
-ZELM_INLINE TransposedStream<T, Shape::columns()> inputOf(const Transposed<Dense<const T>> &object) {
-    return {object};
-}
-
-template <typename Shape>
-requires(Shape::isFixed &&Shape::rows() == 4 && Shape::columns() == 4) ZELM_INLINE TransposedFour
-    inputOf(const Transposed<Dense<const float>> &object) {
-    return TransposedFour(object);
+ZELM_INLINE auto inputOf(const Transposed<Dense<const T>> &object) {
+    if constexpr (Shape::rows() == 4 && Shape::columns() == 4)
+        return TransposedFour<T>(object);
+    else
+        return TransposedStream<T, Shape::columns()>{object};
 }
 
 // ---- all objects of an array, one behind the other, as the input of one run
@@ -146,10 +143,8 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
         // Expected, so that the run stands where the function begins.
         if (__builtin_expect((!holdsMatrix || count >= kHeldMatrixCount) && isGapless(a, shape) &&
                                  isGapless(b, shape) && isGapless(d, shape),
-                             1)) {
-            run<Op, T>(inputOfAll(a), inputOfAll(b), d.start, count * shape.elements());
-            return ZELM_OK;
-        }
+                             1))
+            return longRun<Op, T>(inputOfAll(a), inputOfAll(b), d.start, count * shape.elements());
     }
     const auto objects = [&](auto compute) ZELM_INLINE_LAMBDA {
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {

@@ -21,23 +21,71 @@ ZELM_INLINE ZelmStatus invariantReadAnew(const A &a, const B &b, const D &d, Sha
 // is stored, and the last object is finished after the loop, so that a count of 0 computes and stores object
 // 0 as a count of 1 does.
 
+// In packs: eight elements and one where rows have no gap, two and one of each row elsewhere.
+template <bool isGapless>
 struct NineFloats {
-    float element[9];
+    static constexpr unsigned parts = isGapless ? 2 : 3, singles = isGapless ? 1 : 3;
+    Floats4 part[parts];
+    float single[singles];
 };
 
-ZELM_INLINE NineFloats readObject(const Dense<const float> &object) {
-    NineFloats read;
+template <bool isGapless>
+ZELM_INLINE NineFloats<isGapless> readObject(const Dense<const float> &object) {
+    NineFloats<isGapless> read;
     ZELM_UNROLL
-    for (unsigned e = 0; e < 9; ++e)
-        store(addressOf(&read.element[e]), object.get(e / 3, e % 3, 3));
+    for (unsigned i = 0; i < read.parts; ++i) {
+        if constexpr (isGapless)
+            read.part[i] = loadPack<float>(object.start + i * kBlockBytes);
+        else
+            read.part[i] = loadTwo(object.rowStart(i)), read.single[i] = object.get(i, 2, 3);
+    }
+    if constexpr (isGapless)
+        read.single[0] = load<float>(object.start + 2 * kBlockBytes);
     return read;
 }
 
-template <typename Op, typename B>
-ZELM_INLINE void storeObject(const NineFloats &read, const B &held, const Dense<float> &d) {
+template <typename Op, bool isGapless>
+ZELM_INLINE void storeObject(const NineFloats<isGapless> &read, const NineFloats<isGapless> &held,
+                             const Dense<float> &d) {
     ZELM_UNROLL
-    for (unsigned e = 0; e < 9; ++e)
-        d.set(e / 3, e % 3, 3, Op::template apply<float>(read.element[e], held.elements[e]));
+    for (unsigned i = 0; i < read.parts; ++i) {
+        const Floats4 part = Op::apply(read.part[i], held.part[i]);
+        if constexpr (isGapless) {
+            storePack(d.start + i * kBlockBytes, part);
+        } else {
+            _mm_storel_pi(reinterpret_cast<__m64 *>(d.rowStart(i)), part);
+            d.set(i, 2, 3, Op::template apply<float>(read.single[i], held.single[i]));
+        }
+    }
+    if constexpr (isGapless)
+        store(d.start + 2 * kBlockBytes, Op::template apply<float>(read.single[0], held.single[0]));
+}
+
+// The objects, of which dst's last one starts at `last`.
+template <typename Op, bool isGapless, typename A, typename D>
+ZELM_INLINE ZelmStatus pipelinedObjects(const A &a, const Dense<const float> &b, const D &d, Address last,
+                                        std::uint32_t count) {
+    const NineFloats<isGapless> held = readObject<isGapless>(b);
+    NineFloats<isGapless> read = readObject<isGapless>(a.object(0));
+    for (std::uint32_t k = 1; k < count; ++k) {
+        if (a.entryIsNull(k) || d.entryIsNull(k - 1))
+            return ZELM_ERR_NULL_PTR;
+        const NineFloats<isGapless> next = readObject<isGapless>(a.object(k));
+        storeObject<Op>(read, held, d.object(k - 1));
+        read = next;
+    }
+    storeObject<Op>(read, held, Dense<float>(last, d.rowStride));
+    return ZELM_OK;
+}
+
+template <typename Op, typename A, typename Held, typename D>
+ZELM_INLINE ZelmStatus pipelinedByRows(const A &a, const Held &held, const D &d, Address last,
+                                       std::uint32_t count) {
+    const FixedShape<3, 3> shape;
+    const Dense<const float> b(addressOf(held.elements), 3 * sizeof(float));
+    return rowsAreGapless(a, shape) && rowsAreGapless(d, shape)
+               ? pipelinedObjects<Op, true>(a, b, d, last, count)
+               : pipelinedObjects<Op, false>(a, b, d, last, count);
 }
 
 template <typename Op, typename B>
@@ -49,14 +97,7 @@ ZELM_INLINE ZelmStatus pipelined(const DenseArray<const float> &a, const B &b, c
     // Where nothing is stored that is read later, the order can't be seen.
     if (count != 0 && count <= kMostObjectsInRange && isUntouched(a, 3, 3, d, 3, 3, count))
         return denseArray<Op>(a, held, d, shape, count);
-    NineFloats read = readObject(a.object(0));
-    for (std::uint32_t k = 1; k < count; ++k) {
-        const NineFloats next = readObject(a.object(k));
-        storeObject<Op>(read, held, d.object(k - 1));
-        read = next;
-    }
-    storeObject<Op>(read, held, d.object(count == 0 ? 0 : count - 1));
-    return ZELM_OK;
+    return pipelinedByRows<Op>(a, held, d, d.object(count == 0 ? 0 : count - 1).start, count);
 }
 
 // The lists also test src1Table[0] and dstTable[count-1] ahead of the loop, and in it src1Table[k] and
@@ -71,17 +112,7 @@ ZELM_INLINE ZelmStatus pipelined(const DenseList<const float> &a, const B &b, co
     const Address last = load<Address>(addressOf(d.table) + (Address{count} - 1) * sizeof(Address));
     if (last == 0)
         return ZELM_ERR_NULL_PTR;
-    const auto held = hold<FixedShape<3, 3>>(b);
-    NineFloats read = readObject(a.object(0));
-    for (std::uint32_t k = 1; k < count; ++k) {
-        if (a.entryIsNull(k) || d.entryIsNull(k - 1))
-            return ZELM_ERR_NULL_PTR;
-        const NineFloats next = readObject(a.object(k));
-        storeObject<Op>(read, held, d.object(k - 1));
-        read = next;
-    }
-    storeObject<Op>(read, held, Dense<float>(last + d.shift, d.rowStride));
-    return ZELM_OK;
+    return pipelinedByRows<Op>(a, hold<FixedShape<3, 3>>(b), d, last + d.shift, count);
 }
 
 // The mamT members among them don't read src2RowStride: the rows of src2 lie at src1's row stride.
@@ -103,8 +134,8 @@ ZELM_INLINE ZelmStatus lastColumnAtSecondRowStride(const A &a, const B &b, const
         return status;
     const auto objects = [&](const auto &second) ZELM_INLINE_LAMBDA {
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-            const auto first = a.object(k);
-            const auto other = second.object(k);
+            const auto &first = a.object(k);
+            const auto &other = second.object(k);
             const auto result = d.object(k);
             for (std::uint32_t i = 0; i < 5; ++i) {
                 for (std::uint32_t j = 0; j < 4; ++j)
@@ -166,8 +197,8 @@ ZELM_INLINE ZelmStatus byTableOfElements(const A &a, const B &b, const D &d, Fix
         status != kProceed)
         return status;
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        const auto first = a.object(k);
-        const auto second = b.object(k);
+        const auto &first = a.object(k);
+        const auto &second = b.object(k);
         const auto result = d.object(k);
         whileTrue(shape, [&](std::uint32_t i, std::uint32_t j) ZELM_INLINE_LAMBDA {
             const StoredElement from = kStoredElement[i][j];
@@ -302,16 +333,23 @@ ZELM_INLINE bool straddlesPairs(const A &a, const B &b) {
         return false;
 }
 
+template <typename Operand, typename Shape>
+ZELM_INLINE Doubles2 pairOf(const Operand &operand, std::uint32_t i, std::uint32_t j, Shape shape) {
+    if constexpr (kIsTransposed<Operand>)
+        return _mm_setr_pd(value(operand, i, j, shape), value(operand, i, j + 1, shape));
+    else
+        return inputRow(operand, i).template pack<Doubles2>(j, 0);
+}
+
 // The elements (i, j) and (i, j + 1), stored as one; `oneByOne` where they straddle.
 template <typename Op, bool oneByOne, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE void alignedPair(const A &a, const B &b, const D &d, Shape shape, std::uint32_t i,
                              std::uint32_t j) {
-    __m128d left = _mm_setr_pd(value(a, i, j, shape), value(a, i, j + 1, shape));
-    __m128d right = _mm_setr_pd(value(b, i, j, shape), value(b, i, j + 1, shape));
+    Doubles2 left = pairOf(a, i, j, shape), right = pairOf(b, i, j, shape);
     if constexpr (oneByOne) {
-        d.set(i, j, shape.columns(), Op::template apply<double>(_mm_cvtsd_f64(left), _mm_cvtsd_f64(right)));
-        left = _mm_setr_pd(_mm_cvtsd_f64(left), value(a, i, j + 1, shape));
-        right = _mm_setr_pd(_mm_cvtsd_f64(right), value(b, i, j + 1, shape));
+        d.set(i, j, shape.columns(), Op::template apply<double>(left[0], right[0]));
+        left[1] = value(a, i, j + 1, shape);
+        right[1] = value(b, i, j + 1, shape);
     }
     _mm_store_pd(reinterpret_cast<double *>(d.rowStart(i) + j * sizeof(double)), Op::apply(left, right));
 }
@@ -332,8 +370,8 @@ ZELM_INLINE void alignedObject(const A &a, const B &b, const D &d, Shape shape) 
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus alignedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        const auto first = a.object(k);
-        const auto second = b.object(k);
+        const auto &first = a.object(k);
+        const auto &second = b.object(k);
         if (straddlesPairs(first, second))
             alignedObject<Op, true>(first, second, d.object(k), shape);
         else

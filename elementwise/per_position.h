@@ -118,7 +118,7 @@ ZELM_NOINLINE bool runPerPosition(A a, B b, D d, Shape shape, std::uint32_t coun
             const auto second = inputAtEntry(b, entryNumber(b, i, j, shape));
             const Address to = d.object(0).position(Address{i} * shape.columns() + j);
             if constexpr (D::isSideBySide)
-                run<Op, T>(first, second, to, count);
+                longRun<Op, T>(first, second, to, count);
             else
                 elementsOfRow<Op>(rowsOfInput(first), rowsOfInput(second), Rows<T>{to, d.objStride, 0},
                                   count);

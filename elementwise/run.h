@@ -6,6 +6,7 @@
 #include "frame/shuffles.h"
 #include "frame/widths.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace zelm::elementwise {
@@ -136,19 +137,31 @@ struct TransposedStream {
     static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
-// Four rows of four elements of 32-bit float used transposed: read as rows, and ahead of all that is written.
+// Four rows of four elements used transposed: read as rows, and ahead of all that is written.
+template <typename T>
 struct TransposedFour {
-    Floats4 row[4];
-    ZELM_INLINE explicit TransposedFour(const Dense<const float> &stored) {
-        ZELM_UNROLL
-        for (unsigned i = 0; i < 4; ++i)
-            row[i] = loadPack<float>(stored.rowStart(i));
-        transposeFour(row[0], row[1], row[2], row[3]);
+    Pack<T> packs[16 / kLanes<T>];
+    ZELM_INLINE explicit TransposedFour(const Dense<const T> &stored) {
+        if constexpr (sizeof(T) == 4) {
+            ZELM_UNROLL
+            for (unsigned i = 0; i < 4; ++i)
+                packs[i] = loadPack<T>(stored.rowStart(i));
+            transposeFour(packs[0], packs[1], packs[2], packs[3]);
+        } else {
+            ZELM_UNROLL
+            for (unsigned block = 0; block < 4; ++block) {
+                const unsigned i = block / 2 * 2, half = block % 2;
+                const Pack<T> upper = loadPack<T>(stored.rowStart(i) + half * kBlockBytes);
+                const Pack<T> lower = loadPack<T>(stored.rowStart(i + 1) + half * kBlockBytes);
+                packs[4 * half + i / 2] = interleaveLow(upper, lower);
+                packs[4 * half + i / 2 + 2] = interleaveHigh(upper, lower);
+            }
+        }
     }
-    ZELM_INLINE float element(Address e) const { return row[e / 4][e % 4]; }
+    ZELM_INLINE T element(Address e) const { return packs[e / kLanes<T>][e % kLanes<T>]; }
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
-        return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA { return row[e / 4 + b]; });
+        return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA { return packs[e / kLanes<T> + b]; });
     }
     static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
@@ -169,7 +182,7 @@ struct HeldPacks {
 };
 
 template <typename V, typename T, unsigned N>
-requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE
+requires(HeldVector<T, N>::template period<V> <= 4) ZELM_INLINE
     auto inRegisters(const HeldVector<T, N> &input) {
     constexpr unsigned number = HeldVector<T, N>::template period<V>;
     HeldPacks<V, number> packs;
@@ -179,60 +192,69 @@ requires(HeldVector<T, N>::template period<V> <= 3) ZELM_INLINE
     return packs;
 }
 
-// Whole packs from element i on, the widest first; the number of the first element that is left.
-template <typename Op, typename V, typename A, typename B>
+// Whole packs from element i on, about `packs` of them a round, the widest first; the number of the first
+// element that is left.
+template <typename Op, typename V, unsigned packs, typename A, typename B>
 ZELM_INLINE Address runPacks(const A &a, const B &b, Address dst, Address i, Address length) {
     constexpr unsigned period = std::lcm(A::template period<V>, B::template period<V>);
-    // At least four packs a round: shorter loops depend on where in a line of instructions they begin.
-    constexpr unsigned round = period * ((3 + period) / period), lanes = kLanesOf<V>;
+    constexpr unsigned round = std::max(period, packs / period * period);
+    constexpr unsigned lanes = kLanesOf<V>;
     const auto &first = inRegisters<V>(a);
     const auto &second = inRegisters<V>(b);
     const auto step = [&](Address at, unsigned p) ZELM_INLINE_LAMBDA {
         storePack(dst + at * sizeof(ElementOf<V>),
                   Op::apply(first.template pack<V>(at, p), second.template pack<V>(at, p)));
     };
+    const auto rounds = [&]<unsigned... p>(std::integer_sequence<unsigned, p...> all) ZELM_INLINE_LAMBDA {
+        for (; length - i >= all.size() * lanes; i += all.size() * lanes)
+            (step(i + p * lanes, p), ...);
+    };
     if (!a.isCloselyBehind(dst, sizeof(V)) && !b.isCloselyBehind(dst, sizeof(V))) {
-        for (; length - i >= round * lanes; i += round * lanes) {
-            ZELM_UNROLL
-            for (unsigned p = 0; p < round; ++p)
-                step(i + p * lanes, p);
-        }
-        if constexpr (period == 1)
-            for (; length - i >= lanes; i += lanes)
-                step(i, 0);
+        rounds(std::make_integer_sequence<unsigned, round>());
+        if constexpr (period < round)
+            rounds(std::make_integer_sequence<unsigned, period>());
     }
     if constexpr (sizeof(V) > kBlockBytes)
-        return runPacks<Op, Pack<ElementOf<V>, sizeof(V) / 2>>(a, b, dst, i, length);
+        return runPacks<Op, Pack<ElementOf<V>, sizeof(V) / 2>, packs>(a, b, dst, i, length);
     else
         return i;
 }
 
-template <typename Op, typename V, typename A, typename B>
+template <typename Op, typename V, unsigned packs, typename A, typename B>
 ZELM_INLINE void runFrom(const A &a, const B &b, Address dst, Address length) {
     using T = ElementOf<V>;
     Address i = 0;
     if (length >= 2 * kLanes<T>)
-        i = runPacks<Op, V>(a, b, dst, i, length);
+        i = runPacks<Op, V, packs>(a, b, dst, i, length);
     for (; i < length; ++i)
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
 }
 
-// Wide packs are worth their tests from a round of them on. They stand apart, so that a loop over short rows
-// is what it is without them.
-template <typename T>
-constexpr Address kLongRun = 4 * kRunBytes / sizeof(T);
+// A loop of few packs takes up to twice as long where it begins at a place that the processor fetches badly.
+constexpr unsigned kPacksOfRow = 4, kPacksOfArray = 8;
 
+// A run over a whole array. One instance serves all shapes. Its status, always the same, lets callers end
+// with it and need no frame.
 template <typename Op, typename T, typename A, typename B>
-ZELM_NOINLINE void longRun(A a, B b, Address dst, Address length) {
-    runFrom<Op, Pack<T, kRunBytes>>(a, b, dst, length);
+ZELM_NOINLINE ZelmStatus longRun(A a, B b, Address dst, Address length) {
+    runFrom<Op, Pack<T, kRunBytes>, kPacksOfArray>(a, b, dst, length);
+    return ZELM_OK;
 }
+
+// A run over one row. Wide packs are worth their tests from a round of them on. They stand apart, so that a
+// loop over short rows is what it is without them.
+template <typename T>
+constexpr Address kLongRow = 4 * kRunBytes / sizeof(T);
 
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
-    if constexpr (kRunBytes > kBlockBytes)
-        if (length >= kLongRun<T>)
-            return longRun<Op, T>(a, b, dst, length);
-    runFrom<Op, Pack<T>>(a, b, dst, length);
+    if constexpr (kRunBytes > kBlockBytes) {
+        if (length >= kLongRow<T>) {
+            longRun<Op, T>(a, b, dst, length);
+            return;
+        }
+    }
+    runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
 }
 
 // The same for the elements i to N - 1, without a loop.

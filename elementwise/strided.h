@@ -5,6 +5,9 @@
 
 namespace zelm::elementwise {
 
+// Two steps a round where the number of steps isn't known.
+#define ZELM_UNROLL_TWICE _Pragma("GCC unroll 2")
+
 // An address that the compiler takes as it is. It would form the addresses of all elements of an object ahead
 // of the loop over objects, which are more than it has registers.
 ZELM_INLINE Address asItIs(Address address) {
