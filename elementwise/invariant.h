@@ -155,7 +155,10 @@ ZELM_INLINE ZelmStatus holdingWhilePossible(const A &a, const B &b, const D &d, 
             else
                 return Watch(b, d, shape);
         }();
-        if (!watch.isPossible())
+        // What is held may be a product, which is not asked for where there is no first object or it is
+        // reached.
+        const bool isFirstNull = a.entryIsNull(0) || b.entryIsNull(0) || d.entryIsNull(0);
+        if (isFirstNull || !watch.isPossible() || watch.isReached(0, d.object(0).start))
             return anew(0);
         const ZelmStatus status = useHeld(watch);
         return status == kReached ? anew(watch.reachedAt()) : status;

@@ -95,5 +95,20 @@ TEST(Exceptions, LanesBesideThreeElementsDoNotTrap) {
     EXPECT_GT(counts.withInvalidUnmasked, counts.calls / 4);
 }
 
+// An operand that serves all objects is multiplied ahead of them. Where the first object overwrites it, or is
+// missing, not all of these products are asked for.
+TEST(Exceptions, ProductsAheadOfTheFirstObjectDoNotTrap) {
+    installCrashHandler();
+    Counts counts;
+    forEachFunction([&](const Target &target, AnyFunction function) {
+        const std::string_view operation = target.function->operation, layout = target.function->layout;
+        if ((operation != "Saxpy" && operation != "LComb") || (layout != "L" && layout != "LS2"))
+            return;
+        for (std::uint64_t seed = 400; seed < 420; ++seed)
+            callUnmasked(target, function, seed, hasFiniteSources, counts);
+    });
+    EXPECT_GT(counts.withInvalidUnmasked, counts.calls / 4);
+}
+
 } // namespace
 } // namespace zelmtest
