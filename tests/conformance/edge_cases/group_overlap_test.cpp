@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <sys/mman.h>
@@ -31,6 +32,10 @@ ZelmStatus solve(const float *b, std::int32_t bStep, float *x, std::int32_t xSte
 ZelmStatus solve(const double *b, std::int32_t bStep, double *x, std::int32_t xStep) {
     return zelmCholeskyBackSubst_mv_64f_3x3_S2(factor<double>, bytes<double>(n), bytes<double>(1), b, bStep,
                                                x, xStep);
+}
+
+float *at(std::uintptr_t place) {
+    return reinterpret_cast<float *>(place);
 }
 
 // Vectors in memory: where each of them starts, and how far apart its elements lie.
@@ -130,6 +135,17 @@ TEST(GroupOverlap, OneResultBesideTheRightSideThatTheOthersReplace) {
         }
 }
 
+TEST(GroupOverlap, TwoResultsOfAListThatOverlap) {
+    for (std::uint32_t k = 1; k < count; ++k)
+        for (std::uint32_t before = 0; before < k; ++before)
+            for (std::int64_t by = -2; by <= 2; ++by) {
+                SCOPED_TRACE(testing::Message() << "object " << k << " by " << by << " behind " << before);
+                Vectors x = row(200, 4, 1, count);
+                x.starts[k] = x.starts[before] + by;
+                expectListsInOrder(row(20, 4, 1, count), x);
+            }
+}
+
 template <class T>
 std::vector<T> solvedAsArrays(const Vectors &b, const Vectors &x, std::int64_t bObj, std::int64_t xObj) {
     std::vector<T> memory = numbers<T>();
@@ -171,6 +187,30 @@ TEST(GroupOverlap, ArraysAtAllSmallStrides) {
     for (const std::uint32_t objects : {2u, 4u, 5u, count})
         for (const std::int64_t by : {-3, -1, 0, 1, 3, 300})
             expectArraysInOrder(objects, by);
+}
+
+TEST(GroupOverlap, PositionsOfResultsThatLieAcrossEachOther) {
+    std::vector<const float *> matrix;
+    for (std::uint32_t e = 0; e < n * n; ++e)
+        matrix.push_back(factor<float> + e);
+    for (std::int64_t apart = 0; apart <= count; ++apart)
+        for (const std::int64_t obj : {1, 2}) {
+            const Vectors b = row(20, obj, 100, count), x = row(400, obj, apart, count);
+            std::vector<float> memory = numbers<float>();
+            std::vector<const float *> right;
+            std::vector<float *> results;
+            for (std::uint32_t j = 0; j < n; ++j) {
+                right.push_back(&memory[20 + j * 100]);
+                results.push_back(memory.data() + 400 + j * apart);
+            }
+            EXPECT_EQ(obj == 1 ? zelmCholeskyBackSubst_mva_32f_3x3_P(matrix.data(), 0, right.data(), 0,
+                                                                     results.data(), 0, count)
+                               : zelmCholeskyBackSubst_mva_32f_3x3_PS2(matrix.data(), 0, right.data(), 0,
+                                                                       bytes<float>(obj), results.data(), 0,
+                                                                       bytes<float>(obj), count),
+                      ZELM_OK);
+            EXPECT_EQ(memory, solvedOneByOne<float>(b, x)) << apart << " apart, objects " << obj;
+        }
 }
 
 // ---- matrices
@@ -262,6 +302,7 @@ public:
         return static_cast<Word *>(memory);
     }
     void putResult(std::uint32_t k, Word *place) { tables_[2][ahead + k] = place; }
+    void putRight(std::uint32_t k, Word value) { std::fill_n(&right_[k * n], n, value); }
     Word result(std::uint32_t k) const {
         Word first;
         std::memcpy(&first, places_[k], sizeof first);
@@ -310,6 +351,48 @@ TEST(GroupOverlap, EntriesAreReadWhenTheirObjectsTurnComes) {
                     expectEntriesReadInTurn(table, k, over, objects);
 }
 
+TEST(GroupOverlap, ResultsOnBothSidesOfATableOverlap) {
+    constexpr std::uint32_t objects = 20;
+    for (std::size_t table = 0; table < 3; ++table) {
+        Tables tables(table, objects);
+        Word *const front = tables.room(table, 0) - Tables::ahead;
+        for (std::uint32_t k = 0; k < objects; ++k) {
+            tables.putRight(k, static_cast<Word>(k + 1));
+            tables.putResult(k, k < 2 ? front + k : tables.room(table, objects + n * k));
+        }
+        EXPECT_EQ(tables.solve(), ZELM_OK);
+        Word results[n + 1];
+        std::memcpy(results, front, sizeof results);
+        EXPECT_EQ(std::to_array(results), (std::array<Word, n + 1>{1, 2, 2, 2}));
+    }
+}
+
+// What is read lies above the other results, the tables on the heap as well.
+TEST(GroupOverlap, AResultThatItsShiftBringsToNullIsPassedOver) {
+    constexpr std::int32_t shift = bytes<float>(-4);
+    static struct {
+        std::array<float, n * count> results, right;
+        float matrix[n * n];
+    } memory;
+    auto &[results, right, matrix] = memory;
+    right.fill(1);
+    std::copy_n(factor<float>, n * n, matrix);
+    for (std::uint32_t null = 0; null < count; ++null) {
+        results.fill(7);
+        std::vector<float *> places;
+        std::vector<const float *> rights, factors(count, matrix);
+        for (std::uint32_t k = 0; k < count; ++k) {
+            places.push_back(k == null ? at(static_cast<std::uintptr_t>(-shift)) : &results[n * k] + 4);
+            rights.push_back(&right[n * k]);
+        }
+        EXPECT_EQ(zelmCholeskyBackSubst_mava_32f_3x3_L(factors.data(), 0, bytes<float>(n), rights.data(), 0,
+                                                       places.data(), shift, count),
+                  ZELM_OK);
+        for (std::uint32_t k = 0; k < count; ++k)
+            EXPECT_EQ(results[n * k] == 7, k == null) << k << ", without " << null;
+    }
+}
+
 // ---- low memory
 
 // Pages at places of their own; without them there is nothing to test.
@@ -337,10 +420,6 @@ private:
     std::vector<void *> mapped_;
     bool areThere_ = true;
 };
-
-float *at(std::uintptr_t place) {
-    return reinterpret_cast<float *>(place);
-}
 
 // So far apart lie the elements of a right side that there is no room for one below the results.
 TEST(GroupOverlap, ResultsInLowMemoryOverRightSides) {
