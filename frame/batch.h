@@ -253,11 +253,12 @@ ZELM_INLINE bool stretchIsApart(std::uint32_t first, std::uint32_t last, const R
 template <typename Memory, typename... S>
 ZELM_INLINE bool missesInvariants(const Range &target, const Memory &buffer, const Source<S> &...s) {
     const auto misses = [&](const auto &source) {
-        if constexpr (kIsArray<typename std::remove_cvref_t<decltype(source)>::Operand>)
+        if constexpr (kIsArray<typename std::remove_cvref_t<decltype(source)>::Operand>) {
             return true;
-        else
-            return isKnown(target) &&
-                   areDisjoint(rangeOfObject(source.operand, source.rows, source.columns), target);
+        } else {
+            const Range held = rangeOfObject(source.operand, source.rows, source.columns);
+            return isKnown(target) && isKnown(held) && areDisjoint(held, target);
+        }
     };
     if constexpr (!Memory::isNone)
         if (buffer.isShared && !buffer.isWritten &&

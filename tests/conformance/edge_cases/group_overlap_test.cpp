@@ -483,6 +483,41 @@ TEST(GroupOverlap, RightSidesOverTheEndOfTheAddressSpace) {
     }
     EXPECT_EQ(results[0], results[1]);
 }
+// One matrix for all systems of a list, with a result over its second row: what follows is solved by the new
+// row.
+TEST(GroupOverlap, AMatrixOverTheEndOfTheAddressSpace) {
+    constexpr std::uintptr_t first = 0xf0000000u, far = 0x18000000u;
+    constexpr std::uint32_t over = 5;
+    constexpr float elements[n][n] = {{2, 1, 1}, {0.5f, 4, 1}, {0.25f, 0.5f, 8}};
+    constexpr std::uint32_t pivots[] = {0, 1, 2};
+    const Pages pages({first, first + far, first + 2 * far});
+    if (!pages.areThere())
+        GTEST_SKIP() << "other memory lies there";
+    std::vector<float> results[2];
+    for (std::vector<float> &x : results) {
+        for (std::uint32_t i = 0; i < n; ++i)
+            std::copy_n(elements[i], n, at(first + i * far));
+        std::vector<float> b(n * count);
+        x.resize(n * count);
+        std::vector<const float *> right;
+        std::vector<float *> dst;
+        for (std::uint32_t k = 0; k < count; ++k) {
+            std::fill_n(&b[n * k], n, static_cast<float>(k + 1));
+            right.push_back(&b[n * k]);
+            dst.push_back(k == over ? at(first + far) : &x[n * k]);
+        }
+        if (&x == results)
+            EXPECT_EQ(zelmLUBackSubst_mva_32f_3x3_L(at(first), 0, far, pivots, right.data(), 0, dst.data(), 0,
+                                                    count),
+                      ZELM_OK);
+        else
+            for (std::uint32_t k = 0; k < count; ++k)
+                EXPECT_EQ(zelmLUBackSubst_mv_32f_3x3(at(first), far, pivots, right[k], dst[k]), ZELM_OK);
+        std::copy_n(at(first + far), n, &x[n * over]);
+    }
+    EXPECT_EQ(results[0], results[1]);
+}
+
 #endif
 
 } // namespace
