@@ -196,7 +196,8 @@ ZELM_INLINE Floats4 inAllLanes(Floats4 pack) {
 // and stored over each other, never outside of the matrix.
 
 ZELM_INLINE Floats4 loadThree(Address from) {
-    return _mm_shuffle_ps(loadTwo(from), loadTwo(from + 4), _MM_SHUFFLE(1, 1, 1, 0));
+    const Floats4 third = _mm_load_ss(reinterpret_cast<const float *>(from + 8));
+    return _mm_shuffle_ps(loadTwo(from), third, _MM_SHUFFLE(0, 0, 1, 0));
 }
 
 template <typename A>

@@ -33,10 +33,14 @@ ZELM_INLINE void multiplyVectorHeld(const A &a, const T (&x)[N], const D &d) {
 
 // ---- dense objects of a fixed size: as many rows at once as a pack has lanes
 
+ZELM_INLINE Floats4 loadTwoTwice(Address from) {
+    return _mm_castpd_ps(spread<Doubles2>(load<double>(from)));
+}
+
 // Of less than a pack elements stand in more than one lane: lanes that nothing stores raise no exception
 // then.
 ZELM_INLINE Floats4 loadSome(Address from, unsigned number, float) {
-    return number >= 4 ? loadPack<float>(from) : number == 3 ? loadThree(from) : loadTwoAndTwo(from, from);
+    return number >= 4 ? loadPack<float>(from) : number == 3 ? loadThree(from) : loadTwoTwice(from);
 }
 
 ZELM_INLINE Doubles2 loadSome(Address from, unsigned, double) {
