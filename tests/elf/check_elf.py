@@ -282,11 +282,12 @@ def rounding(_, options):
 
 
 def x87(_, options):
-    """No x87 or MMX instruction: x87 rounds twice, and already its moves quieten a signalling NaN."""
+    """No x87 or MMX instruction: x87 rounds twice, and already its moves quieten a signalling NaN. Reading the control
+    word computes and moves nothing."""
     return _per_function(
         (function, mnemonic, operands)
         for function, mnemonic, operands in disassemble(options)
-        if (mnemonic.startswith("f") or re.search(r"%mm\d", operands) or mnemonic == "emms")
+        if ((mnemonic.startswith("f") and mnemonic != "fnstcw") or re.search(r"%mm\d", operands) or mnemonic == "emms")
         and not X87_FUNCTIONS.match(function)
     )
 
