@@ -58,35 +58,35 @@ ZELM_NOINLINE ZelmStatus determinantsByElimination(const S &s, void *scratch, T 
 
 // ---- the closed expansion in the element type
 
-// Order 3 is short enough to stand where it is called.
-template <unsigned N, typename T>
-ZELM_INLINE void storeDeterminantOf(const T (&a)[N][N], const Dense<T> &result) {
-    T determinant;
-    if constexpr (N == 3)
-        determinant = determinantOfOrder3(a);
-    else
+// Orders 3 and 4 are short enough to stand where they are called: then their elements need no memory.
+template <unsigned N, typename V>
+ZELM_INLINE V determinantHere(const V (&a)[N][N]) {
+    const auto element = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return a[i][j]; };
+    if constexpr (N == 3) {
+        return determinantOfOrder3(a);
+    } else if constexpr (N == 4) {
+        return expandByMinors<N, V>(element, MinorsAsTheyAre{});
+    } else {
+        V determinant;
         determinantOf(a, determinant);
-    result.set(0, determinant);
+        return determinant;
+    }
 }
 
 template <unsigned N, typename T, typename S>
 ZELM_INLINE void determinantInElementType(const S &s, const Dense<T> &result) {
     T a[N][N];
     readMatrix(s, a);
-    storeDeterminantOf(a, result);
+    result.set(0, determinantHere(a));
 }
 
 template <typename V, unsigned N, typename S>
 ZELM_NOINLINE std::uint32_t determinantsOfGroups(const S &s, Address results, std::uint32_t k,
                                                  std::uint32_t end) {
     return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
-        V a[N][N], determinants;
+        V a[N][N];
         loadMatrix(s, group, a);
-        if constexpr (N == 3)
-            determinants = determinantOfOrder3(a);
-        else
-            determinantOf(a, determinants);
-        storePack(results + group * sizeof(ElementOf<V>), determinants);
+        storePack(results + group * sizeof(ElementOf<V>), determinantHere(a));
         return true;
     });
 }
@@ -166,7 +166,7 @@ ZELM_INLINE ZelmStatus determinantSingle(const S &s, void *scratch, T *dst, Size
             T a[Size::fixed][Size::fixed];
             if (!readMatrixTested(s, a))
                 return ZELM_ERR_NULL_PTR;
-            storeDeterminantOf(a, Dense<T>(dst, 0));
+            Dense<T>(dst, 0).set(0, determinantHere(a));
         }
         return ZELM_OK;
     }

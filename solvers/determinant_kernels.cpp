@@ -7,12 +7,8 @@ namespace zelm::solvers {
 
 template <typename V, unsigned N>
 void determinantOf(const V (&a)[N][N], V &determinant) {
-    if constexpr (N == 3) {
-        determinant = determinantOfOrder3(a);
-    } else {
-        const auto element = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return a[i][j]; };
-        determinant = expandByMinors<N, V>(element, MinorsAsTheyAre{});
-    }
+    const auto element = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return a[i][j]; };
+    determinant = expandByMinors<N, V>(element, MinorsAsTheyAre{});
 }
 
 #define ZELM_INSTANTIATE(V, N) template void determinantOf<V, N>(const V(&)[N][N], V &);

@@ -117,7 +117,7 @@ void writeMinorBesideABorder(Random &random, Matrices &m, std::uint32_t k, int i
 TEST(ProvedDeterminant, BesideTheBordersOf32BitFloats) {
     Random random(1);
     Matrices m;
-    for (int round = 0; round < 20000; ++round) {
+    for (int round = 0; round < 8000; ++round) {
         for (std::uint32_t k = 0; k < kMatrices; ++k) {
             std::memset(m.elements[k], 0, sizeof m.elements[k]);
             writeMinorBesideABorder(random, m, k, 0);
@@ -171,7 +171,7 @@ void writeMatricesOfAnyKind(Random &random, Matrices &m) {
 TEST(ProvedDeterminant, OfNumbersOfAllKinds) {
     Random random(2);
     Matrices m;
-    for (int round = 0; round < 20000 && !HasFailure(); ++round) {
+    for (int round = 0; round < 8000 && !HasFailure(); ++round) {
         writeMatricesOfAnyKind(random, m);
         expectKernelsOfOrder3(m);
         expectKernelsOfOrder4(m);
