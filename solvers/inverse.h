@@ -118,11 +118,11 @@ ZELM_INLINE ZelmStatus invertDenseRows(const Dense<const double> &s, const Dense
     return ZELM_OK;
 }
 
-// Order 3 is short enough to stand where it is called, and to need no memory.
-template <bool dense, typename T, typename D>
-ZELM_INLINE ZelmStatus invertInRegisters(const T (&a)[3][3], const D &d) {
-    T inverse[3][3];
-    if (anyLane(invertClosed<dense, inverseRule(dense, kIs32<T>, 3).singular>(a, inverse)))
+// Closed inverses are short enough to stand where they are called, and to need less memory so.
+template <bool dense, unsigned N, typename T, typename D>
+ZELM_INLINE ZelmStatus invertInRegisters(const T (&a)[N][N], const D &d) {
+    T inverse[N][N];
+    if (anyLane(invertClosed<dense, inverseRule(dense, kIs32<T>, N).singular>(a, inverse)))
         return ZELM_ERR_DIV_BY_ZERO;
     writeMatrix(d, inverse);
     return ZELM_OK;
@@ -146,8 +146,8 @@ ZELM_INLINE ZelmStatus invertObject(const S &s, const D &d) {
         return invertDenseRows(s, d);
     } else if constexpr (dense && N == 3 && kIs32<typename D::Element>) {
         return invertRowsOfThree(s, d);
-    } else if constexpr (N == 3) {
-        typename D::Element a[3][3];
+    } else if constexpr (N <= 4) {
+        typename D::Element a[N][N];
         readMatrix(s, a);
         return invertInRegisters<dense>(a, d);
     } else {
@@ -161,8 +161,7 @@ ZELM_NOINLINE ZelmStatus invertObjectAlone(const S &s, const D &d) {
     return invertObject<dense, N>(s, d);
 }
 
-// Groups of matrices from k on, up to one where a matrix must be inverted alone. Closed inverses are short
-// enough to stand where they are called, and to need less memory so.
+// Groups of matrices from k on, up to one where a matrix must be inverted alone.
 template <typename V, bool dense, unsigned N, typename S, typename D>
 ZELM_NOINLINE std::uint32_t invertGroups(const S &s, const D &d, std::uint32_t k, std::uint32_t end) {
     constexpr InverseRule rule = inverseRule(dense, kIs32<V>, N);
@@ -205,11 +204,11 @@ ZELM_INLINE ZelmStatus invertSingle(const S &s, void *scratch, const D &d, Size 
             status != kProceed)
             return status;
         return invertByElimination<T>(s, scratch, d, size.value());
-    } else if constexpr (D::isTable && Size::fixed == 3) {
+    } else if constexpr (D::isTable && Size::fixed <= 4) {
         if (ZelmStatus status = checkSingle(false, s, d); status != kProceed)
             return status;
-        T a[3][3];
-        if (!readMatrixTested(s, a) || hasNullEntry<9>(d))
+        T a[Size::fixed][Size::fixed];
+        if (!readMatrixTested(s, a) || hasNullEntry<Size::fixed * Size::fixed>(d))
             return ZELM_ERR_NULL_PTR;
         return invertInRegisters<false>(a, d);
     } else {

@@ -33,10 +33,8 @@ Outcome invertAlone(T (&a)[N][N]) {
 #define ZELM_INSTANTIATE_GROUP(V, N)                                                                         \
     template bool invertGroup<true, V, N>(V(&)[N][N]);                                                       \
     template bool invertGroup<false, V, N>(V(&)[N][N]);
-// A matrix of order 3 alone is inverted where its form is, of order 4 in the standard and L forms by its
-// rows.
+// A matrix of order 3 or 4 alone is inverted where its form is.
 #define ZELM_INSTANTIATE_ALONE(T)                                                                            \
-    template Outcome invertAlone<false, T, 4>(T(&)[4][4]);                                                   \
     template Outcome invertAlone<false, T, 5>(T(&)[5][5]);                                                   \
     template Outcome invertAlone<false, T, 6>(T(&)[6][6]);
 #define ZELM_INSTANTIATE_DENSE(T)                                                                            \
