@@ -98,6 +98,8 @@ ZELM_NOINLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint
         determinantInElementType<N>(s.object(k), results.object(k));
         return ZELM_OK;
     };
+    if constexpr (N <= 4 && !kGainsByGroups<S>)
+        return forEachObject(count, one, s); // half to 0.9 of the time of groups, whose elements are gathered
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return determinantsOfGroups<typename decltype(pack)::Pack, N>(s, results.start, k, end);
     };

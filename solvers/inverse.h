@@ -183,6 +183,11 @@ ZELM_NOINLINE std::uint32_t invertGroups(const S &s, const D &d, std::uint32_t k
 // The matrices of an array.
 template <bool dense, unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t count) {
+    if constexpr (N == 3 && !kGainsByGroups<S>) {
+        const auto one = [&](std::uint32_t k)
+                             ZELM_INLINE_LAMBDA { return invertObject<dense, N>(s.object(k), d.object(k)); };
+        return forEachObject(count, one, s, d); // 0.73 of the time of groups, which gather 36 elements
+    }
     const auto one = [&](std::uint32_t k)
                          ZELM_INLINE_LAMBDA { return invertObjectAlone<dense, N>(s.object(k), d.object(k)); };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
