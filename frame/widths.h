@@ -53,6 +53,11 @@ constexpr unsigned kRunBytes = kWidestBytes, kShortRunBytes = widestUpTo(32);
 // Rows inside one object.
 constexpr unsigned kInsideBytes = widestUpTo(32);
 
+// Whole matrices of 4x4 inside one object, and whole vectors of four, one matrix for all: so many lanes of a
+// group are so many vectors.
+constexpr unsigned kWholeBytes = kWidestBytes;
+constexpr Grouping kVectorsOfFour = {widestUpTo(32), 8};
+
 // Between rows and planes. Nothing is computed, and the blocks of a pack of four lie in as many objects:
 // joining them costs more than it saves.
 constexpr unsigned kMoveBytes = widestUpTo(32);

@@ -5,6 +5,7 @@
 #include "products/across.h"
 #include "products/matrix_rows.h"
 #include "products/run_time.h"
+#include "products/whole_matrix.h"
 
 namespace zelm::products {
 

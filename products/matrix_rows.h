@@ -10,7 +10,7 @@ namespace zelm::products {
 
 // Rows of 64-bit float begin with a pack of four where the build has it.
 template <typename T, unsigned N>
-constexpr unsigned kWideLanes = kInsideBytes == 32 && sizeof(T) == 8 && N >= 4 ? 4 : 0;
+constexpr unsigned kWideLanes = kInsideBytes == 32 && sizeof(T) == 8 && N > 4 ? 4 : 0;
 
 template <typename T, unsigned N>
 constexpr unsigned kRowPacks = (N - kWideLanes<T, N>) / kLanes<T>;
@@ -151,29 +151,6 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Den
         _mm_storeh_pi(reinterpret_cast<__m64 *>(d.rowStart(i + 1) + 16), pair);
     }
 }
-
-#if defined(__AVX2__)
-// Two rows of 32-bit float to a pack, one in each block; both of src1 are read before one of dst is written.
-template <typename A>
-ZELM_INLINE void multiplyTwoRows(const A &a, const HeldRows<float, 4> &b, const Dense<float> &d,
-                                 std::uint32_t i) {
-    const Floats8 rows = joined(packOfRow<0>(a, i), packOfRow<0>(a, i + 1));
-    const auto times = [&](Floats8 factors, unsigned t)
-                           ZELM_INLINE_LAMBDA { return factors * joined(b.pack[t][0], b.pack[t][0]); };
-    Floats8 sums = times(shuffle<0, 0, 0, 0>(rows, rows), 0);
-    sums = sums + times(shuffle<1, 1, 1, 1>(rows, rows), 1);
-    sums = sums + times(shuffle<2, 2, 2, 2>(rows, rows), 2);
-    sums = sums + times(shuffle<3, 3, 3, 3>(rows, rows), 3);
-    storePack(d.rowStart(i), lowHalf(sums));
-    storePack(d.rowStart(i + 1), highHalf(sums));
-}
-
-template <typename A>
-ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 4> &b, const Dense<float> &d) {
-    multiplyTwoRows(a, b, d, 0);
-    multiplyTwoRows(a, b, d, 2);
-}
-#endif
 
 template <typename T, unsigned N, typename A>
 ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {

@@ -48,6 +48,7 @@ enum class Way {
     OneByOne,    // inside one object
     HeldColumns, // inside one object, the matrix held as columns
     HeldVector,  // inside one object, the vector held
+    Fours,       // vectors of four, several in a pack
     Groups       // across objects
 };
 
@@ -62,6 +63,8 @@ constexpr Way wayOf() {
     constexpr bool hasRows = decltype(std::declval<const D &>().object(0))::isDense;
     if (isDense && kIsArray<A>)
         return D::isList || kIsArray<X> ? Way::OneByOne : Way::HeldVector;
+    if (isDense && N == 4 && !D::isList && kWidestBytes > kBlockBytes)
+        return Way::Fours;
     if (isDense)
         return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;
     if (hasRows ? kIsArray<A> && kIsTransposed<A> : D::isList && !adds)
@@ -109,6 +112,10 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
         const UsedEntries<N, A> entries(a);
         return multiplyInGroups<N, isDense>(asUsed(a, entries), x, z, d, count);
     }
+#if defined(__AVX2__)
+    if constexpr (way == Way::Fours)
+        return multiplyFours(a, x, z, d, count);
+#endif
     if constexpr (way == Way::HeldColumns)
         if (__builtin_expect(missesInvariant<N>(a, N, d, count), 1))
             return multiplyByColumns<N>(a, x, z, d, count);

@@ -59,4 +59,39 @@ ZELM_NOINLINE ZelmStatus multiplyInGroups(A a, X x, Z z, D d, std::uint32_t coun
     return withThrees<N>(run, x, z, d);
 }
 
+#if defined(__AVX2__)
+// Dense vectors of four, one matrix for all: whole vectors in a pack.
+template <typename A, typename X, typename Z, typename D>
+ZELM_INLINE ZelmStatus multiplyFours(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
+    using T = typename D::Element;
+    using Fours = RowsOfFour<T>;
+    const HeldRows<T, 4> columns(asColumns(a));
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        multiplyVectorObject<4, true>(a, x.object(k), z.object(k), d.object(k));
+        return ZELM_OK;
+    };
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+        ZELM_UNROLL
+        for (unsigned object = 0; object < kLanesOf<typename decltype(pack)::Pack>;
+             object += kRowsOf<Fours>) {
+            const auto vectors = foursFrom<Fours>(x.object(k + object).start, x.objStride);
+            const Fours products[4] = {
+                spreadInFours<0>(vectors) * columns.row[0], spreadInFours<1>(vectors) * columns.row[1],
+                spreadInFours<2>(vectors) * columns.row[2], spreadInFours<3>(vectors) * columns.row[3]};
+            Fours sums = sumOf<vectorSumOfRow<T, true, kIsTransposed<A>, 4>(0)>(products);
+            if constexpr (kAdds<Z>)
+                sums = sums + foursFrom<Fours>(z.object(k + object).start, z.objStride);
+            storeFours(d.object(k + object).start, d.objStride, sums);
+        }
+        return true;
+    };
+    if constexpr (kAdds<Z>)
+        return forEachInGroups<kVectorsOfFour>(count, NoBuffer(), group, one, writes(d, 1, 4), reads(a, 4, 4),
+                                               reads(x, 1, 4, InPlace::Yes), reads(z, 1, 4, InPlace::Yes));
+    else
+        return forEachInGroups<kVectorsOfFour>(count, NoBuffer(), group, one, writes(d, 1, 4), reads(a, 4, 4),
+                                               reads(x, 1, 4, InPlace::Yes));
+}
+#endif
+
 } // namespace zelm::products
