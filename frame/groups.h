@@ -175,6 +175,44 @@ ZELM_INLINE V loadAlternate(Address first) {
     return loadAlternate<V>(first, std::make_integer_sequence<unsigned, kLanesOf<V>>());
 }
 
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+// Stored likewise: the elements between them are not touched.
+ZELM_INLINE void storeEven(Address to, Floats4 a) {
+    _mm_mask_storeu_ps(reinterpret_cast<void *>(to), 0x5, a);
+}
+ZELM_INLINE void storeEven(Address to, Floats8 a) {
+    _mm256_mask_storeu_ps(reinterpret_cast<void *>(to), 0x55, a);
+}
+ZELM_INLINE void storeEven(Address to, Floats16 a) {
+    _mm512_mask_storeu_ps(reinterpret_cast<void *>(to), 0x5555, a);
+}
+ZELM_INLINE void storeEven(Address to, Doubles2 a) {
+    _mm_mask_storeu_pd(reinterpret_cast<void *>(to), 0x1, a);
+}
+ZELM_INLINE void storeEven(Address to, Doubles4 a) {
+    _mm256_mask_storeu_pd(reinterpret_cast<void *>(to), 0x5, a);
+}
+ZELM_INLINE void storeEven(Address to, Doubles8 a) {
+    _mm512_mask_storeu_pd(reinterpret_cast<void *>(to), 0x55, a);
+}
+
+template <typename V, unsigned... lane>
+ZELM_INLINE void storeAlternate(Address first, V a, std::integer_sequence<unsigned, lane...>) {
+    storeEven(first, __builtin_shufflevector(a, a, (lane / 2)...));
+    storeEven(first + sizeof(V), __builtin_shufflevector(a, a, (kLanesOf<V> / 2 + lane / 2)...));
+}
+template <typename V>
+ZELM_INLINE void storeAlternate(Address first, V a) {
+    storeAlternate(first, a, std::make_integer_sequence<unsigned, kLanesOf<V>>());
+}
+#endif
+
+// Whether an array's objects may lie so. Narrow packs are gathered as fast.
+template <typename Array>
+constexpr bool kAlternatesInGroups = false;
+template <typename T>
+constexpr bool kAlternatesInGroups<TableArray<T>> = kWidestBytes > kBlockBytes;
+
 // ---- objects of three adjacent elements that follow each other without a gap: a block of objects is three
 // blocks of memory
 
@@ -285,6 +323,14 @@ ZELM_INLINE void loadRow(const Array &array, std::uint32_t k, unsigned i, V *out
         for (unsigned j = 0; j < N; ++j)
             out[j] = loadAs<V>(array.object(k).address(i, j, columns));
     } else {
+        if constexpr (kAlternatesInGroups<Array>) {
+            if (array.objStride == 2 * sizeof(ElementOf<V>)) {
+                ZELM_UNROLL
+                for (unsigned j = 0; j < N; ++j)
+                    out[j] = loadAlternate<V>(array.object(k).address(i, j, columns));
+                return;
+            }
+        }
         if constexpr (N == 3 && kIsDenseArray<Array>)
             if (array.objStride == 3 * sizeof(ElementOf<V>))
                 return loadThrees(array.object(k).rowStart(i), out);
@@ -305,6 +351,16 @@ ZELM_INLINE void storeRow(const Array &array, std::uint32_t k, unsigned i, const
         for (unsigned j = 0; j < N; ++j)
             storePack(array.object(k).address(i, j, columns), in[j]);
     } else {
+#if defined(__AVX512VL__) && defined(__AVX512DQ__)
+        if constexpr (kAlternatesInGroups<Array>) {
+            if (array.objStride == 2 * sizeof(ElementOf<V>)) {
+                ZELM_UNROLL
+                for (unsigned j = 0; j < N; ++j)
+                    storeAlternate(array.object(k).address(i, j, columns), in[j]);
+                return;
+            }
+        }
+#endif
         if constexpr (N == 3 && kIsDenseArray<Array>)
             if (array.objStride == 3 * sizeof(ElementOf<V>))
                 return storeThrees(array.object(k).rowStart(i), in);
