@@ -47,6 +47,23 @@ ZELM_INLINE auto inputOf(const Transposed<Dense<const T>> &object) {
         return TransposedStream<T, Shape::columns()>{object};
 }
 
+// The same for 3x3 where no operand has gaps between its rows.
+template <typename Object>
+ZELM_INLINE decltype(auto) inputOfNine(const Object &object) {
+    if constexpr (kIsTransposed<Object>)
+        return TransposedNine<typename Object::Element>(object);
+    else
+        return inputRow(object, 0);
+}
+
+template <typename Object>
+ZELM_INLINE bool isNineWhereTransposed(const Object &object) {
+    if constexpr (kIsTransposed<Object>)
+        return object.rowStride == 3 * sizeof(typename Object::Element);
+    else
+        return true;
+}
+
 // ---- all objects of an array, one behind the other, as the input of one run
 
 template <typename Array>
@@ -93,6 +110,10 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 
 template <typename Op, unsigned mostInline = kMostInline, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    if constexpr (std::is_same_v<Shape, FixedShape<3, 3>> && kHasPackOfEight<T> &&
+                  (kIsTransposed<A> || kIsTransposed<B>))
+        if (isNineWhereTransposed(a) && isNineWhereTransposed(b))
+            return shortRun<Op, T, 9, mostInline>(inputOfNine(a), inputOfNine(b), d.start);
     if constexpr (Shape::isFixed)
         shortRun<Op, T, shape.elements(), mostInline>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
     else

@@ -166,6 +166,36 @@ struct TransposedFour {
     static constexpr bool isCloselyBehind(Address, Address) { return false; }
 };
 
+// Three rows of three elements used transposed, without a gap: eight of them in a pack, and the last.
+template <typename T>
+constexpr bool kHasPackOfEight = 8 * sizeof(T) <= kRunBytes;
+
+template <typename T>
+struct TransposedNine {
+    Pack<T, 8 * sizeof(T)> eight;
+    T last;
+    ZELM_INLINE explicit TransposedNine(const Dense<const T> &stored)
+        : eight(loadAs<decltype(eight)>(stored.start)), last(stored.get(2, 2, 0)) {
+        eight = __builtin_shufflevector(eight, eight, 0, 3, 6, 1, 4, 7, 2, 5);
+    }
+    ZELM_INLINE T element(Address) const { return last; }
+    template <typename V>
+    ZELM_INLINE V pack(Address at, unsigned) const {
+        return part<V>(eight, at);
+    }
+    static constexpr bool isCloselyBehind(Address, Address) { return false; }
+
+private:
+    template <typename V, typename W>
+    static ZELM_INLINE V part(W all, Address at) {
+        if constexpr (std::is_same_v<V, W>)
+            return all;
+        else
+            return at < kLanesOf<W> / 2 ? part<V>(lowHalf(all), at)
+                                        : part<V>(highHalf(all), at - kLanesOf<W> / 2);
+    }
+};
+
 // An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
 template <typename V, typename Input>
 ZELM_INLINE const Input &inRegisters(const Input &input) {
@@ -241,20 +271,38 @@ ZELM_NOINLINE ZelmStatus longRun(A a, B b, Address dst, Address length) {
     return ZELM_OK;
 }
 
-// A run over one row. Wide packs are worth their tests from a round of them on. They stand apart, so that a
-// loop over short rows is what it is without them.
-template <typename T>
-constexpr Address kLongRow = 4 * kRunBytes / sizeof(T);
+// Rows of one to two packs: the first pack and the last, which may lie over each other, so that there is no
+// loop and nothing left. False where packs would be told from the plain loop.
+template <typename Op, typename V, typename A, typename B>
+ZELM_INLINE bool runAsTwo(const A &a, const B &b, Address dst, Address length) {
+    using T = ElementOf<V>;
+    if (length <= 2 * kLanesOf<V>) {
+        if (a.isCloselyBehind(dst, length * sizeof(T)) || b.isCloselyBehind(dst, length * sizeof(T)))
+            return false;
+        const Address last = length - kLanesOf<V>;
+        const V first = Op::apply(a.template pack<V>(0, 0), b.template pack<V>(0, 0));
+        const V second = Op::apply(a.template pack<V>(last, 0), b.template pack<V>(last, 0));
+        storePack(dst, first);
+        storePack(dst + last * sizeof(T), second);
+        return true;
+    }
+    if constexpr (sizeof(V) < kRunBytes)
+        return runAsTwo<Op, Pack<T, 2 * sizeof(V)>>(a, b, dst, length);
+    __builtin_unreachable();
+}
 
+// A run over one row. Where packs are wide, short rows are done in two of them, and longer ones stand apart,
+// so that a loop over short rows keeps its addresses in registers.
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
-    if constexpr (kRunBytes > kBlockBytes) {
-        if (length >= kLongRow<T>) {
-            longRun<Op, T>(a, b, dst, length);
-            return;
-        }
+    if constexpr (kRunBytes == kBlockBytes) {
+        runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
+    } else if (length < kLanes<T>) {
+        for (Address i = 0; i < length; ++i)
+            store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+    } else if (length > 2 * kRunBytes / sizeof(T) || !runAsTwo<Op, Pack<T>>(a, b, dst, length)) {
+        longRun<Op, T>(a, b, dst, length);
     }
-    runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
 }
 
 // The same for the elements i to N - 1, without a loop.
