@@ -3,7 +3,8 @@
 #pragma once
 
 #include "frame/objects.h"
-#include "products/rules.h"
+#include "frame/overlap.h"
+#include "products/matrix_rows.h"
 
 namespace zelm::products {
 
@@ -55,8 +56,67 @@ ZELM_INLINE bool anyIsNull(const Operand &operand) {
     return false;
 }
 
+// Tables whose entries ascend from one that isn't null have no null entry, and their elements lie between the
+// first and the last. (Entries that shifts take around the whole address space have no such range.)
+template <unsigned entries, typename T>
+ZELM_INLINE bool ascends(const Table<T> &operand) {
+    if (operand.elementIsNull(0))
+        return false;
+    ZELM_UNROLL
+    for (unsigned e = 1; e < entries; ++e)
+        if (addressOf(operand.table[e]) <= addressOf(operand.table[e - 1]))
+            return false;
+    return signedDistance(operand.position(entries - 1) - operand.position(0)) >= 0;
+}
+
+template <unsigned entries, typename S, typename D>
+ZELM_INLINE bool ascendingAreDisjoint(const Table<S> &s, const Table<D> &d) {
+    return areDisjoint(s.position(0), s.position(entries - 1) - s.position(0) + sizeof(S), d.position(0),
+                       d.position(entries - 1) - d.position(0) + sizeof(D));
+}
+
+// Row by row in packs, where no partial sum can be seen. Lanes behind the last column hold it again.
+template <unsigned N, typename A, typename B, typename T>
+ZELM_INLINE void multiplyTablesApart(const A &a, const B &b, const Table<T> &d) {
+    constexpr unsigned lanes = kLanes<T>, packs = (N + lanes - 1) / lanes;
+    Pack<T> rows[N][packs];
+    ZELM_UNROLL
+    for (unsigned t = 0; t < N; ++t) {
+        ZELM_UNROLL
+        for (unsigned p = 0; p < packs; ++p) {
+            const auto column = [&](unsigned lane) ZELM_INLINE_LAMBDA {
+                const unsigned j = p * lanes + lane;
+                return used(b, t, j < N ? j : N - 1, N);
+            };
+            if constexpr (lanes == 4)
+                rows[t][p] = _mm_setr_ps(column(0), column(1), column(2), column(3));
+            else
+                rows[t][p] = _mm_setr_pd(column(0), column(1));
+        }
+    }
+    for (unsigned i = 0; i < N; ++i) {
+        Pack<T> sums[packs] = {};
+        ZELM_UNROLL
+        for (unsigned t = 0; t < N; ++t) {
+            const Pack<T> factor = spread<Pack<T>>(used(a, i, t, N));
+            ZELM_UNROLL
+            for (unsigned p = 0; p < packs; ++p)
+                sums[p] = sums[p] + factor * rows[t][p];
+        }
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            d.set(i, j, N, inAllLanes(sums[j / lanes])[j % lanes]);
+    }
+}
+
 template <unsigned N, typename A, typename B, typename T>
 ZELM_INLINE ZelmStatus accumulateTested(const A &a, const B &b, const Table<T> &d) {
+    constexpr unsigned entries = N * N;
+    if (ascends<entries>(d) && ascends<entries>(a) && ascends<entries>(b) &&
+        ascendingAreDisjoint<entries>(a, d) && ascendingAreDisjoint<entries>(b, d)) {
+        multiplyTablesApart<N>(a, b, d);
+        return ZELM_OK;
+    }
     if (anyIsNull<N * N>(a) || anyIsNull<N * N>(b) || anyIsNull<N * N>(d))
         return accumulateTested(a, b, d, Bounds{N, N, N}, Pitches{N, N, N});
     for (unsigned i = 0; i < N; ++i) {

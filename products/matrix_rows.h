@@ -161,7 +161,8 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T
 
 // A pack of which some lanes are stored. clang++ takes unmasked exceptions for impossible: the other lanes it
 // would compute on whatever is at hand, which may trap.
-ZELM_INLINE Floats4 inAllLanes(Floats4 pack) {
+template <typename V>
+ZELM_INLINE V inAllLanes(V pack) {
 #if defined(__clang__)
     __asm__("" : "+x"(pack));
 #endif
