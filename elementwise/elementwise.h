@@ -81,28 +81,19 @@ ZELM_NOINLINE ZelmStatus denseObjects(A a, B b, D d, Shape shape, std::uint32_t 
     return denseArrayWithInvariant<Op, reading>(a, b, d, shape, count);
 }
 
-// One instance serves P and PS2.
-template <typename Op, typename A, typename B, typename T, typename Shape>
-ZELM_NOINLINE ZelmStatus tabledObjects(A a, B b, TableArray<T> d, Shape shape, std::uint32_t count) {
-    return objectsInOrder<Op>(a, b, d, shape, count);
-}
-
 // The layouts with strides whose operands turn out to be plainer ones read an invariant anew: it may be held
-// where nothing is written in it. A transposed operand of adjacent elements is gathered as a strided one is,
-// which gains nothing.
+// where nothing is written in it. Transposed operands come as they are used.
 template <typename Op, Invariant reading, typename A, typename B, typename D, typename Shape>
 ZELM_INLINE ZelmStatus stridedObjects(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (!kIsTransposed<A> && !kIsTransposed<B>) {
-        if (isPlainer(a) && isPlainer(b) && isPlainer(d)) {
-            const auto first = plainest(a);
-            const auto second = plainest(b);
-            const auto result = plainest(d);
-            constexpr Invariant anew = readingOf<A, B, Shape>(Invariant::ReadAnew);
-            if constexpr (anew == Invariant::Held || D::isList || reading == Invariant::ReadAnew)
-                return denseObjects<Op, anew>(first, second, result, shape, count);
-            else if (isOutOfReach(first, result, shape, count) && isOutOfReach(second, result, shape, count))
-                return denseObjects<Op, reading>(first, second, result, shape, count);
-        }
+    if (isPlainer(a) && isPlainer(b) && isPlainer(d)) {
+        const auto first = plainest(a);
+        const auto second = plainest(b);
+        const auto result = plainest(d);
+        constexpr Invariant anew = readingOf<A, B, Shape>(Invariant::ReadAnew);
+        if constexpr (anew == Invariant::Held || D::isList || reading == Invariant::ReadAnew)
+            return denseObjects<Op, anew>(first, second, result, shape, count);
+        else if (isOutOfReach(first, result, shape, count) && isOutOfReach(second, result, shape, count))
+            return denseObjects<Op, reading>(first, second, result, shape, count);
     }
     if constexpr (Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>)) {
         const auto use =
@@ -112,7 +103,19 @@ ZELM_INLINE ZelmStatus stridedObjects(const A &a, const B &b, const D &d, Shape 
                               ZELM_INLINE_LAMBDA { return holdElements<Shape>(invariant); };
         return holdingWhilePossible<Op>(a, b, d, shape, count, held, use);
     } else {
-        return objectsInOrder<Op>(a, b, d, shape, count);
+        // Where there are registers, little gains by a loop of its own.
+        constexpr bool isOfTwo = !kIsConstant<A> && !kIsConstant<B>;
+        if (!D::isList && (kHasFewRegisters || (isOfTwo && shape.rows() > 1)) && isOneRun(a, shape) &&
+            isOneRun(b, shape) && isOneRun(d, shape))
+            if (const Address length = elementsOfAll(shape, count); length != 0)
+                return stridedRun<Op>(rowsOf(a.object(0)), rowsOf(b.object(0)), rowsOf(d.object(0)), length);
+        if constexpr (kHasFewRegisters && !Shape::isFixed)
+            if (shape.rows() == 1)
+                return sharedObjects<Op>(a, b, d, RunTimeRow{shape.columns()}, count);
+        if constexpr (kHasFewRegisters || (isOfTwo && Shape::isFixed))
+            return sharedObjects<Op>(a, b, d, shape, count);
+        else
+            return objectsInOrder<Op>(a, b, d, shape, count);
     }
 }
 
@@ -130,11 +133,11 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
         if ((shape.elements() > 4 || (!kIsConstant<A> && !kIsConstant<B>)) && !isPlainer(d) &&
             runPerPosition<Op>(first, second, result, RunTimeShape{shape.rows(), shape.columns()}, count))
             return ZELM_OK;
-        return tabledObjects<Op>(first, second, result, shape, count);
+        return sharedObjects<Op>(first, second, result, shape, count);
     } else if constexpr (decltype(d.object(0))::isDense) {
         return denseObjects<Op, readingOf<A, B, Shape>(reading)>(a, b, d, shape, count);
     } else {
-        return stridedObjects<Op, reading>(a, b, d, shape, count);
+        return stridedObjects<Op, reading>(asUsed(a), asUsed(b), d, shape, count);
     }
 }
 

@@ -127,11 +127,10 @@ ZELM_INLINE Operand from(Operand operand, std::uint32_t first) {
     return operand;
 }
 
-// One instance serves all sizes.
-template <typename Op, typename A, typename B, typename D>
-ZELM_NOINLINE ZelmStatus objectsReadAnew(A a, B b, D d, std::uint32_t rows, std::uint32_t columns,
-                                         std::uint32_t count) {
-    return objectsInOrder<Op>(a, b, d, RunTimeShape{rows, columns}, count);
+// As a real function, which serves several layouts and has all registers for its loop.
+template <typename Op, typename A, typename B, typename D, typename Shape>
+ZELM_NOINLINE ZelmStatus sharedObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
+    return objectsInOrder<Op>(a, b, d, shape, count);
 }
 
 // Runs use(a, b, d, watch) with hold(invariant), and the definition's loop from where that may be seen.
@@ -145,8 +144,8 @@ ZELM_INLINE ZelmStatus holdingWhilePossible(const A &a, const B &b, const D &d, 
             return use(a, hold(b), d, watch);
     };
     const auto anew = [&](std::uint32_t first) ZELM_INLINE_LAMBDA {
-        return objectsReadAnew<Op>(from(a, first), from(b, first), from(d, first), shape.rows(),
-                                   shape.columns(), count - first);
+        return sharedObjects<Op>(from(a, first), from(b, first), from(d, first),
+                                 RunTimeShape{shape.rows(), shape.columns()}, count - first);
     };
     if constexpr (D::isList) {
         Watch watch = [&] {

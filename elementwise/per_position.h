@@ -51,6 +51,14 @@ ZELM_INLINE const Input &rowsOfInput(const Input &input) {
     return input;
 }
 
+template <typename Op, typename A, typename B, typename T>
+ZELM_INLINE void planeInOrder(const A &a, const B &b, const Rows<T> &d, std::uint32_t count) {
+    if constexpr (kHasFewRegisters)
+        stridedRun<Op>(a, b, d, count);
+    else
+        elementsOfRow<Op>(a, b, d, count);
+}
+
 // The bytes of one position of an array, an invariant's being one element. Strides that don't ascend have
 // none.
 template <typename S>
@@ -120,8 +128,7 @@ ZELM_NOINLINE bool runPerPosition(A a, B b, D d, Shape shape, std::uint32_t coun
             if constexpr (D::isSideBySide)
                 longRun<Op, T>(first, second, to, count);
             else
-                elementsOfRow<Op>(rowsOfInput(first), rowsOfInput(second), Rows<T>{to, d.objStride, 0},
-                                  count);
+                planeInOrder<Op>(rowsOfInput(first), rowsOfInput(second), Rows<T>{to, d.objStride, 0}, count);
         }
     }
     return true;
