@@ -7,6 +7,7 @@ Each rule prints what breaks it; without a rule, all are checked. Exit status 1 
 """
 
 import argparse
+import functools
 import json
 import os
 import re
@@ -219,28 +220,36 @@ PREFIXES = {
     "rex.WX",
 }
 FUNCTION = re.compile(r"^[0-9a-f]+ <(.+)>:$")
-INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(.+)$")
 
 
-def disassemble(options):
-    """(function, mnemonic, operands) of every instruction."""
+@functools.cache
+def disassemble(objdump, file):
+    """The functions in which each instruction stands, by its mnemonic and its operands."""
     text = subprocess.run(
-        [options.objdump, "-d", "--no-show-raw-insn", "-M", "att", options.file],
+        [objdump, "-d", "--no-show-raw-insn", "-M", "att", file],
         check=True,
         stdout=subprocess.PIPE,
         text=True,
         env=os.environ | {"LC_ALL": "C"},
     ).stdout
     function = "?"
+    functions = {}
     for line in text.splitlines():
-        if match := FUNCTION.match(line):
+        address, separator, instruction = line.partition(":\t")
+        if separator:
+            found = functions.setdefault(instruction, [])
+            if not found or found[-1] != function:
+                found.append(function)
+        elif match := FUNCTION.match(line):
             function = match[1]
-        elif match := INSTRUCTION.match(line):
-            words = match[1].split()
-            while words and words[0] in PREFIXES:
-                words.pop(0)
-            if words:
-                yield function, words[0], " ".join(words[1:])
+    code = {}
+    for instruction, found in functions.items():
+        words = instruction.split()
+        while words and words[0] in PREFIXES:
+            words.pop(0)
+        if words:
+            code.setdefault((words[0], " ".join(words[1:])), []).extend(found)
+    return code
 
 
 def is_newer(mnemonic, operands, level):
@@ -254,21 +263,23 @@ def is_newer(mnemonic, operands, level):
     return "%xmm" in operands and mnemonic not in SSE and mnemonic.rstrip("lq") not in SSE
 
 
-def _per_function(found):
+def _broken_by(options, is_wrong, may_have=re.compile("(?!)")):
     """One line per function, so that a wrong compiler flag doesn't print the whole library."""
     first = {}
-    for function, mnemonic, operands in found:
-        first.setdefault(function, f"{function}: {mnemonic} {operands}")
+    for (mnemonic, operands), functions in disassemble(options.objdump, options.file).items():
+        if is_wrong(mnemonic, operands):
+            for function in functions:
+                if not may_have.match(function):
+                    first.setdefault(function, f"{function}: {mnemonic} {operands}")
     lines = list(first.values())
     return lines[:20] + ([f"... and {len(lines) - 20} more functions"] if len(lines) > 20 else [])
 
 
 def instructions(_, options):
     """Nothing newer than SSE3, in either target; in a wide build, than its level."""
-    code = list(disassemble(options))
-    if not any(mnemonic.startswith("add") for _, mnemonic, _ in code):
+    if not any(mnemonic.startswith("add") for mnemonic, _ in disassemble(options.objdump, options.file)):
         return [f"{options.objdump} shows no code"]
-    return _per_function(i for i in code if is_newer(i[1], i[2], options.level))
+    return _broken_by(options, lambda mnemonic, operands: is_newer(mnemonic, operands, options.level))
 
 
 # Fused operations round once where two roundings are promised; the newer approximations have other bits than rcpps
@@ -278,18 +289,17 @@ OTHER_ROUNDING = re.compile(r"^vf(n?m(add|sub)|maddsub|msubadd)\d*|^vr(cp|sqrt)(
 
 def rounding(_, options):
     """No instruction whose result has other bits than those it would stand for."""
-    return _per_function(i for i in disassemble(options) if OTHER_ROUNDING.match(i[1]))
+    return _broken_by(options, lambda mnemonic, _: OTHER_ROUNDING.match(mnemonic))
+
+
+def is_x87_or_mmx(mnemonic, operands):
+    return (mnemonic.startswith("f") and mnemonic != "fnstcw") or re.search(r"%mm\d", operands) or mnemonic == "emms"
 
 
 def x87(_, options):
     """No x87 or MMX instruction: x87 rounds twice, and already its moves quieten a signalling NaN. Reading the control
     word computes and moves nothing."""
-    return _per_function(
-        (function, mnemonic, operands)
-        for function, mnemonic, operands in disassemble(options)
-        if ((mnemonic.startswith("f") and mnemonic != "fnstcw") or re.search(r"%mm\d", operands) or mnemonic == "emms")
-        and not X87_FUNCTIONS.match(function)
-    )
+    return _broken_by(options, is_x87_or_mmx, X87_FUNCTIONS)
 
 
 RULES = {
