@@ -53,9 +53,12 @@ Vectors row(std::int64_t start, std::int64_t objStride, std::int64_t step, std::
 
 template <class T>
 std::vector<T> numbers() {
-    std::vector<T> memory;
-    for (int e = 0; e < 700; ++e)
-        memory.push_back(static_cast<T>(e * e % 23 - 9));
+    static const std::vector<T> memory = [] {
+        std::vector<T> made;
+        for (int e = 0; e < 700; ++e)
+            made.push_back(static_cast<T>(e * e % 23 - 9));
+        return made;
+    }();
     return memory;
 }
 

@@ -61,10 +61,11 @@ struct Memories {
 template <class T>
 void expectMoved(const Function &function, const Memories &memories, Shape shape, Spacing spacing, Side side,
                  bool withNullEntry) {
-    const bool transposes = string_view(function.operation) == "Transpose";
+    const bool transposes = string_view(function.operation) == "Transpose",
+               transposed = isTransposed(function);
     const Shape turned = {shape.width, shape.height, shape.count};
-    const Placed<T> src(memories.src, layoutOf(function, "src"), isTransposed(function) ? turned : shape,
-                        spacing, side, withNullEntry);
+    const Placed<T> src(memories.src, layoutOf(function, "src"), transposed ? turned : shape, spacing, side,
+                        withNullEntry);
     const Placed<T> dst(memories.dst, layoutOf(function, "dst"), transposes ? turned : shape,
                         string_view(function.operation) == "Extract" ? Spacing{} : spacing, side,
                         withNullEntry);
@@ -74,7 +75,7 @@ void expectMoved(const Function &function, const Memories &memories, Shape shape
         for (std::uint32_t i = 0; i < shape.height; ++i)
             for (std::uint32_t j = 0; j < shape.width; ++j, ++n) {
                 const auto word = bits<typename Placed<T>::Word>(n);
-                (isTransposed(function) ? src.at(k, j, i) : src.at(k, i, j)) = word;
+                (transposed ? src.at(k, j, i) : src.at(k, i, j)) = word;
                 expected[transposes ? dst.indexOf(k, j, i) : dst.indexOf(k, i, j)] = word;
             }
     const auto unchanged = src.words();
