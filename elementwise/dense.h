@@ -56,6 +56,10 @@ ZELM_INLINE decltype(auto) inputOfNine(const Object &object) {
         return inputRow(object, 0);
 }
 
+template <typename A, typename B, typename T, typename Shape>
+constexpr bool kMayBeNine = std::is_same_v<Shape, FixedShape<3, 3>> &&kHasPackOfEight<T> &&
+                            (kIsTransposed<A> || kIsTransposed<B>);
+
 template <typename Object>
 ZELM_INLINE bool isNineWhereTransposed(const Object &object) {
     if constexpr (kIsTransposed<Object>)
@@ -108,14 +112,13 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 
 // ---- one object
 
-template <typename Op, unsigned mostInline = kMostInline, typename A, typename B, typename T, typename Shape>
+template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
-    if constexpr (std::is_same_v<Shape, FixedShape<3, 3>> && kHasPackOfEight<T> &&
-                  (kIsTransposed<A> || kIsTransposed<B>))
+    if constexpr (kMayBeNine<A, B, T, Shape>)
         if (isNineWhereTransposed(a) && isNineWhereTransposed(b))
-            return shortRun<Op, T, 9, mostInline>(inputOfNine(a), inputOfNine(b), d.start);
+            return shortRun<Op, T, 9>(inputOfNine(a), inputOfNine(b), d.start);
     if constexpr (Shape::isFixed)
-        shortRun<Op, T, shape.elements(), mostInline>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
+        shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
     else
         run<Op, T>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
 }
@@ -144,13 +147,42 @@ ZELM_INLINE bool areGapless(const A &a, const B &b, const D &d, Shape shape) {
            rowsAreGapless(d, shape);
 }
 
-// A single object: no loop keeps anything ahead, and a call would need a frame.
+// A single object of fixed shape whose rows don't follow each other: it stands apart, and callers end with
+// it.
+template <typename Op, typename Shape, typename A, typename B, typename T>
+ZELM_NOINLINE ZelmStatus singleByRows(A a, B b, Dense<T> d) {
+    objectByRows<Op>(a, b, d, Shape{});
+    return ZELM_OK;
+}
+
 template <typename Op, typename A, typename B, typename T, typename Shape>
-ZELM_INLINE void denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
-    if constexpr (kRunsGapless<A, B, Shape>)
+ZELM_INLINE ZelmStatus denseObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
+    if constexpr (!Shape::isFixed) {
         if (areGapless(a, b, d, shape))
-            return gaplessObject<Op, ~0u>(a, b, d, shape);
-    objectByRows<Op>(a, b, d, shape);
+            gaplessObject<Op>(a, b, d, shape);
+        else
+            objectByRows<Op>(a, b, d, shape);
+        return ZELM_OK;
+    } else if constexpr (!kRunsGapless<A, B, Shape>) {
+        objectByRows<Op>(a, b, d, shape);
+        return ZELM_OK;
+    } else {
+        // Where two transposed operands are read one by one on 32-bit x86, the other order is faster.
+        constexpr double surely = kEndsWithCalls || !kIsTransposed<A> || !kIsTransposed<B> ? 1 : 0.5;
+        const auto hasGap = [&](const auto &operand) ZELM_INLINE_LAMBDA {
+            return __builtin_expect_with_probability(!rowsAreGapless(operand, shape), 0, surely);
+        };
+        if (hasGap(a) || hasGap(b) || hasGap(d)) {
+            if constexpr (kEndsWithCalls)
+                return singleByRows<Op, Shape>(a, b, d);
+            objectByRows<Op>(a, b, d, shape);
+            return ZELM_OK;
+        }
+        if constexpr (kMayBeNine<A, B, T, Shape>)
+            if (isNineWhereTransposed(a) && isNineWhereTransposed(b))
+                return singleRun<Op, T, 9>(inputOfNine(a), inputOfNine(b), d.start);
+        return singleRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
+    }
 }
 
 // ---- arrays

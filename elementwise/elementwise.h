@@ -37,8 +37,7 @@ ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Dense<T> &d, Shape s
     if constexpr (std::is_same_v<Shape, FixedShape<4, 4>> && kIsTransposed<A> && kIsTransposed<B>)
         if (combinedTransposed<Op>(a, b, d))
             return ZELM_OK;
-    denseObject<Op>(a, b, d, shape);
-    return ZELM_OK;
+    return denseObject<Op>(a, b, d, shape);
 }
 
 template <typename Op, typename A, typename B, typename T, typename Shape>

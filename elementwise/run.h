@@ -178,7 +178,7 @@ struct TransposedNine {
         : eight(loadAs<decltype(eight)>(stored.start)), last(stored.get(2, 2, 0)) {
         eight = __builtin_shufflevector(eight, eight, 0, 3, 6, 1, 4, 7, 2, 5);
     }
-    ZELM_INLINE T element(Address) const { return last; }
+    ZELM_INLINE T element(Address i) const { return i < 8 ? eight[i] : last; }
     template <typename V>
     ZELM_INLINE V pack(Address at, unsigned) const {
         return part<V>(eight, at);
@@ -195,6 +195,14 @@ private:
                                         : part<V>(highHalf(all), at - kLanesOf<W> / 2);
     }
 };
+
+// Packs in registers stay there, and are no arguments of a call.
+template <typename Input>
+constexpr bool kIsInPacks = false;
+template <typename T>
+constexpr bool kIsInPacks<TransposedFour<T>> = true;
+template <typename T>
+constexpr bool kIsInPacks<TransposedNine<T>> = true;
 
 // An input as a loop of packs reads it: a short pattern in registers, all others where they lie.
 template <typename V, typename Input>
@@ -305,7 +313,15 @@ ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     }
 }
 
-// The same for the elements i to N - 1, without a loop.
+// Without a loop, element by element ...
+template <typename Op, typename T, unsigned N, unsigned i = 0, typename A, typename B>
+ZELM_INLINE void shortElements(const A &a, const B &b, Address dst) {
+    ZELM_UNROLL
+    for (unsigned j = i; j < N; ++j)
+        store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+}
+
+// ... and the elements i to N - 1 in packs.
 template <typename Op, typename V, unsigned N, unsigned i, typename A, typename B>
 ZELM_INLINE void shortPacks(const A &a, const B &b, Address dst) {
     using T = ElementOf<V>;
@@ -317,38 +333,65 @@ ZELM_INLINE void shortPacks(const A &a, const B &b, Address dst) {
     if constexpr (sizeof(V) > kBlockBytes) {
         shortPacks<Op, Pack<T, sizeof(V) / 2>, N, whole>(a, b, dst);
     } else {
-        ZELM_UNROLL
-        for (unsigned j = whole; j < N; ++j)
-            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+        shortElements<Op, T, N, whole>(a, b, dst);
     }
 }
 
 // Where packs would be told from the plain loop. It stands apart and is cold, so that no addresses are
-// computed ahead for it. Vectors have too few of them, and would rather keep their constants in registers.
-constexpr unsigned kMostInline = 6;
-
-template <typename Op, typename T, typename A, typename B>
-ZELM_NOINLINE __attribute__((cold)) void overlappingRun(A a, B b, Address dst, Address length) {
-    for (Address i = 0; i < length; ++i)
+// computed ahead for it. Its status is that of longRun.
+template <typename Op, typename T, unsigned N, typename A, typename B>
+ZELM_NOINLINE __attribute__((cold)) ZelmStatus overlappingRun(A a, B b, Address dst) {
+    for (Address i = 0; i < N; ++i)
         store(dst + i * sizeof(T), Op::template apply<T>(a.element(i), b.element(i)));
+    return ZELM_OK;
 }
 
-template <typename Op, typename T, unsigned N, unsigned mostInline = kMostInline, typename A, typename B>
-ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
-    if constexpr (N >= kLanes<T>) {
-        constexpr unsigned widest = N * sizeof(T) >= kShortRunBytes ? kShortRunBytes
+// Vectors have too few elements for it, and would rather keep their constants in registers.
+constexpr unsigned kMostInline = 6;
+
+template <typename T, unsigned N>
+constexpr unsigned kWidestOfShort = N * sizeof(T) >= kShortRunBytes ? kShortRunBytes
                                     : N * sizeof(T) >= 32           ? widestUpTo(32)
                                                                     : kBlockBytes;
-        if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest))
-            return shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
-        if constexpr (N > mostInline)
-            return overlappingRun<Op, T, A, B>(a, b, dst, N);
+
+// A run inside a loop over objects.
+template <typename Op, typename T, unsigned N, typename A, typename B>
+ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
+    if constexpr (N >= kLanes<T>) {
+        constexpr unsigned widest = kWidestOfShort<T, N>;
+        if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest)) {
+            shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
+            return;
+        }
+        if constexpr (N > kMostInline) {
+            overlappingRun<Op, T, N, A, B>(a, b, dst);
+            return;
+        }
     }
-    if constexpr (N < kLanes<T> || N <= mostInline) {
-        ZELM_UNROLL
-        for (unsigned j = 0; j < N; ++j)
-            store(dst + j * sizeof(T), Op::template apply<T>(a.element(j), b.element(j)));
+    if constexpr (N < kLanes<T> || N <= kMostInline)
+        shortElements<Op, T, N>(a, b, dst);
+}
+
+// Whether a function may end with a call and have no frame for it. On 32-bit x86 it would align its stack.
+constexpr bool kEndsWithCalls = sizeof(Address) == 8;
+
+// A run of its own. Three elements take fewer instructions than the tests for a pack.
+template <typename Op, typename T, unsigned N, typename A, typename B>
+ZELM_INLINE ZelmStatus singleRun(const A &a, const B &b, Address dst) {
+    constexpr unsigned widest = kWidestOfShort<T, N>;
+    constexpr bool isInPacks = kIsInPacks<A> || kIsInPacks<B>;
+    if constexpr (N <= 3) {
+        shortElements<Op, T, N>(a, b, dst);
+    } else if (__builtin_expect_with_probability(a.isCloselyBehind(dst, widest) ||
+                                                     b.isCloselyBehind(dst, widest),
+                                                 0, isInPacks ? 0.5 : 1)) {
+        if constexpr (kEndsWithCalls && !isInPacks)
+            return overlappingRun<Op, T, N, A, B>(a, b, dst);
+        shortElements<Op, T, N>(a, b, dst);
+    } else {
+        shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
     }
+    return ZELM_OK;
 }
 
 } // namespace zelm::elementwise
