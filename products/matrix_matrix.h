@@ -11,9 +11,10 @@ namespace zelm::products {
 
 // ---- one object of a fixed size, element by element
 
-// Both sources may be overwritten while they are read: every element of dst reads them anew.
+// Both sources may be overwritten while they are read: every element of dst reads them anew. Operands by
+// value: by reference they would be stored for each object of a loop, whether this is called or not.
 template <Sum order, unsigned N, typename A, typename B, typename D>
-ZELM_NOINLINE void multiplyAnew(const A &a, const B &b, const D &d) {
+ZELM_NOINLINE void multiplyAnew(A a, B b, D d) {
     using T = typename D::Element;
     for (unsigned i = 0; i < N; ++i) {
         for (unsigned j = 0; j < N; ++j) {
@@ -65,7 +66,8 @@ ZELM_INLINE void multiplyHeld(const A &a, const HeldElements<T, N> &b, const D &
 template <unsigned N, typename D, typename B>
 ZELM_INLINE auto holdSecond(const B &b) {
     using T = typename B::Element;
-    if constexpr (D::isDense)
+    // Elements with gaps make packs too where a row fills them, and wider ones hold no more than a row.
+    if constexpr (D::isDense || (!D::isTable && N == 4 && kWidestBytes == kBlockBytes))
         return HeldRows<T, N>(b);
     else
         return HeldElements<T, N>(b);

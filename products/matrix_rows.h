@@ -1,5 +1,5 @@
-// Products of dense matrices inside one object: rows of the result as packs, each the sum of rows of src2
-// times an element of src1's row. Every element keeps its chain of sums.
+// Products of matrices inside one object: rows of the result as packs, each the sum of rows of src2 times an
+// element of src1's row. Every element keeps its chain of sums.
 #pragma once
 
 #include "frame/groups.h"
@@ -33,10 +33,14 @@ ZELM_INLINE T loadedOnce(T element) {
     return element;
 }
 
+// Whether the elements of a row as it is used are adjacent.
+template <typename Object>
+constexpr bool kHasRows = Object::isDense && !kIsTransposed<Object>;
+
 template <unsigned first, typename B>
 ZELM_INLINE Pack<typename B::Element> packOfRow(const B &b, std::uint32_t row) {
     using T = typename B::Element;
-    if constexpr (!kIsTransposed<B>)
+    if constexpr (kHasRows<B>)
         return loadPack<T>(b.rowStart(row) + first * sizeof(T));
     else if constexpr (sizeof(T) == 4)
         return packOf(used(b, row, first, 0), used(b, row, first + 1, 0), used(b, row, first + 2, 0),
@@ -53,7 +57,7 @@ ZELM_INLINE WideOfRow<typename B::Element, N> wideOfRow(const B &b, std::uint32_
     using T = typename B::Element;
     if constexpr (kWideLanes<T, N> == 0)
         return {};
-    else if constexpr (!kIsTransposed<B>)
+    else if constexpr (kHasRows<B>)
         return loadAs<WideOfRow<T, N>>(b.rowStart(row));
     else
         return joined(packOfRow<0>(b, row), packOfRow<2>(b, row));
@@ -119,14 +123,28 @@ ZELM_INLINE RowResult<T, N> rowOf(const A &a, std::uint32_t i, const HeldRows<T,
     return row;
 }
 
-template <typename T, unsigned N>
-ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const Dense<T> &d, std::uint32_t i) {
+// From element (i, j) on.
+template <typename V, typename D>
+ZELM_INLINE void storeInRow(const D &d, std::uint32_t i, std::uint32_t j, V values) {
+    if constexpr (D::isDense) {
+        storePack(d.address(i, j, 0), values);
+    } else {
+        LaneAddresses<V> at;
+        ZELM_UNROLL
+        for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+            at[lane] = d.address(i, j + lane, 0);
+        scatter(at, values);
+    }
+}
+
+template <typename T, unsigned N, typename D>
+ZELM_INLINE void storeRowOf(const RowResult<T, N> &row, const D &d, std::uint32_t i) {
     constexpr unsigned wide = kWideLanes<T, N>;
     if constexpr (wide != 0)
-        storePack(d.rowStart(i), row.first);
+        storeInRow(d, i, 0, row.first);
     ZELM_UNROLL
     for (unsigned p = 0; p < kRowPacks<T, N>; ++p)
-        storePack(d.rowStart(i) + wide * sizeof(T) + p * kBlockBytes, row.pack[p]);
+        storeInRow(d, i, wide + p * kLanes<T>, row.pack[p]);
     if constexpr (kRowRest<T, N> == 1)
         d.set(i, N - 1, 0, row.last);
 }
@@ -152,8 +170,8 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 6> &b, const Den
     }
 }
 
-template <typename T, unsigned N, typename A>
-ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const Dense<T> &d) {
+template <typename T, unsigned N, typename A, typename D>
+ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, N> &b, const D &d) {
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         storeRowOf(rowOf<T, N>(a, i, b), d, i);
@@ -190,7 +208,7 @@ ZELM_INLINE Floats4 threeOfRow(const A &a, std::uint32_t row) {
 template <typename A>
 ZELM_INLINE void loadThreeRows(const A &a, Floats4 (&row)[3]) {
     if constexpr (!kIsTransposed<A>) {
-        if (a.rowStride == 12) {
+        if (__builtin_expect(a.rowStride == 12, 1)) {
             row[0] = loadPack<float>(a.start);
             row[1] = loadPack<float>(a.start + 12);
             const Floats4 last = loadPack<float>(a.start + 20);
@@ -243,7 +261,7 @@ ZELM_INLINE void multiplyRows(const A &a, const HeldRows<float, 3> &b, const Den
     loadThreeRows(static_cast<const Dense<const float> &>(a), first);
     const Floats4 rows[3] = {rowOfThrees<0, A>(first, b), rowOfThrees<1, A>(first, b),
                              rowOfThrees<2, A>(first, b)};
-    if (d.rowStride == 12) {
+    if (__builtin_expect(d.rowStride == 12, 1)) {
         storePack(d.start, rows[0]);
         storePack(d.start + 12, rows[1]);
         storeThree(d.start + 24, rows[2]);
