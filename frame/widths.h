@@ -41,6 +41,10 @@ constexpr Grouping kShortKernels = {kWidestBytes, 8};
 // Decompositions, systems, inverses and determinants.
 constexpr Grouping kLongKernels = {kWidestBytes, 2, 16};
 
+// Those of 64-bit float whose matrices are small and dense: loading and storing is the most of them, and
+// wider packs are put together of more parts.
+constexpr Grouping kSmallDoubleKernels = {widestUpTo(32), kLongKernels.least, kLongKernels.leastInTables};
+
 // Products of matrices and vectors, across objects.
 constexpr Grouping kProductKernels = {kWidestBytes, 8};
 

@@ -193,8 +193,10 @@ ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t cou
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return invertGroups<typename decltype(pack)::Pack, dense, N>(s, d, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S, D>(count, group), one, writes(d, N, N),
-                                         reads(s, N, N));
+    constexpr bool isSmall = N == 3 && !kIs32<typename D::Element> && kRowsAreAdjacent<D>;
+    return forEachInGroups < isSmall ? kSmallDoubleKernels
+                                     : kLongKernels > (count, NoBuffer(), inRuns<S, D>(count, group), one,
+                                                       writes(d, N, N), reads(s, N, N));
 }
 
 // ---- the exported rows
