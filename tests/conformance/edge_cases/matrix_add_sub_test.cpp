@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -132,6 +133,38 @@ TEST(MatrixAddSub, DstMayBeEitherSource) {
     EXPECT_EQ(b, apart);
     EXPECT_EQ(zelmSub_mm_64f(a.data(), 6 * d, a.data(), 6 * d, a.data(), 6 * d, 6, 3), ZELM_OK);
     EXPECT_EQ(a, (std::array<double, 18>{}));
+}
+
+// Memory of n matrices behind each other, in which dst lies across the source that is not transposed.
+template <class T>
+void expectAscendingLoopAcross(auto add, auto subtract, int n) {
+    const auto size = static_cast<std::size_t>(n * n);
+    const auto row = static_cast<std::int32_t>(n * sizeof(T));
+    std::vector<T> start, transposed;
+    for (std::size_t e = 0; e < 3 * size; ++e)
+        start.push_back(static_cast<T>(e * e % 31) - 9);
+    for (std::size_t e = 0; e < size; ++e)
+        transposed.push_back(static_cast<T>(100 * e));
+    for (std::size_t at = 0; at <= 2 * size; ++at) {
+        std::vector<T> sum = start, difference = start, expectedSum = start, expectedDifference = start;
+        for (std::size_t e = 0; e < size; ++e) {
+            const T mirror = transposed[e % static_cast<std::size_t>(n) * static_cast<std::size_t>(n) +
+                                        e / static_cast<std::size_t>(n)];
+            expectedSum[at + e] = mirror + expectedSum[size + e];
+            expectedDifference[at + e] = expectedDifference[size + e] - mirror;
+        }
+        EXPECT_EQ(add(transposed.data(), row, &sum[size], row, &sum[at], row), ZELM_OK);
+        EXPECT_EQ(subtract(&difference[size], row, transposed.data(), row, &difference[at], row), ZELM_OK);
+        EXPECT_EQ(sum, expectedSum) << "order " << n << ", dst at " << at;
+        EXPECT_EQ(difference, expectedDifference) << "order " << n << ", dst at " << at;
+    }
+}
+
+TEST(MatrixAddSub, DstMayLieAcrossTheSourceThatIsNotTransposed) {
+    expectAscendingLoopAcross<float>(zelmAdd_mTm_32f_3x3, zelmSub_mmT_32f_3x3, 3);
+    expectAscendingLoopAcross<float>(zelmAdd_mTm_32f_4x4, zelmSub_mmT_32f_4x4, 4);
+    expectAscendingLoopAcross<double>(zelmAdd_mTm_64f_3x3, zelmSub_mmT_64f_3x3, 3);
+    expectAscendingLoopAcross<double>(zelmAdd_mTm_64f_4x4, zelmSub_mmT_64f_4x4, 4);
 }
 
 TEST(MatrixAddSub, ARunTimeTransposedFormInPlaceFollowsTheTraversal) {
