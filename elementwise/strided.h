@@ -1,7 +1,7 @@
 // Element-wise operations on elements with gaps: element by element in the order of the definition.
 #pragma once
 
-#include "elementwise/run.h"
+#include "elementwise/element_run.h"
 
 namespace zelm::elementwise {
 

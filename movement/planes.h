@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/overlap.h"
-#include "movement/run.h"
+#include "movement/copied_run.h"
 
 namespace zelm::movement {
 

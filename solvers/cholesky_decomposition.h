@@ -3,8 +3,8 @@
 
 #include "solvers/cholesky_kernels.h"
 #include "solvers/departures.h"
-#include "solvers/groups.h"
-#include "solvers/roots.h"
+#include "solvers/matrix_groups.h"
+#include "solvers/reciprocal_roots.h"
 
 namespace zelm::solvers {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/masks.h"
-#include "solvers/roots.h"
+#include "solvers/reciprocal_roots.h"
 
 namespace zelm::solvers {
 

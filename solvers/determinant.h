@@ -5,7 +5,7 @@
 #include "solvers/determinant_kernels.h"
 #include "solvers/elimination.h"
 #include "solvers/expansion.h"
-#include "solvers/groups.h"
+#include "solvers/matrix_groups.h"
 #include "solvers/proved_determinant.h"
 #include "solvers/tested_matrix.h"
 

@@ -1,8 +1,8 @@
 // LU decomposition with partial pivoting: P*A = L*U, rows of the result left where A has them.
 #pragma once
 
-#include "solvers/groups.h"
 #include "solvers/lu_kernels.h"
+#include "solvers/matrix_groups.h"
 #include "solvers/tested_matrix.h"
 
 namespace zelm::solvers {

@@ -1,7 +1,7 @@
 // QR decomposition by Householder reflections; Q is kept as the vectors of its reflectors.
 #pragma once
 
-#include "solvers/groups.h"
+#include "solvers/matrix_groups.h"
 #include "solvers/qr_kernels.h"
 #include "solvers/tested_matrix.h"
 

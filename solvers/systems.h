@@ -12,7 +12,7 @@
 //   one's stays.
 #pragma once
 
-#include "solvers/groups.h"
+#include "solvers/matrix_groups.h"
 
 namespace zelm::solvers {
 
