@@ -133,7 +133,7 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
             runPerPosition<Op>(first, second, result, RunTimeShape{shape.rows(), shape.columns()}, count))
             return ZELM_OK;
         return sharedObjects<Op>(first, second, result, shape, count);
-    } else if constexpr (decltype(d.object(0))::isDense) {
+    } else if constexpr (kHasDenseObjects<D>) {
         return denseObjects<Op, readingOf<A, B, Shape>(reading)>(a, b, d, shape, count);
     } else {
         return stridedObjects<Op, reading>(asUsed(a), asUsed(b), d, shape, count);

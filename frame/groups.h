@@ -275,7 +275,7 @@ constexpr bool kIsDenseArray<DenseArray<T>> = true;
 template <unsigned N, unsigned columns = N, typename V, typename Array, typename RowOfLane>
 ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, V *out) {
     LaneAddresses<V> at;
-    if constexpr (decltype(array.object(0))::isDense) {
+    if constexpr (kHasDenseObjects<Array>) {
         ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
             at[lane] = array.object(k + lane).rowStart(row(lane));
@@ -294,7 +294,7 @@ ZELM_INLINE void loadRowOfEach(const Array &array, std::uint32_t k, RowOfLane ro
 template <unsigned N, unsigned columns = N, typename V, typename Array, typename RowOfLane>
 ZELM_INLINE void storeRowOfEach(const Array &array, std::uint32_t k, RowOfLane row, const V *in) {
     LaneAddresses<V> at;
-    if constexpr (decltype(array.object(0))::isDense) {
+    if constexpr (kHasDenseObjects<Array>) {
         ZELM_UNROLL
         for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
             at[lane] = array.object(k + lane).rowStart(row(lane));

@@ -229,4 +229,8 @@ template <typename Operand>
 constexpr bool kIsArray =
     !std::is_same_v<std::remove_cvref_t<decltype(std::declval<const Operand &>().object(0))>, Operand>;
 
+// Whether the elements of a row of its objects are adjacent.
+template <typename Operand>
+constexpr bool kHasDenseObjects = decltype(std::declval<const Operand &>().object(0))::isDense;
+
 } // namespace zelm::frame

@@ -1,9 +1,8 @@
 // How wide the packs are that each class of kernels takes in this build, and from how many objects on.
 #pragma once
 
+#include "frame/operands.h"
 #include "frame/pack.h"
-
-#include <utility>
 
 namespace zelm::frame {
 
@@ -22,8 +21,7 @@ struct Grouping {
 constexpr Grouping kOneAtATime = {0, 8};
 
 template <typename Array>
-constexpr bool kLoadsInGroups =
-    Array::isSideBySide || decltype(std::declval<const Array &>().object(0))::isDense;
+constexpr bool kLoadsInGroups = Array::isSideBySide || kHasDenseObjects<Array>;
 
 // The widths of a class where a group is loaded by rows or planes, one object at a time elsewhere.
 template <typename Array>

@@ -224,7 +224,7 @@ ZELM_INLINE bool rowsAreApart(const DenseList<T> &d, RunTimeShape shape, std::ui
 // src and dst must be apart, or the same element by element. Elements of dst may lie on each other.
 template <typename S, typename D>
 ZELM_INLINE void moveBetween(const S &s, const D &d, RunTimeShape shape, std::uint32_t count) {
-    constexpr bool fromRows = decltype(s.object(0))::isDense, toRows = decltype(d.object(0))::isDense;
+    constexpr bool fromRows = kHasDenseObjects<S>, toRows = kHasDenseObjects<D>;
     if constexpr (fromRows && toRows) {
         return moveRows(s, d, shape, count);
     } else if constexpr (S::isSideBySide && D::isSideBySide) {

@@ -208,7 +208,7 @@ ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std
     if constexpr (D::isSideBySide && Shape::isFixed)
         if (transposePlanes(s, d, shape, count))
             return ZELM_OK;
-    if constexpr (decltype(d.object(0))::isDense) {
+    if constexpr (kHasDenseObjects<D>) {
         const Blocks blocks(s, d, shape);
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             transposeObject(s.object(k), d.object(k), shape, blocks);

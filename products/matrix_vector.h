@@ -60,7 +60,7 @@ enum class Way {
 // whose null tests take as long as a group of one gains if nothing is added.
 template <unsigned N, bool isDense, bool adds, typename A, typename X, typename D>
 constexpr Way wayOf() {
-    constexpr bool hasRows = decltype(std::declval<const D &>().object(0))::isDense;
+    constexpr bool hasRows = kHasDenseObjects<D>;
     if (isDense && kIsArray<A>)
         return D::isList || kIsArray<X> ? Way::OneByOne : Way::HeldVector;
     if (isDense && N == 4 && !D::isList && kWidestBytes > kBlockBytes)
@@ -131,7 +131,7 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
 
 template <unsigned N, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorsOf(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
-    constexpr bool isDense = decltype(d.object(0))::isDense;
+    constexpr bool isDense = kHasDenseObjects<D>;
     return withPlainest([&](const auto &...plain)
                             ZELM_INLINE_LAMBDA { return vectorArrayFixed<N, isDense>(plain..., count); },
                         a, x, z, d);

@@ -188,7 +188,7 @@ ZELM_INLINE ZelmStatus determinantArray(const S &s, void *scratch, T *dst, Size 
         if (ZelmStatus status = checkArray(false, count, tested(s, n * n), tested(Pointer(dst), 0));
             status != kProceed)
             return status;
-        if constexpr (decltype(s.object(0))::isDense) {
+        if constexpr (kHasDenseObjects<S>) {
             if constexpr (kIsProved<Size::fixed, T>)
                 if (arithmeticIsUsual())
                     return determinantsProved<Size::fixed>(s, dst, count, kernel);

@@ -193,7 +193,7 @@ ZELM_NOINLINE ZelmStatus invertObjects(const S &s, const D &d, std::uint32_t cou
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return invertGroups<typename decltype(pack)::Pack, dense, N>(s, d, k, end);
     };
-    constexpr bool isSmall = N == 3 && !kIs32<typename D::Element> && kRowsAreAdjacent<D>;
+    constexpr bool isSmall = N == 3 && !kIs32<typename D::Element> && kHasDenseObjects<D>;
     return forEachInGroups < isSmall ? kSmallDoubleKernels
                                      : kLongKernels > (count, NoBuffer(), inRuns<S, D>(count, group), one,
                                                        writes(d, N, N), reads(s, N, N));
@@ -245,7 +245,7 @@ ZELM_INLINE ZelmStatus invertArray(const S &s, void *scratch, const D &d, Size s
         if (ZelmStatus status = checkArray(false, count, tested(s, n * n), tested(d, n * n));
             status != kProceed)
             return status;
-        constexpr bool dense = decltype(d.object(0))::isDense;
+        constexpr bool dense = kHasDenseObjects<D>;
         return withPlainest(
             [&](const auto &source, const auto &target)
                 ZELM_INLINE_LAMBDA { return invertObjects<dense, Size::fixed>(source, target, count); },

@@ -151,13 +151,13 @@ struct LuSystems {
 // has to be gathered. (By measurement at 1,000 objects: lists gain nothing from 64 bytes, gathered elements
 // nothing from 32.)
 template <typename A>
-constexpr bool kIsWideArray = kWidestBytes > kBlockBytes &&kRowsAreAdjacent<A> && !A::isList;
+constexpr bool kIsWideArray = kWidestBytes > kBlockBytes &&kHasDenseObjects<A> && !A::isList;
 template <typename A>
 constexpr unsigned kLeastOrderOfOwnGroups = sizeof(typename A::Element) == 4 ? (kIsWideArray<A> ? 4 : 5)
                                                                              : (kIsWideArray<A> ? 6 : 7);
 template <typename A>
 constexpr Grouping kOwnGrouping = {kIsWideArray<A>       ? kLongKernels.bytes
-                                   : kRowsAreAdjacent<A> ? widestUpTo(32)
+                                   : kHasDenseObjects<A> ? widestUpTo(32)
                                                          : kBlockBytes,
                                    kLongKernels.least, kLongKernels.leastInTables};
 

@@ -146,7 +146,7 @@ ZELM_INLINE void storeRowsAtPivots(const D &d, std::uint32_t k, Address pivots, 
         storeRowOfEach<N>(
             d, k, [&](unsigned lane) { return load<std::uint32_t>(pivots + (lane * N + i) * 4); }, a[i]);
     };
-    if constexpr (kRowsAreAdjacent<D>) {
+    if constexpr (kHasDenseObjects<D>) {
         ZELM_UNROLL
         for (unsigned i = 0; i < N; ++i)
             storeRowAt(i);

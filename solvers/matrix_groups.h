@@ -78,9 +78,6 @@ ZELM_INLINE auto untested(const Operand &operand) {
         return operand;
 }
 
-template <typename Array>
-constexpr bool kRowsAreAdjacent = decltype(std::declval<const Array &>().object(0))::isDense;
-
 // ---- rows of groups whose objects follow each other at a stride, elements apart: one step of the stride
 // from lane to lane
 
@@ -88,7 +85,7 @@ template <typename Array>
 constexpr bool kIsSpacedArray = requires(const Array &array) {
     array.objStride;
 }
-&&!kRowsAreAdjacent<Array> && !Array::isSideBySide;
+&&!kHasDenseObjects<Array> && !Array::isSideBySide;
 
 template <typename V>
 ZELM_INLINE V gatherSpaced(Address first, Address stride) {
@@ -187,7 +184,7 @@ ZELM_INLINE void overwriteNow(T &value) {
 // long code. Small matrices go without it and then need no memory.
 
 template <unsigned N, typename V, typename Array>
-constexpr bool kUnrollsRows = kRowsAreAdjacent<Array> || Array::isSideBySide || kLanesOf<V> == 2 ||
+constexpr bool kUnrollsRows = kHasDenseObjects<Array> || Array::isSideBySide || kLanesOf<V> == 2 ||
                               (kIsSpacedArray<Array> && N <= 4);
 
 template <unsigned N, typename V, typename Array>

@@ -190,7 +190,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
     if (ZelmStatus status = checkArray(false, count, tested(a, 3), tested(b, 3), tested(d, 3));
         status != kProceed)
         return status;
-    if constexpr (decltype(d.object(0))::isDense)
+    if constexpr (kHasDenseObjects<D>)
         return crossDense(a, b, d, count);
     else
         return withPlainest(

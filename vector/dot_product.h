@@ -94,7 +94,7 @@ ZELM_INLINE void productsAcross(const Address *a, const Address *b, V (&out)[N])
 }
 
 template <typename S>
-constexpr bool kIsArrayOfRows = kIsArray<S> &&decltype(std::declval<const S &>().object(0))::isDense;
+constexpr bool kIsArrayOfRows = kIsArray<S> &&kHasDenseObjects<S>;
 
 template <unsigned N, typename V, typename A, typename B>
 ZELM_INLINE void productsOfGroup(const Vectors<N, A> &a, const Vectors<N, B> &b, std::uint32_t k,

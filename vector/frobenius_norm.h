@@ -292,7 +292,7 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
         status != kProceed)
         return status;
     const DenseArray<T> results = resultsAt(dst);
-    if constexpr (Shape::isFixed && decltype(s.object(0))::isDense && sizeof(T) == 4)
+    if constexpr (Shape::isFixed && kHasDenseObjects<S> && sizeof(T) == 4)
         return frobeniusByTrees(s, results, shape, count);
     else
         return withPlainestVectors<Shape::isFixed>(

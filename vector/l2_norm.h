@@ -120,7 +120,7 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
             checkArray(shape.isZero(), count, tested(s, shape.elements()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
-    constexpr bool isDense = decltype(s.object(0))::isDense;
+    constexpr bool isDense = kHasDenseObjects<S>;
     return withPlainestVectors<Shape::isFixed>(
         [&](const auto &plain) ZELM_INLINE_LAMBDA { return lengthsOf<isDense>(plain, dst, shape, count); },
         s);

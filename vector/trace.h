@@ -63,7 +63,7 @@ ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::ui
         traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
     };
-    if constexpr (!decltype(s.object(0))::isDense && kGainsByGroups<S> && Size::fixed != 0) {
+    if constexpr (!kHasDenseObjects<S> && kGainsByGroups<S> && Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
