@@ -63,18 +63,29 @@ ZELM_INLINE void multiplyHeld(const A &a, const HeldElements<T, N> &b, const D &
 
 // ---- what a form holds of src2, and one product with it
 
+template <typename T, unsigned N, bool dense>
+struct RowsFor {
+    using type = HeldRows<T, N>;
+};
+#if defined(__AVX2__)
+template <typename T>
+struct RowsFor<T, 4, true> {
+    using type = HeldFours<T>;
+};
+#endif
+
 template <unsigned N, typename D, typename B>
 ZELM_INLINE auto holdSecond(const B &b) {
     using T = typename B::Element;
-    // Elements with gaps make packs too where a row fills them, and wider ones hold no more than a row.
-    if constexpr (D::isDense || (!D::isTable && N == 4 && kWidestBytes == kBlockBytes))
-        return HeldRows<T, N>(b);
+    // Elements with gaps make packs too where a row fills them.
+    if constexpr (D::isDense || (!D::isTable && N == 4))
+        return typename RowsFor<T, N, D::isDense>::type(b);
     else
         return HeldElements<T, N>(b);
 }
 
-template <Sum, unsigned N, typename A, typename T, typename D>
-ZELM_INLINE void multiplyWith(const A &a, const HeldRows<T, N> &held, const D &d) {
+template <Sum, unsigned N, typename A, typename Rows, typename D>
+ZELM_INLINE void multiplyWith(const A &a, const Rows &held, const D &d) {
     multiplyRows(a, held, d);
 }
 

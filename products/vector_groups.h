@@ -65,7 +65,7 @@ template <typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus multiplyFours(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
     using T = typename D::Element;
     using Fours = RowsOfFour<T>;
-    const HeldRows<T, 4> columns(asColumns(a));
+    const HeldFours<T> columns(asColumns(a));
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         multiplyVectorObject<4, true>(a, x.object(k), z.object(k), d.object(k));
         return ZELM_OK;

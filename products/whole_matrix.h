@@ -59,11 +59,11 @@ ZELM_INLINE void transposeFours(Doubles4 (&r)[4]) {
 
 // The rows of src2 as used, each as often as a pack has room for it.
 template <typename T>
-struct HeldRows<T, 4> {
+struct HeldFours {
     using V = RowsOfFour<T>;
     V row[4];
     template <typename B>
-    ZELM_INLINE explicit HeldRows(const B &b) {
+    ZELM_INLINE explicit HeldFours(const B &b) {
         if constexpr (kIsTransposed<B> && sizeof(T) == 8) {
             Doubles4 rows[4];
             ZELM_UNROLL
@@ -129,7 +129,7 @@ ZELM_INLINE void storeFours(Address start, Address stride, V fours) {
 
 // Rows i, i + 1 and so on of the product. Those of src1 are read before one of dst is written.
 template <unsigned i, typename T, typename A>
-ZELM_INLINE void multiplyRowsFrom(const A &a, const HeldRows<T, 4> &b, const Dense<T> &d) {
+ZELM_INLINE void multiplyRowsFrom(const A &a, const HeldFours<T> &b, const Dense<T> &d) {
     using V = RowsOfFour<T>;
     V sums;
     const auto sumUp = [&](auto factorOf) ZELM_INLINE_LAMBDA {
@@ -155,7 +155,7 @@ ZELM_INLINE void multiplyRowsFrom(const A &a, const HeldRows<T, 4> &b, const Den
 }
 
 template <typename T, typename A>
-ZELM_INLINE void multiplyRows(const A &a, const HeldRows<T, 4> &b, const Dense<T> &d) {
+ZELM_INLINE void multiplyRows(const A &a, const HeldFours<T> &b, const Dense<T> &d) {
     multiplyRowsFrom<0>(a, b, d);
 }
 #endif
