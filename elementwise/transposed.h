@@ -55,7 +55,7 @@ ZELM_INLINE bool combinedTransposed(const S &a, const S &b, const Dense<T> &d) {
     constexpr Address row = 4 * sizeof(T), all = 4 * row;
     if (d.rowStride != row)
         return false;
-    if constexpr (sizeof(Address) == 4)
+    if constexpr (sizeof(Address) == 4) // other strides take registers that aren't there
         if (a.rowStride != row || b.rowStride != row)
             return false;
     if constexpr (sizeof(T) == 8 && !kHoldsFourDoubleRows)

@@ -99,7 +99,7 @@ ZELM_NOINLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint
         return ZELM_OK;
     };
     if constexpr (N <= 4 && !kGainsByGroups<S>)
-        return forEachObject(count, one, s); // half to 0.9 of the time of groups, whose elements are gathered
+        return forEachObject(count, one, s); // 0.53 to 0.99 of the time of groups, which gather
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
         return determinantsOfGroups<typename decltype(pack)::Pack, N>(s, results.start, k, end);
     };
@@ -108,7 +108,7 @@ ZELM_NOINLINE ZelmStatus determinantsInElementType(const S &s, T *dst, std::uint
 }
 
 // ---- arrays in extended precision. Of 32-bit floats 64-bit float mostly proves what the kernel would give,
-// in a third of its time; of higher orders too many minors are rounded on the way.
+// in 0.35 to 0.91 of its time; of higher orders too many minors are rounded on the way.
 
 template <unsigned N, typename T>
 constexpr bool kIsProved = sizeof(T) == 4 && N <= 4;

@@ -33,7 +33,7 @@ namespace zelm::solvers {
 
 // The proof speaks of rounding to nearest, with subnormal numbers, of both units, and of an x87 unit at
 // extended precision. Exceptions must be masked too: other operations are inexact here, and sums overflow.
-// Reading MXCSR takes as long as the kernel takes for a matrix or two.
+// Reading MXCSR takes longer than the kernel of order 3, so that it pays for arrays only.
 ZELM_INLINE bool arithmeticIsUsual() {
     std::uint16_t control;
     asm volatile("fnstcw %0" : "=m"(control));

@@ -10,6 +10,7 @@
 #include <limits>
 #include <random>
 #include <sstream>
+#include <string>
 
 namespace {
 
@@ -35,7 +36,7 @@ bool areSame(float a, float b) {
     return std::memcmp(&a, &b, sizeof a) == 0 || (std::isnan(a) && std::isnan(b));
 }
 
-void expectSame(const Matrices &m, const Results &results, const Results &kernels, const char *what) {
+void expectSame(const Matrices &m, const Results &results, const Results &kernels, const std::string &what) {
     for (std::uint32_t k = 0; k < kMatrices; ++k)
         if (!areSame(results.of[k], kernels.of[k])) {
             std::ostringstream matrix;
@@ -48,34 +49,44 @@ void expectSame(const Matrices &m, const Results &results, const Results &kernel
         }
 }
 
-void expectKernelsOfOrder3(const Matrices &m) {
-    Results results, kernels;
-    for (std::uint32_t k = 0; k < kMatrices; ++k) {
-        zelmDet_m_32f_3x3(m.table[k], kRow, results.of + k);
-        a6_Det_m_32f_3x3(m.table[k], kRow, kernels.of + k);
-    }
-    expectSame(m, results, kernels, "m 3x3");
-    zelmDet_ma_32f_3x3(m.table[0], kObject, kRow, results.of, kMatrices);
-    a6_Det_ma_32f_3x3(m.table[0], kObject, kRow, kernels.of, kMatrices);
-    expectSame(m, results, kernels, "ma 3x3");
-    zelmDet_ma_32f_3x3_L(m.table, 0, kRow, results.of, kMatrices);
-    a6_Det_ma_32f_3x3_L(m.table, 0, kRow, kernels.of, kMatrices);
-    expectSame(m, results, kernels, "L 3x3");
-}
+// The entry points of an order, and their kernels.
+struct Forms {
+    std::string size;
+    decltype(&zelmDet_m_32f_3x3) m;
+    decltype(&a6_Det_m_32f_3x3) kernelOfM;
+    decltype(&zelmDet_ma_32f_3x3) ma;
+    decltype(&a6_Det_ma_32f_3x3) kernelOfMa;
+    decltype(&zelmDet_ma_32f_3x3_L) list;
+    decltype(&a6_Det_ma_32f_3x3_L) kernelOfList;
+};
+const Forms order3 = {"3x3",
+                      zelmDet_m_32f_3x3,
+                      a6_Det_m_32f_3x3,
+                      zelmDet_ma_32f_3x3,
+                      a6_Det_ma_32f_3x3,
+                      zelmDet_ma_32f_3x3_L,
+                      a6_Det_ma_32f_3x3_L};
+const Forms order4 = {"4x4",
+                      zelmDet_m_32f_4x4,
+                      a6_Det_m_32f_4x4,
+                      zelmDet_ma_32f_4x4,
+                      a6_Det_ma_32f_4x4,
+                      zelmDet_ma_32f_4x4_L,
+                      a6_Det_ma_32f_4x4_L};
 
-void expectKernelsOfOrder4(const Matrices &m) {
+void expectKernels(const Forms &forms, const Matrices &m) {
     Results results, kernels;
     for (std::uint32_t k = 0; k < kMatrices; ++k) {
-        zelmDet_m_32f_4x4(m.table[k], kRow, results.of + k);
-        a6_Det_m_32f_4x4(m.table[k], kRow, kernels.of + k);
+        forms.m(m.table[k], kRow, results.of + k);
+        forms.kernelOfM(m.table[k], kRow, kernels.of + k);
     }
-    expectSame(m, results, kernels, "m 4x4");
-    zelmDet_ma_32f_4x4(m.table[0], kObject, kRow, results.of, kMatrices);
-    a6_Det_ma_32f_4x4(m.table[0], kObject, kRow, kernels.of, kMatrices);
-    expectSame(m, results, kernels, "ma 4x4");
-    zelmDet_ma_32f_4x4_L(m.table, 0, kRow, results.of, kMatrices);
-    a6_Det_ma_32f_4x4_L(m.table, 0, kRow, kernels.of, kMatrices);
-    expectSame(m, results, kernels, "L 4x4");
+    expectSame(m, results, kernels, "m " + forms.size);
+    forms.ma(m.table[0], kObject, kRow, results.of, kMatrices);
+    forms.kernelOfMa(m.table[0], kObject, kRow, kernels.of, kMatrices);
+    expectSame(m, results, kernels, "ma " + forms.size);
+    forms.list(m.table, 0, kRow, results.of, kMatrices);
+    forms.kernelOfList(m.table, 0, kRow, kernels.of, kMatrices);
+    expectSame(m, results, kernels, "L " + forms.size);
 }
 
 using Random = std::mt19937;
@@ -123,14 +134,14 @@ TEST(ProvedDeterminant, BesideTheBordersOf32BitFloats) {
             writeMinorBesideABorder(random, m, k, 0);
             m.elements[k][2][2] = powerOfTwo(random, -100, 90);
         }
-        expectKernelsOfOrder3(m);
+        expectKernels(order3, m);
         for (std::uint32_t k = 0; k < kMatrices; ++k) {
             std::memset(m.elements[k], 0, sizeof m.elements[k]);
             writeMinorBesideABorder(random, m, k, 2);
             m.elements[k][0][2] = powerOfTwo(random, -50, 40);
             m.elements[k][1][3] = powerOfTwo(random, -50, 40);
         }
-        expectKernelsOfOrder4(m);
+        expectKernels(order4, m);
         if (HasFailure())
             return;
     }
@@ -173,8 +184,8 @@ TEST(ProvedDeterminant, OfNumbersOfAllKinds) {
     Matrices m;
     for (int round = 0; round < 8000 && !HasFailure(); ++round) {
         writeMatricesOfAnyKind(random, m);
-        expectKernelsOfOrder3(m);
-        expectKernelsOfOrder4(m);
+        expectKernels(order3, m);
+        expectKernels(order4, m);
     }
 }
 
@@ -191,8 +202,8 @@ void expectKernelsIn(const Modes &modes, const Matrices &m) {
     const auto word = static_cast<std::uint16_t>((before & ~0xf00u) | modes.x87);
     asm volatile("fldcw %0" : : "m"(word));
     _mm_setcsr((mxcsr & ~0xe040u) | modes.mxcsr);
-    expectKernelsOfOrder3(m);
-    expectKernelsOfOrder4(m);
+    expectKernels(order3, m);
+    expectKernels(order4, m);
     _mm_setcsr(mxcsr);
     asm volatile("fldcw %0" : : "m"(before));
 }
