@@ -28,10 +28,12 @@ struct Problem {
 };
 
 struct Peer {
-    std::string member; // the exported name of the function beside which it is measured
-    std::string name;   // "Eigen", "loops", ...
-    void (*run)(const Problem &);
-    bool comparable = true; // writes the values that the library writes, up to rounding
+    std::string member;           // the exported name of the function beside which it is measured
+    std::string name;             // "Eigen", "loops", ...
+    void (*run)(const Problem &); // all objects in one call; or, beside single-object functions,
+    void (*runOne)(const Problem &,
+                   std::size_t k); // object k, called for each of them as the library's function is
+    bool comparable = true;        // writes the values that the library writes, up to rounding
 };
 
 // Exported by the object that holds the peers.

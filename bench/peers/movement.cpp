@@ -90,9 +90,11 @@ void extractTransposed(const Problem &problem) {
     }
 }
 
-// A call for each object.
+// Object k alone.
 template <class T, Place from, bool isMatrix, bool isTransposed>
-[[gnu::noinline]] void extractOne(Operand src, Operand dst, std::size_t n, std::size_t k) {
+void extractOne(const Problem &problem, std::size_t k) {
+    const Operand src = problem.src1, dst = problem.dst;
+    const std::size_t n = problem.n;
     if constexpr (isTransposed) {
         extractTransposedOne<T, from>(src, dst, n, k);
     } else {
@@ -104,31 +106,18 @@ template <class T, Place from, bool isMatrix, bool isTransposed>
     }
 }
 
-template <class T, Place from, bool isMatrix, bool isTransposed>
-void extractEach(const Problem &problem) {
-    for (std::size_t k = 0; k < problem.count; ++k) {
-        extractOne<T, from, isMatrix, isTransposed>(problem.src1, problem.dst, problem.n, k);
-    }
-}
-
-template <class T>
-[[gnu::noinline]] void loadIdentity(T *dst, std::size_t n) {
-    std::memset(dst, 0, n * n * sizeof(T));
-    for (std::size_t i = 0; i < n; ++i) {
-        dst[i * n + i] = 1;
-    }
-}
-
 template <class T, Place place>
-void loadIdentities(const Problem &problem) {
-    const std::size_t n = problem.n, count = problem.count;
-    for (std::size_t k = 0; k < count; ++k) {
-        if constexpr (place == Place::Planes) {
-            for (std::size_t e = 0; e < n * n; ++e) {
-                at<T, place>(problem.dst, n * n, k, e) = e % (n + 1) == 0 ? T(1) : T(0);
-            }
-        } else {
-            loadIdentity(&at<T, place>(problem.dst, n * n, k, 0), n);
+void loadIdentityOne(const Problem &problem, std::size_t k) {
+    const std::size_t n = problem.n;
+    if constexpr (place == Place::Planes) {
+        for (std::size_t e = 0; e < n * n; ++e) {
+            at<T, place>(problem.dst, n * n, k, e) = e % (n + 1) == 0 ? T(1) : T(0);
+        }
+    } else {
+        T *const dst = &at<T, place>(problem.dst, n * n, k, 0);
+        std::memset(dst, 0, n * n * sizeof(T));
+        for (std::size_t i = 0; i < n; ++i) {
+            dst[i * n + i] = 1;
         }
     }
 }
@@ -145,17 +134,22 @@ public:
         addExtractions<Place::Adjacent>();
         addExtractions<Place::Planes>();
         addExtractions<Place::List>();
-        add("LoadIdentity", "ma", "_S", "loops", &loadIdentities<T, Place::Adjacent>);
-        add("LoadIdentity", "ma", "_P", "loops", &loadIdentities<T, Place::Planes>);
-        add("LoadIdentity", "ma", "_L", "loops", &loadIdentities<T, Place::List>);
+        addOne("LoadIdentity", "ma", "_S", "loops", &loadIdentityOne<T, Place::Adjacent>);
+        addOne("LoadIdentity", "ma", "_P", "loops", &loadIdentityOne<T, Place::Planes>);
+        addOne("LoadIdentity", "ma", "_L", "loops", &loadIdentityOne<T, Place::List>);
     }
 
 private:
     void add(const char *operation, const char *descriptor, const std::string &suffix, const char *name,
              void (*run)(const Problem &), bool isComparable = true) {
-        peers_.push_back(
-            {memberName(operation, descriptor, sizeof(T), false, 0, Layout::Standard).append(suffix), name,
-             run, isComparable});
+        peers_.push_back({nameOf(operation, descriptor, suffix), name, run, nullptr, isComparable});
+    }
+    void addOne(const char *operation, const char *descriptor, const std::string &suffix, const char *name,
+                void (*runOne)(const Problem &, std::size_t), bool isComparable = true) {
+        peers_.push_back({nameOf(operation, descriptor, suffix), name, nullptr, runOne, isComparable});
+    }
+    static std::string nameOf(const char *operation, const char *descriptor, const std::string &suffix) {
+        return memberName(operation, descriptor, sizeof(T), false, 0, Layout::Standard).append(suffix);
     }
 
     template <Place from, Place to>
@@ -193,9 +187,9 @@ private:
         }
         if constexpr (from != Place::List) {
             const std::string single = from == Place::Adjacent ? "_S2" : "_P";
-            add("Extract", "v", single, "loops", &extractEach<T, from, false, false>);
-            add("Extract", "m", single, "loops", &extractEach<T, from, true, false>);
-            add("Extract", "mT", single, "loops", &extractEach<T, from, true, true>, from != Place::Planes);
+            addOne("Extract", "v", single, "loops", &extractOne<T, from, false, false>);
+            addOne("Extract", "m", single, "loops", &extractOne<T, from, true, false>);
+            addOne("Extract", "mT", single, "loops", &extractOne<T, from, true, true>, from != Place::Planes);
         }
     }
 

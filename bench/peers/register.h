@@ -12,9 +12,14 @@ void addLoopsOf(std::vector<Peer> &peers, const char *name) {
     using OperandForms = typename Kernel::template OperandForms<descriptor>;
     using Loops = Sweep<Kernel, OperandForms, T, layout, N>;
     const bool isVector = OperandForms::Src1::shape == 'v' && OperandForms::Src2::shape != 'm';
-    peers.push_back(
-        {memberName(Kernel::operation, descriptor.characters, sizeof(T), isVector, sizeOf<N>, layout), name,
-         OperandForms::Dst::isArray ? &Loops::run : &Loops::call, Kernel::isComparable});
+    Peer peer{memberName(Kernel::operation, descriptor.characters, sizeof(T), isVector, sizeOf<N>, layout),
+              name, nullptr, nullptr, Kernel::isComparable};
+    if constexpr (OperandForms::Dst::isArray) {
+        peer.run = &Loops::run;
+    } else {
+        peer.runOne = &Loops::runOne;
+    }
+    peers.push_back(peer);
 }
 
 template <class Kernel, Text descriptor, class T, Layout layout>

@@ -1,4 +1,4 @@
-// A kernel for one object, compiled into a loop over objects, or called for each of them.
+// A kernel for one object, compiled into a loop over objects, or as a function of its own.
 #pragma once
 
 #include "access.h"
@@ -28,18 +28,15 @@ public:
         }
     }
 
-    // The same, with a call for each object.
-    static void call(const Problem &problem) {
+    // Object k alone.
+    [[gnu::flatten]] static void runOne(const Problem &problem, std::size_t k) {
         const N n = order(problem);
-        for (std::size_t k = 0; k < problem.count; ++k) {
-            const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
-                                   problem.pivotIndex + k * n};
-            called(n, single<typename OperandForms::Src1>(problem.src1, k, n),
-                   single<typename OperandForms::Src2>(problem.src2, k, n),
-                   single<typename OperandForms::Src3>(problem.src3, k, n),
-                   objectOf<T, typename OperandForms::Dst, layout, Kernel::isDense>(problem.dst, k, n),
-                   extras);
-        }
+        const Extras<T> extras{static_cast<T>(problem.scale1), static_cast<T>(problem.scale2),
+                               problem.pivotIndex + k * n};
+        object(n, single<typename OperandForms::Src1>(problem.src1, k, n),
+               single<typename OperandForms::Src2>(problem.src2, k, n),
+               single<typename OperandForms::Src3>(problem.src3, k, n),
+               objectOf<T, typename OperandForms::Dst, layout, Kernel::isDense>(problem.dst, k, n), extras);
     }
 
 private:
@@ -146,12 +143,6 @@ private:
         } else {
             inLine(n, first, second, third, dst.first, extras);
         }
-    }
-
-    template <class First, class Second, class Third, class Result>
-    [[gnu::noinline, gnu::flatten]] static void called(N n, First first, Second second, Third third,
-                                                       Result dst, Extras<T> extras) {
-        object(n, first, second, third, dst, extras);
     }
 };
 
