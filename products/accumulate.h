@@ -75,6 +75,14 @@ ZELM_INLINE bool ascendingAreDisjoint(const Table<S> &s, const Table<D> &d) {
                        d.position(entries - 1) - d.position(0) + sizeof(D));
 }
 
+template <typename T, typename ElementOfLane>
+ZELM_INLINE Pack<T> packOf(ElementOfLane element) {
+    if constexpr (kLanes<T> == 4)
+        return _mm_setr_ps(element(0), element(1), element(2), element(3));
+    else
+        return _mm_setr_pd(element(0), element(1));
+}
+
 // Row by row in packs, where no partial sum can be seen. Lanes behind the last column hold it again.
 template <unsigned N, typename A, typename B, typename T>
 ZELM_INLINE void multiplyTablesApart(const A &a, const B &b, const Table<T> &d) {
@@ -84,14 +92,10 @@ ZELM_INLINE void multiplyTablesApart(const A &a, const B &b, const Table<T> &d) 
     for (unsigned t = 0; t < N; ++t) {
         ZELM_UNROLL
         for (unsigned p = 0; p < packs; ++p) {
-            const auto column = [&](unsigned lane) ZELM_INLINE_LAMBDA {
+            rows[t][p] = packOf<T>([&](unsigned lane) ZELM_INLINE_LAMBDA {
                 const unsigned j = p * lanes + lane;
                 return used(b, t, j < N ? j : N - 1, N);
-            };
-            if constexpr (lanes == 4)
-                rows[t][p] = _mm_setr_ps(column(0), column(1), column(2), column(3));
-            else
-                rows[t][p] = _mm_setr_pd(column(0), column(1));
+            });
         }
     }
     for (unsigned i = 0; i < N; ++i) {

@@ -1,6 +1,7 @@
 // Products of matrices and vectors, and with vectors added: the exported rows of Mul and Gaxpy.
 #pragma once
 
+#include "frame/apart.h"
 #include "frame/plainest.h"
 #include "products/vector_groups.h"
 #include "products/vector_run_time.h"
@@ -56,9 +57,9 @@ enum class Way {
 // objects is held by columns in order 4, and in lists, whose addresses are not known ahead, in all; a matrix
 // to each object is faster inside the object. The sums of the other layouts are chains, which groups form
 // without a shuffle where the data lies in planes or rows; other strided objects are gathered, or groups of
-// one. Left are transposed matrices of rows, which a group can't load, and the products of strided lists,
-// whose null tests take as long as a group of one gains if nothing is added.
-template <unsigned N, bool isDense, bool adds, typename A, typename X, typename D>
+// one; strided lists hold a matrix by columns too. Left are transposed matrices of rows, which a group can't
+// load, and strided lists of matrices.
+template <unsigned N, bool isDense, typename A, typename X, typename D>
 constexpr Way wayOf() {
     constexpr bool hasRows = kHasDenseObjects<D>;
     if (isDense && kIsArray<A>)
@@ -67,8 +68,10 @@ constexpr Way wayOf() {
         return Way::Fours;
     if (isDense)
         return N == 4 || D::isList ? Way::HeldColumns : Way::Groups;
-    if (hasRows ? kIsArray<A> && kIsTransposed<A> : D::isList && !adds)
+    if (kIsArray<A> && (hasRows ? kIsTransposed<A> : D::isList))
         return Way::OneByOne;
+    if (!hasRows && D::isList)
+        return Way::HeldColumns;
     return Way::Groups;
 }
 
@@ -87,8 +90,34 @@ ZELM_INLINE ZelmStatus multiplyByColumns(const A &a, const X &x, const Z &z, con
     using T = typename D::Element;
     const HeldColumns<N, A> columns(a);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        multiplyRowsOf<N, 0, kIsTransposed<A>>(columns, HeldVectorOf<T, N>(x.object(k)), z.object(k),
-                                               d.object(k));
+        multiplyRowsOf<N, 0, true, kIsTransposed<A>>(columns, HeldVectorOf<T, N>(x.object(k)), z.object(k),
+                                                     d.object(k));
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, a, x, z, d);
+}
+
+// Strided vectors of a list, whose definition stores what it may read again: each is asked for. The matrix is
+// held until something is stored in it.
+template <unsigned N, typename A, typename X, typename Z, typename D>
+ZELM_NOINLINE ZelmStatus multiplyStrided(A a, X x, Z z, D d, std::uint32_t count) {
+    using T = typename D::Element;
+    const HeldColumns<N, A> columns(a);
+    ObjectsApart fromMatrix(a, N, N, d, 1, N);
+    const VectorsApart<X> fromVector(x, d, N);
+    const VectorsApart<Z> fromAddend(z, d, N);
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        const auto vector = x.object(k);
+        const auto addend = z.object(k);
+        const auto result = d.object(k);
+        const bool missesMatrix = fromMatrix(a.start, result.start);
+        if (missesMatrix && fromVector(k, result.start) && fromAddend(k, result.start)) {
+            multiplyRowsOf<N, 0, false, false>(columns, HeldVectorOf<T, N>(vector), addend, result);
+        } else {
+            if (!missesMatrix)
+                fromMatrix.neverAgain();
+            multiplyVectorObject<N, false>(a, vector, addend, result);
+        }
         return ZELM_OK;
     };
     return forEachObject(count, one, a, x, z, d);
@@ -107,7 +136,7 @@ ZELM_INLINE ZelmStatus multiplyByVector(const A &a, const X &x, const Z &z, cons
 // `isDense`: whether the called form is one of the standard and L layouts.
 template <unsigned N, bool isDense, typename A, typename X, typename Z, typename D>
 ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, const D &d, std::uint32_t count) {
-    constexpr Way way = wayOf<N, isDense, kAdds<Z>, A, X, D>();
+    constexpr Way way = wayOf<N, isDense, A, X, D>();
     if constexpr (way == Way::Groups) {
         const UsedEntries<N, A> entries(a);
         return multiplyInGroups<N, isDense>(asUsed(a, entries), x, z, d, count);
@@ -116,7 +145,9 @@ ZELM_INLINE ZelmStatus vectorArrayFixed(const A &a, const X &x, const Z &z, cons
     if constexpr (way == Way::Fours)
         return multiplyFours(a, x, z, d, count);
 #endif
-    if constexpr (way == Way::HeldColumns)
+    if constexpr (way == Way::HeldColumns && !isDense)
+        return multiplyStrided<N>(asUsed(a, UsedEntries<N, A>(a)), x, z, d, count);
+    else if constexpr (way == Way::HeldColumns)
         if (__builtin_expect(missesInvariant<N>(a, N, d, count), 1))
             return multiplyByColumns<N>(a, x, z, d, count);
     if constexpr (way == Way::HeldVector)

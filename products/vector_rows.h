@@ -78,6 +78,37 @@ ZELM_INLINE void loadRows(const Transposed<Dense<const T>> &a, unsigned row, Pac
         columns[t] = loadSome(a.rowStart(t) + row * sizeof(T), N - row, T{});
 }
 
+template <unsigned N, typename T>
+ZELM_INLINE void loadRows(const Strided<const T> &a, unsigned row, Pack<T> (&columns)[N]) {
+    ZELM_UNROLL
+    for (unsigned t = 0; t < N; ++t)
+        columns[t] = packOf<T>([&](unsigned lane) ZELM_INLINE_LAMBDA {
+            return a.get(row + lane < N ? row + lane : N - 1, t, N);
+        });
+}
+
+// As many elements of a vector, from `first` on, as a pack has lanes or as there are up to N.
+template <unsigned N, typename T>
+ZELM_INLINE Pack<T> elementsFrom(const Dense<const T> &vector, unsigned first) {
+    return loadSome(vector.start + first * sizeof(T), N - first, T{});
+}
+template <unsigned N, typename T>
+ZELM_INLINE Pack<T> elementsFrom(const Strided<const T> &vector, unsigned first) {
+    return packOf<T>([&](unsigned lane)
+                         ZELM_INLINE_LAMBDA { return vector.get(first + lane < N ? first + lane : N - 1); });
+}
+template <unsigned N, typename T>
+ZELM_INLINE void setElements(const Dense<T> &vector, unsigned first, Pack<T> elements) {
+    storeSome(vector.start + first * sizeof(T), elements, N - first);
+}
+template <unsigned N, typename T>
+ZELM_INLINE void setElements(const Strided<T> &vector, unsigned first, Pack<T> elements) {
+    ZELM_UNROLL
+    for (unsigned lane = 0; lane < kLanes<T>; ++lane)
+        if (first + lane < N)
+            vector.set(first + lane, inAllLanes(elements)[lane]);
+}
+
 // A matrix that is read row by row when it is needed ...
 template <unsigned N, typename A>
 struct ReadRows {
@@ -136,27 +167,34 @@ struct HeldVectorOf {
     }
 };
 
-template <unsigned N, unsigned row, bool isTransposed, typename Rows, typename T, typename Z>
-ZELM_INLINE void multiplyRowsOf(const Rows &a, const HeldVectorOf<T, N> &x, const Z &z, const Dense<T> &d) {
-    constexpr Sum order = vectorSumOfRow<T, true, isTransposed, N>(row);
-    if constexpr (N - row == 1) {
-        T products[N];
-        ZELM_UNROLL
-        for (unsigned t = 0; t < N; ++t)
-            products[t] = a.last(t) * x.element[t];
-        d.set(row, plus(sumOf<order>(products), z, row));
-    } else {
-        Pack<T> products[N];
+// `isDense`: whether the called form is one of the standard and L layouts; the sums of others begin at +0
+// where a vector is added, which shows where all products are -0.
+template <unsigned N, unsigned row, bool isDense, bool isTransposed, typename Rows, typename T, typename Z,
+          typename D>
+ZELM_INLINE void multiplyRowsOf(const Rows &a, const HeldVectorOf<T, N> &x, const Z &z, const D &d) {
+    constexpr Sum order = vectorSumOfRow<T, isDense, isTransposed, N>(row);
+    constexpr bool isLast = N - row == 1;
+    std::conditional_t<isLast, T, Pack<T>> products[N];
+    if constexpr (!isLast)
         a.template load<row>(products);
-        ZELM_UNROLL
-        for (unsigned t = 0; t < N; ++t)
+    ZELM_UNROLL
+    for (unsigned t = 0; t < N; ++t) {
+        if constexpr (isLast)
+            products[t] = a.last(t) * x.element[t];
+        else
             products[t] = products[t] * x.inAllLanes[t];
-        Pack<T> sum = sumOf<order>(products);
+    }
+    if constexpr (kAdds<Z> && !isDense)
+        products[0] = products[0] + decltype(products[0] + products[0]){};
+    auto sum = sumOf<order>(products);
+    if constexpr (isLast) {
+        d.set(row, plus(sum, z, row));
+    } else {
         if constexpr (kAdds<Z>)
-            sum = sum + loadSome(z.start + row * sizeof(T), N - row, T{});
-        storeSome(d.start + row * sizeof(T), sum, N - row);
+            sum = sum + elementsFrom<N>(z, row);
+        setElements<N>(d, row, sum);
         if constexpr (row + kLanes<T> < N)
-            multiplyRowsOf<N, row + kLanes<T>, isTransposed>(a, x, z, d);
+            multiplyRowsOf<N, row + kLanes<T>, isDense, isTransposed>(a, x, z, d);
     }
 }
 
@@ -221,8 +259,8 @@ ZELM_INLINE void multiplyWholeRows(const Dense<const T> &a, const VectorAlongRow
     for (unsigned row = 0; row < N; row += kLanes<T>) {
         Pack<T> sums = sumsOfRows<N>(a, row, x);
         if constexpr (kAdds<Z>)
-            sums = sums + loadSome(z.start + row * sizeof(T), N - row, T{});
-        storeSome(d.start + row * sizeof(T), sums, N - row);
+            sums = sums + elementsFrom<N>(z, row);
+        setElements<N>(d, row, sums);
     }
 }
 
@@ -238,7 +276,7 @@ ZELM_INLINE void multiplyDenseVector(const A &a, const VectorAlongRows<T, N> &x,
 
 template <unsigned N, typename A, typename T, typename Z, typename D>
 ZELM_INLINE void multiplyDenseVector(const A &a, const HeldVectorOf<T, N> &x, const Z &z, const D &d) {
-    multiplyRowsOf<N, 0, kIsTransposed<A>>(ReadRows<N, A>{a}, x, z, d);
+    multiplyRowsOf<N, 0, true, kIsTransposed<A>>(ReadRows<N, A>{a}, x, z, d);
 }
 
 // `isDense`: whether the called form is one of the standard and L layouts, whose sums have orders of their
