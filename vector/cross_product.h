@@ -1,6 +1,7 @@
 // Cross products of 3-vectors.
 #pragma once
 
+#include "frame/apart.h"
 #include "vector/results.h"
 
 namespace zelm::vector {
@@ -169,17 +170,28 @@ ZELM_NOINLINE ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
         crossLineByLine(objectOf(first, k), objectOf(second, k), d.object(k));
         return ZELM_OK;
     };
-    if constexpr (D::isList) {
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+        using V = typename decltype(pack)::Pack;
+        V result[3];
+        crossLinesOf<kHasNegative<decltype(first)>, kHasNegative<decltype(second)>>(
+            factorsOf<V>(first, k), factorsOf<V>(second, k), result);
+        storeRow<3>(d, k, 0, result);
+        return true;
+    };
+    if constexpr (D::isList && kIsArray<A> && kIsArray<B>) {
+        // Where both vectors may be read ahead, six loads are saved.
+        const ObjectsApart firstIsApart(a, 1, 3, d, 1, 3), secondIsApart(b, 1, 3, d, 1, 3);
+        const auto oneOrGroup = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            const Address result = d.object(k).start;
+            if (!firstIsApart(a.object(k).start, result) || !secondIsApart(b.object(k).start, result))
+                return one(k);
+            group(As<typename D::Element>{}, k);
+            return ZELM_OK;
+        };
+        return forEachObject(count, oneOrGroup, a, b, d);
+    } else if constexpr (D::isList) {
         return forEachObject(count, one, a, b, d);
     } else {
-        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-            using V = typename decltype(pack)::Pack;
-            V result[3];
-            crossLinesOf<kHasNegative<decltype(first)>, kHasNegative<decltype(second)>>(
-                factorsOf<V>(first, k), factorsOf<V>(second, k), result);
-            storeRow<3>(d, k, 0, result);
-            return true;
-        };
         return forEachInGroups<groupingOf<D>(kShortKernels)>(count, NoBuffer(), group, one, writes(d, 1, 3),
                                                              reads(a, 1, 3), reads(b, 1, 3));
     }
