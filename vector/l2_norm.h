@@ -78,7 +78,7 @@ ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count
             results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
         return ZELM_OK;
     };
-    if constexpr (!Shape::isFixed || !kGainsByGroups<S>) {
+    if constexpr (!Shape::isFixed) {
         if constexpr (kHasPlanesOfRunTime<S, Shape::isFixed>) {
             const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
                 using V = typename decltype(pack)::Pack;
@@ -97,6 +97,9 @@ ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count
         return forEachObject(count, one, s);
     } else {
         constexpr unsigned N = Shape::columns();
+        // A root takes longer than gathering the elements of several objects does.
+        constexpr Grouping grouping =
+            kLoadsInGroups<S> || kIsAlternate<S> ? kShortKernels : kGatheredProducts;
         const Vectors<N, S> vectors(s);
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
@@ -109,8 +112,8 @@ ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count
             storePack(results.object(k).start, lengthOf<isDense>(sum));
             return true;
         };
-        return forEachInGroups<kVectorGrouping<S>>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                                   reads(s, 1, N));
+        return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                         reads(s, 1, N));
     }
 }
 
