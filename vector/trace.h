@@ -1,6 +1,7 @@
 // Traces: the sum of the diagonal, row by row. Nothing beside the diagonal is read.
 #pragma once
 
+#include "frame/apart.h"
 #include "vector/results.h"
 
 namespace zelm::vector {
@@ -63,7 +64,19 @@ ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::ui
         traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
     };
-    if constexpr (!kHasDenseObjects<S> && kGainsByGroups<S> && Size::fixed != 0) {
+    // 32-bit x86 has too few registers for the test in a loop over dense objects.
+    constexpr bool isDense = kHasDenseObjects<S>;
+    if constexpr (S::isList && Size::fixed != 0 && !(isDense && sizeof(Address) == 4)) {
+        constexpr unsigned N = Size::fixed;
+        const ObjectsApart isApart(s, N, N, results, 1, 1);
+        const auto summed = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            if (!isApart(s.object(k).start, results.object(k).start))
+                return one(k);
+            results.object(k).set(0, tracesOfGroup<N, T>(s, k));
+            return ZELM_OK;
+        };
+        return forEachObject(count, summed, s);
+    } else if constexpr (!isDense && Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
