@@ -97,7 +97,7 @@ int below(Random &random, int end) {
 
 // An odd number of so many bits, or its negative.
 float oddOf(Random &random, int bits) {
-    const auto number = static_cast<float>((random() >> (33 - bits) << 1 | 1) | 1u << (bits - 1));
+    const auto number = static_cast<float>(random() >> (32 - bits) | 1 | 1u << (bits - 1));
     return random() % 2 == 0 ? number : -number;
 }
 
