@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cfenv>
 #include <cmath>
 #include <limits>
 
@@ -135,6 +136,36 @@ TEST(SaxpyLcomb, PositionsAndSizes) {
     EXPECT_EQ(result, (std::array<double, 3>{7, 7, 7}));
     EXPECT_EQ(zelmLComb_vv_64f_P(sources, 0, 2, sources, 0, 1, results, 0, 3), ZELM_ERR_NULL_PTR);
     EXPECT_EQ(result, (std::array<double, 3>{3, 7, 7}));
+}
+
+// What the one vector of a list makes is not asked for ahead of the first object: the product would overflow.
+TEST(SaxpyLcomb, NothingIsMultipliedForAnObjectThatIsMissing) {
+    constexpr float scale = 0x1p100f;
+    const float vector[] = {scale, scale, scale}, source[] = {1, 2, 3};
+    float result[3];
+    const float *const none[] = {nullptr}, *const one[] = {source};
+    float *const nowhere[] = {nullptr}, *const there[] = {result};
+    std::feclearexcept(FE_ALL_EXCEPT);
+    EXPECT_EQ(zelmSaxpy_vva_32f_3x1_L(vector, scale, none, 0, there, 0, 1), ZELM_ERR_NULL_PTR);
+    EXPECT_EQ(zelmSaxpy_vva_32f_3x1_L(vector, scale, one, 0, nowhere, 0, 1), ZELM_ERR_NULL_PTR);
+    EXPECT_EQ(zelmLComb_vav_32f_3x1_L(none, 0, 1, vector, scale, there, 0, 1), ZELM_ERR_NULL_PTR);
+    EXPECT_EQ(zelmLComb_vav_32f_3x1_L(one, 0, 1, vector, scale, nowhere, 0, 1), ZELM_ERR_NULL_PTR);
+    EXPECT_EQ(std::fetestexcept(FE_OVERFLOW), 0);
+    EXPECT_EQ(zelmSaxpy_vva_32f_3x1_L(vector, scale, one, 0, there, 0, 1), ZELM_OK);
+    EXPECT_NE(std::fetestexcept(FE_OVERFLOW), 0);
+}
+
+// Nor of elements that the first result takes the place of.
+TEST(SaxpyLcomb, NothingIsMultipliedThatTheFirstObjectReplaces) {
+    constexpr float scale = 0x1p100f;
+    float memory[] = {0, scale, scale, 0};
+    const float source[] = {0, 1, 2};
+    const float *const one[] = {source};
+    float *const behind[] = {memory + 1};
+    std::feclearexcept(FE_ALL_EXCEPT);
+    EXPECT_EQ(zelmSaxpy_vva_32f_3x1_L(memory, scale, one, 0, behind, 0, 1), ZELM_OK);
+    EXPECT_EQ(std::fetestexcept(FE_OVERFLOW), 0);
+    EXPECT_EQ(std::to_array(memory), (std::array<float, 4>{0, 0, 1, scale}));
 }
 
 } // namespace

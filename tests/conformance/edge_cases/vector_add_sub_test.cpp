@@ -136,4 +136,33 @@ TEST(VectorAddSub, ObjectsThatLieAcrossEachOtherAreDoneOneByOne) {
     EXPECT_EQ(memory, (std::array<float, 10>{2, 3, 5, 6, 7, 8, 8, 9, 9, 10}));
 }
 
+// One vector less each of a list.
+template <class T, std::size_t N>
+void expectDifferences(auto subtract) {
+    std::array<T, N> first, second, result{};
+    for (std::size_t j = 0; j < N; ++j) {
+        first[j] = static_cast<T>(100 + 7 * j);
+        second[j] = static_cast<T>(j * j);
+    }
+    const T *const list[] = {second.data(), first.data()};
+    std::array<T, N> zeros;
+    T *const results[] = {result.data(), zeros.data()};
+    EXPECT_EQ(subtract(first.data(), list, 0, results, 0, 2), ZELM_OK);
+    for (std::size_t j = 0; j < N; ++j) {
+        EXPECT_EQ(result[j], first[j] - second[j]);
+        EXPECT_EQ(zeros[j], 0);
+    }
+}
+
+TEST(VectorAddSub, AListIsSubtractedFromOneVector) {
+    expectDifferences<float, 3>(zelmSub_vva_32f_3x1_L);
+    expectDifferences<float, 4>(zelmSub_vva_32f_4x1_L);
+    expectDifferences<float, 5>(zelmSub_vva_32f_5x1_L);
+    expectDifferences<float, 6>(zelmSub_vva_32f_6x1_L);
+    expectDifferences<double, 3>(zelmSub_vva_64f_3x1_L);
+    expectDifferences<double, 4>(zelmSub_vva_64f_4x1_L);
+    expectDifferences<double, 5>(zelmSub_vva_64f_5x1_L);
+    expectDifferences<double, 6>(zelmSub_vva_64f_6x1_L);
+}
+
 } // namespace
