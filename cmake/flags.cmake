@@ -21,6 +21,11 @@ target_compile_options(zelm_quick_build INTERFACE -O0)
 if(ZELM_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  # What is the same with both sizes of pointers is checked on x64; without it t7's library compiles in about three
+  # quarters of the time.
+  if(ZELM_TARGET STREQUAL "t7")
+    add_compile_options(-fno-sanitize=null,object-size,alignment)
+  endif()
 endif()
 
 # The library itself: closed, so that it can be loaded anywhere and loads nothing.
