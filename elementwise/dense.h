@@ -207,7 +207,7 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
             compute(a.object(k), b.object(k), result);
             return ZELM_OK;
         };
-        return forEachObject(count, one, a, b, d);
+        return forEach<Shape>(count, one, a, b, d);
     };
     if constexpr (kRunsGapless<A, B, Shape>)
         if (areGapless(a, b, d, shape))
@@ -225,9 +225,9 @@ ZELM_INLINE ZelmStatus denseArrayWithInvariant(const A &a, const B &b, const D &
             ZELM_INLINE_LAMBDA { return denseArray<Op>(first, second, result, shape, count, watch); };
     if constexpr (Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>)) {
         const auto held = [](const auto &invariant) ZELM_INLINE_LAMBDA { return hold<Shape>(invariant); };
-        // A vector of whole packs is read as fast as it is held.
+        // With few registers a vector of whole packs is read as fast as it is held.
         constexpr bool isWholePacks =
-            Shape::rows() == 1 && Shape::columns() % kLanes<typename D::Element> == 0;
+            kHasFewRegisters && Shape::rows() == 1 && Shape::columns() % kLanes<typename D::Element> == 0;
         if constexpr (reading == Invariant::ReadAnew && D::isList && isWholePacks)
             return use(a, b, d, Unwatched{});
         else if constexpr (reading == Invariant::ReadAnew)

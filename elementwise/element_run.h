@@ -299,11 +299,16 @@ ZELM_INLINE bool runAsTwo(const A &a, const B &b, Address dst, Address length) {
     __builtin_unreachable();
 }
 
-// A run over one row. Where packs are wide, short rows are done in two of them, and longer ones stand apart,
-// so that a loop over short rows keeps its addresses in registers.
+// A run over one row. Short ones are done in two packs; where packs are wide, longer ones stand apart, so
+// that a loop over short rows keeps its addresses in registers.
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     if constexpr (kRunBytes == kBlockBytes) {
+        // Of 64-bit float two packs are but four elements, and 32-bit x86 has too few registers: the loop
+        // would be the slower for the test.
+        if constexpr (sizeof(T) == 4 && sizeof(Address) == 8)
+            if (length - kLanes<T> <= kLanes<T> && runAsTwo<Op, Pack<T>>(a, b, dst, length))
+                return;
         runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
     } else if (length < kLanes<T>) {
         for (Address i = 0; i < length; ++i)
@@ -359,7 +364,10 @@ template <typename Op, typename T, unsigned N, typename A, typename B>
 ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     if constexpr (N >= kLanes<T>) {
         constexpr unsigned widest = kWidestOfShort<T, N>;
-        if (!a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest)) {
+        // Expected, so that a loop over objects goes on without a jump. On 32-bit x86 that gains nothing.
+        constexpr double likely = sizeof(Address) == 8 ? 0.9 : 0.5;
+        if (__builtin_expect_with_probability(
+                !a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest), 1, likely)) {
             shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);
             return;
         }

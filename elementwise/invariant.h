@@ -89,15 +89,21 @@ struct Unwatched {
 constexpr ZelmStatus kReached = kProceed;
 
 // forEachObject, with vectors of fixed size two a round: a loop of few instructions takes up to twice as long
-// where it begins at a place that the processor fetches badly. Those of lists have more.
+// where it begins at a place that the processor fetches badly. Those of lists have more, but where one
+// operand serves all vectors, the elements are adjacent and registers hold it all.
 template <typename Shape, typename One, typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus forEach(std::uint32_t count, One one, const A &a, const B &b, const D &d) {
-    if constexpr (Shape::isFixed && !D::isList) {
+    constexpr bool isShort =
+        !D::isList || (!kHasFewRegisters && kHasDenseObjects<D> && !(A::isList && B::isList));
+    if constexpr (Shape::isFixed && isShort) {
         if constexpr (Shape::rows() == 1) {
             ZELM_UNROLL_TWICE
-            for (std::uint32_t k = 0; k < count; ++k)
+            for (std::uint32_t k = 0; k < count; ++k) {
+                if (__builtin_expect(a.entryIsNull(k) || b.entryIsNull(k) || d.entryIsNull(k), 0))
+                    return ZELM_ERR_NULL_PTR;
                 if (ZelmStatus status = one(k); status != ZELM_OK)
                     return status;
+            }
             return ZELM_OK;
         }
     }
