@@ -95,9 +95,13 @@ ZELM_INLINE ZelmStatus stridedObjects(const A &a, const B &b, const D &d, Shape 
             return denseObjects<Op, reading>(first, second, result, shape, count);
     }
     if constexpr (Shape::isFixed && (kIsInvariant<A> || kIsInvariant<B>)) {
-        const auto use =
-            [&](const auto &first, const auto &second, const auto &result, auto &&watch)
-                ZELM_INLINE_LAMBDA { return objectsInOrder<Op>(first, second, result, shape, count, watch); };
+        const auto use = [&](const auto &first, const auto &second, const auto &result, auto &&watch)
+                             ZELM_INLINE_LAMBDA {
+                                 if constexpr (kHasFewRegisters)
+                                     return sharedWhileHeld<Op>(first, second, result, shape, count, watch);
+                                 else
+                                     return objectsInOrder<Op>(first, second, result, shape, count, watch);
+                             };
         const auto held = [](const auto &invariant)
                               ZELM_INLINE_LAMBDA { return holdElements<Shape>(invariant); };
         return holdingWhilePossible<Op>(a, b, d, shape, count, held, use);
@@ -127,9 +131,10 @@ ZELM_INLINE ZelmStatus objects(const A &a, const B &b, const D &d, Shape shape, 
         const auto first = withObjectStride(a);
         const auto second = withObjectStride(b);
         const auto result = withObjectStride(d);
-        // Between planes a stride apart one instance serves all sizes. A few planes of one source are better
-        // taken side by side.
-        if ((shape.elements() > 4 || (!kIsConstant<A> && !kIsConstant<B>)) && !isPlainer(d) &&
+        // Between planes a stride apart one instance serves all sizes. Where there are registers, a few
+        // planes of one source are better taken side by side.
+        if ((kHasFewRegisters || shape.elements() > 4 || (!kIsConstant<A> && !kIsConstant<B>)) &&
+            !isPlainer(d) &&
             runPerPosition<Op>(first, second, result, RunTimeShape{shape.rows(), shape.columns()}, count))
             return ZELM_OK;
         return sharedObjects<Op>(first, second, result, shape, count);

@@ -110,19 +110,45 @@ ZELM_INLINE ZelmStatus forEach(std::uint32_t count, One one, const A &a, const B
     return forEachObject(count, one, a, b, d);
 }
 
+// Whether each address follows from the one before it. Two lists of vectors are better begun anew for each
+// object.
+template <typename A, typename B, typename D, typename Shape>
+constexpr bool kIsInPlace = [] {
+    if constexpr (kHasFewRegisters && Shape::isFixed && !D::isTable && !kHasDenseObjects<D>)
+        return Shape::rows() > 1 || !A::isList || !B::isList;
+    else
+        return false;
+}();
+
 // The objects of an array one after the other.
 template <typename Op, typename A, typename B, typename D, typename Shape, typename Watching = Unwatched>
 ZELM_INLINE ZelmStatus objectsInOrder(const A &a, const B &b, const D &d, Shape shape, std::uint32_t count,
                                       Watching &&watch = {}) {
-    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        const auto result = d.object(k);
-        if constexpr (D::isList)
-            if (watch.isReached(k, result.start))
+    if constexpr (kIsInPlace<A, B, D, Shape>) {
+        RowsOfAll<A, Shape> first(a);
+        RowsOfAll<B, Shape> second(b);
+        RowsOfAll<D, Shape> result(d);
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            result.enter(k);
+            if (watch.isReached(k, result.rows.at))
                 return kReached;
-        objectInOrder<Op>(a.object(k), b.object(k), result, shape);
-        return ZELM_OK;
-    };
-    return forEach<Shape>(count, one, a, b, d);
+            first.enter(k), second.enter(k);
+            fixedRows<Op, Shape::rows(), Shape::columns(), true>(first.rows, second.rows, result.rows);
+            first.leave(), second.leave(), result.leave();
+            return ZELM_OK;
+        };
+        return forEach<Shape>(count, one, a, b, d);
+    } else {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            const auto result = d.object(k);
+            if constexpr (D::isList)
+                if (watch.isReached(k, result.start))
+                    return kReached;
+            objectInOrder<Op>(a.object(k), b.object(k), result, shape);
+            return ZELM_OK;
+        };
+        return forEach<Shape>(count, one, a, b, d);
+    }
 }
 
 // An operand of the objects from number `first` on.
@@ -137,6 +163,12 @@ ZELM_INLINE Operand from(Operand operand, std::uint32_t first) {
 template <typename Op, typename A, typename B, typename D, typename Shape>
 ZELM_NOINLINE ZelmStatus sharedObjects(A a, B b, D d, Shape shape, std::uint32_t count) {
     return objectsInOrder<Op>(a, b, d, shape, count);
+}
+
+// The same with a held operand: one instance for transposed operands and others.
+template <typename Op, typename A, typename B, typename D, typename Shape, typename Watching>
+ZELM_NOINLINE ZelmStatus sharedWhileHeld(A a, B b, D d, Shape shape, std::uint32_t count, Watching &watch) {
+    return objectsInOrder<Op>(a, b, d, shape, count, watch);
 }
 
 // Runs use(a, b, d, watch) with hold(invariant), and the definition's loop from where that may be seen.

@@ -44,7 +44,7 @@ ZELM_INLINE ScaledRows<T> inputAtEntry(const Scaled<TableArray<const T>> &array,
 
 template <typename T>
 ZELM_INLINE ConstantRows<T> rowsOfInput(const Same<T> &input) {
-    return {input.value};
+    return ConstantRows<T>(input.value);
 }
 template <typename Input>
 ZELM_INLINE const Input &rowsOfInput(const Input &input) {

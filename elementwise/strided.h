@@ -34,37 +34,51 @@ ZELM_INLINE Stored asUsed(const Transposed<Stored> &stored) {
     return used;
 }
 
+// Whether three addresses and their steps take all registers that there are.
+constexpr bool kHasFewRegisters = sizeof(Address) == 4;
+
 // ---- the rows of an object as the operation uses them, one after the other
 
 // Elements a step apart.
 template <typename T>
 struct Rows {
     Address at, step, toNext;
-    ZELM_INLINE T element(unsigned, unsigned j) const { return load<T>(at + j * step); }
+    // The element j of row i, where `at` is that of number `past`.
+    ZELM_INLINE T element(unsigned, unsigned j, unsigned past) const {
+        return load<T>(at + (j - past) * step);
+    }
     ZELM_INLINE void next() { at = asItIs(at + toNext); }
-    ZELM_INLINE Rows from(unsigned j) const { return {asItIs(at + j * step), step, toNext}; }
+    ZELM_INLINE void forward(unsigned elements) { at = asItIs(at + elements * step); }
+    // With few registers no address that an instruction can form, two steps on too, may stay in one.
+    ZELM_INLINE void forgetAddresses() { at = asItIs(at), step = asItIs(step); }
 };
 
 template <typename T>
 struct ScaledRows : Rows<T> {
     T factor;
-    ZELM_INLINE T element(unsigned i, unsigned j) const { return Rows<T>::element(i, j) * factor; }
-    ZELM_INLINE ScaledRows from(unsigned j) const { return {Rows<T>::from(j), factor}; }
+    ZELM_INLINE T element(unsigned i, unsigned j, unsigned past) const {
+        return Rows<T>::element(i, j, past) * factor;
+    }
+};
+
+struct Unmoved {
+    static constexpr void next() {}
+    static constexpr void forward(unsigned) {}
+    static constexpr void forgetAddresses() {}
 };
 
 template <typename T>
-struct ConstantRows {
+struct ConstantRows : Unmoved {
     T value;
-    ZELM_INLINE T element(unsigned, unsigned) const { return value; }
-    static constexpr void next() {}
-    ZELM_INLINE ConstantRows from(unsigned) const { return *this; }
+    ZELM_INLINE explicit ConstantRows(T v) : value(v) {}
+    ZELM_INLINE T element(unsigned, unsigned, unsigned) const { return value; }
 };
 
 template <typename Held>
-struct HeldRows {
+struct HeldRows : Unmoved {
     const Held &held;
-    ZELM_INLINE auto element(unsigned i, unsigned j) const { return held.get(i, j, 0); }
-    static constexpr void next() {}
+    ZELM_INLINE explicit HeldRows(const Held &h) : held(h) {}
+    ZELM_INLINE auto element(unsigned i, unsigned j, unsigned) const { return held.get(i, j, 0); }
 };
 
 template <typename Object>
@@ -85,17 +99,34 @@ ZELM_INLINE auto rowsOf(const Object &object) {
     }
 }
 
-// ---- one row
+// How many elements of a row of fixed length `at` passes: instructions form addresses up to two steps on.
+template <unsigned columns>
+constexpr unsigned kPassed = columns > 3 ? (columns - 2) / 2 * 2 : 0;
 
-template <typename Op, typename T, unsigned N, typename A, typename B>
-ZELM_INLINE void elements(const A &a, const B &b, const Rows<T> &d, unsigned i) {
+// ---- one row, or as many as are known
+
+template <typename Op, unsigned rows, unsigned columns, bool inPlace = false, typename A, typename B,
+          typename T>
+ZELM_INLINE void fixedRows(A &a, B &b, Rows<T> &d) {
+    const auto all = [&](auto change) ZELM_INLINE_LAMBDA { change(a), change(b), change(d); };
     ZELM_UNROLL
-    for (unsigned j = 0; j < N; ++j)
-        store(d.at + j * d.step, Op::template apply<T>(a.element(i, j), b.element(i, j)));
+    for (unsigned i = 0; i < rows; ++i) {
+        if (i != 0)
+            all([](auto &operand) ZELM_INLINE_LAMBDA { operand.next(); });
+        unsigned past = 0;
+        ZELM_UNROLL
+        for (unsigned j = 0; j < columns; ++j) {
+            if (inPlace && past < kPassed<columns> && j - past == 2) {
+                all([](auto &operand) ZELM_INLINE_LAMBDA { operand.forward(2); });
+                past = j;
+            }
+            if constexpr (inPlace)
+                all([](auto &operand) ZELM_INLINE_LAMBDA { operand.forgetAddresses(); });
+            store(d.at + (j - past) * d.step,
+                  Op::template apply<T>(a.element(i, j, past), b.element(i, j, past)));
+        }
+    }
 }
-
-// Whether three addresses and their steps take all registers that there are.
-constexpr bool kHasFewRegisters = sizeof(Address) == 4;
 
 // Of any length. Where there are registers, no address follows from the one before it: that would be a cycle
 // an element.
@@ -103,13 +134,16 @@ template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void elementsOfRow(A a, B b, Rows<T> d, Address length) {
     constexpr unsigned together = kHasFewRegisters ? 1 : 4;
     const auto step = [&]<unsigned number>(std::integral_constant<unsigned, number>) ZELM_INLINE_LAMBDA {
-        if constexpr (number == 1) {
-            elements<Op, T, 1>(a, b, d, 0);
-        } else {
-            elements<Op, T, 2>(a, b, d, 0);
-            elements<Op, T, 2>(a.from(2), b.from(2), d.from(2), 0);
+        A first = a;
+        B second = b;
+        Rows<T> result = d;
+        ZELM_UNROLL
+        for (unsigned j = 0; j < number; j += 2) {
+            if (j != 0)
+                first.forward(2), second.forward(2), result.forward(2);
+            fixedRows<Op, 1, number == 1 ? 1 : 2>(first, second, result);
         }
-        a = a.from(number), b = b.from(number), d = d.from(number);
+        a.forward(number), b.forward(number), d.forward(number);
     };
     for (; length >= 4; length -= 4) {
         ZELM_UNROLL
@@ -173,20 +207,40 @@ ZELM_INLINE void objectInOrder(const A &a, const B &b, const D &d, Shape shape) 
         auto first = rowsOf(a);
         auto second = rowsOf(b);
         Rows<T> result = rowsOf(d);
-        const auto next = [&]() ZELM_INLINE_LAMBDA { first.next(), second.next(), result.next(); };
-        if constexpr (Shape::isFixed) {
-            constexpr unsigned rows = Shape::rows(), columns = Shape::columns();
-            elements<Op, T, columns>(first, second, result, 0);
-            ZELM_UNROLL
-            for (unsigned i = 1; i < rows; ++i) {
-                next();
-                elements<Op, T, columns>(first, second, result, i);
-            }
-        } else {
-            for (std::uint32_t i = shape.rows(); i != 0; --i, next())
+        if constexpr (Shape::isFixed)
+            fixedRows<Op, Shape::rows(), Shape::columns()>(first, second, result);
+        else
+            for (std::uint32_t i = shape.rows(); i != 0; --i, first.next(), second.next(), result.next())
                 elementsOfRow<Op>(first, second, result, shape.columns());
-        }
     }
 }
+
+// ---- the objects of an array, where registers are few
+
+// The rows of an array's objects of fixed shape. Each address follows from the one before it: nothing else is
+// held.
+template <typename Operand, typename Shape>
+struct RowsOfAll {
+    static constexpr bool isArray = requires(const Operand &o) { o.elemStride; };
+    const Operand &operand;
+    decltype(rowsOf(std::declval<const Operand &>().object(0))) rows;
+    Address toNext = 0; // from the last row that was used to the next object's first
+    ZELM_INLINE explicit RowsOfAll(const Operand &o) : operand(o), rows(rowsOf(o.object(0))) {
+        if constexpr (isArray) {
+            const Address passed = kPassed<Shape::columns()> * rows.step;
+            rows.toNext -= passed;
+            if constexpr (!Operand::isList)
+                toNext = o.objStride - (Shape::rows() - 1) * o.rowStride - passed;
+        }
+    }
+    ZELM_INLINE void enter(std::uint32_t k) {
+        if constexpr (Operand::isList)
+            rows.at = operand.objectStart(k);
+    }
+    ZELM_INLINE void leave() {
+        if constexpr (isArray && !Operand::isList)
+            rows.at += toNext;
+    }
+};
 
 } // namespace zelm::elementwise
