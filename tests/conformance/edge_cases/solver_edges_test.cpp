@@ -15,9 +15,9 @@ namespace {
 
 constexpr std::int32_t f = sizeof(float), d = sizeof(double);
 
-// ---- arrays whose last object starts at null: it isn't touched
+// ---- arrays of whole groups whose last object starts at null: it isn't touched
 
-constexpr std::int32_t objects = 9, step = 0x01000000;
+constexpr std::int32_t objects = 8, step = 0x01000000;
 
 // Memory at each multiple of the step but null.
 class LowPages {
