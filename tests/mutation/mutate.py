@@ -2,7 +2,7 @@
 """How many wrong kernels and wrong catalogues the tests notice: changes one place of a source at a time.
 
     mutate.py run [SUBSYSTEM...] [--build build/x64] [--count N] [--minutes M] [--per-unit 2] [--seed 1]
-    mutate.py run --again [SUBSYSTEM...]   only the listed survivors of class untested, in more functions
+    mutate.py run --again [SUBSYSTEM...]   only survivors that the list has as untested or doesn't have, in more functions
     mutate.py prepare [SUBSYSTEM...]   only compiles what a run needs
     mutate.py report              the counts so far, survivors that the list doesn't have, listed ones that are killed now
     mutate.py list SUBSYSTEM      what could be tried
@@ -64,16 +64,19 @@ class State:
         new.replace(self.folder / f"{part}.json")
 
 
-def untested(options, subsystem):
-    """With --again, the names that the list has as untested."""
+def untested(options, state, subsystem):
+    """With --again, the names that the list has as untested, and what survived that it doesn't have."""
     if not options.again:
         return None
-    return {name for name, (kind, _) in survivors.read().items() if kind == "untested" and name.startswith(subsystem + "/")}
+    listed = survivors.read()
+    survived = {key.rpartition("\t")[0] for key, result in state.results(subsystem).items() if result.startswith("survived")}
+    names = {name for name in listed if name.startswith(subsystem + "/")} | survived
+    return {name for name in names if listed.get(name, ("untested",))[0] == "untested"}
 
 
 def run_kernels(options, state, part, until):
     results, subsystem = state.results(part), part.removesuffix(AGAIN)
-    library = Switched(options.build, subsystem, options.per_unit, options.seed, untested(options, subsystem))
+    library = Switched(options.build, subsystem, options.per_unit, options.seed, untested(options, state, subsystem))
     library.prepare()
     reached = library.reach()
     order = sorted(reached)
@@ -242,7 +245,7 @@ def main():
     parser.add_argument("--count", type=int, help="so many of each subsystem, drawn by the seed; otherwise all")
     parser.add_argument("--minutes", type=float, default=1e6)
     parser.add_argument("--per-unit", type=int, default=2, help="functions of each family and layout")
-    parser.add_argument("--again", action="store_true", help="only what the list has as untested, in more functions")
+    parser.add_argument("--again", action="store_true", help="only survivors without a reason in the list, in more functions")
     parser.add_argument("--no-edge-cases", dest="edge_cases", action="store_false", help="the model only")
     parser.add_argument("--seed", type=int, default=1)
     options = parser.parse_args()

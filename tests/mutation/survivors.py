@@ -6,7 +6,7 @@ their entries. Classes:
     path         the choice of a faster path or of a width, or of how many objects at once: the results are the same
     careful      an overlap or alignment test that says no more often: the same results, more slowly
     same         the same values by another way
-    unreachable  a value that no call can have
+    unreachable  a value that no call can have, or no call whose result is defined
     untested     a test is missing, or was not among those that tried it; counts as not noticed
 """
 

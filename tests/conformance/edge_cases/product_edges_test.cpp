@@ -146,4 +146,38 @@ TEST(ProductEdges, PositionsOfResultsAcrossEachOther) {
     });
 }
 
+// ---- in place, in a form where that gives another product: each element reads its row and column anew
+
+template <class T>
+void expectReadAnew(ZelmStatus (*multiply)(const T *, std::int32_t, std::int32_t, const T *, std::int32_t,
+                                           std::int32_t, T *, std::int32_t, std::int32_t)) {
+    constexpr std::size_t n = 3;
+    constexpr std::int32_t row = 2 * n * sizeof(T), element = 2 * sizeof(T);
+    for (const bool overFirst : {true, false}) {
+        std::vector<T> memory(2 * n * n), other(2 * n * n);
+        for (std::size_t e = 0; e < 2 * n * n; ++e) {
+            memory[e] = static_cast<T>(1 + e % 5);
+            other[e] = static_cast<T>(e % 4);
+        }
+        std::vector<T> expected = memory;
+        const std::vector<T> &first = overFirst ? expected : other, &second = overFirst ? other : expected;
+        for (std::size_t i = 0; i < n; ++i)
+            for (std::size_t j = 0; j < n; ++j) {
+                T sum = 0;
+                for (std::size_t t = 0; t < n; ++t)
+                    sum += first[2 * (i * n + t)] * second[2 * (t * n + j)];
+                expected[2 * (i * n + j)] = sum;
+            }
+        const std::vector<T> &a = overFirst ? memory : other, &b = overFirst ? other : memory;
+        EXPECT_EQ(multiply(a.data(), row, element, b.data(), row, element, memory.data(), row, element),
+                  ZELM_OK);
+        EXPECT_EQ(memory, expected) << (overFirst ? "src1" : "src2");
+    }
+}
+
+TEST(ProductEdges, InPlaceElementsAreReadAnew) {
+    expectReadAnew<float>(zelmMul_mm_32f_3x3_S2);
+    expectReadAnew<double>(zelmMul_mm_64f_3x3_S2);
+}
+
 } // namespace

@@ -26,7 +26,7 @@ void expectNorm(std::uint32_t n, ZelmStatus (*norm)(const T *, std::int32_t, T *
     EXPECT_LE(std::abs(result - std::sqrt(sum)), error) << n << "x" << n;
 }
 
-TEST(FrobeniusEdges, EveryOrder) {
+TEST(FrobNormEdges, EveryOrder) {
     expectNorm<float>(3, zelmFrobNorm_m_32f_3x3);
     expectNorm<float>(4, zelmFrobNorm_m_32f_4x4);
     expectNorm<float>(5, zelmFrobNorm_m_32f_5x5);
