@@ -57,7 +57,7 @@ void solveOneByOne(const Lists &lists, std::uint32_t objects) {
 
 // ---- a result of zeros over entries: as far as they are still to come they are null then
 
-constexpr std::uint32_t count = 130, room = 16;
+constexpr std::uint32_t count = 130, room = 24;
 
 struct Tables {
     std::vector<std::uintptr_t> entries[3];
