@@ -2,7 +2,7 @@
 # Sourced by packaging/deb --test: what a user of the packages of build/deb does with them, in Debian 12 trees that have
 # nothing but what these packages ask for. The trees need root, or sudo.
 
-need_packages autopkgtest dpkg-dev mmdebstrap
+need_packages arch-test autopkgtest dpkg-dev mmdebstrap # arch-test: mmdebstrap asks it before it makes an i386 tree
 deb=$PWD/build/deb
 source=$deb/zelm-${version%-*}
 ls "$deb"/*.deb >/dev/null # made by packaging/deb
