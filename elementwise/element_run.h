@@ -304,9 +304,9 @@ ZELM_INLINE bool runAsTwo(const A &a, const B &b, Address dst, Address length) {
 template <typename Op, typename T, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     if constexpr (kRunBytes == kBlockBytes) {
-        // Of 64-bit float two packs are but four elements, and 32-bit x86 has too few registers: the loop
-        // would be the slower for the test.
-        if constexpr (sizeof(T) == 4 && sizeof(Address) == 8)
+        // Of 64-bit float two packs are but four elements; there, and where registers are few, the loop would
+        // be the slower for the test.
+        if constexpr (sizeof(T) == 4 && !kHasFewRegisters)
             if (length - kLanes<T> <= kLanes<T> && runAsTwo<Op, Pack<T>>(a, b, dst, length))
                 return;
         runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
@@ -364,8 +364,9 @@ template <typename Op, typename T, unsigned N, typename A, typename B>
 ZELM_INLINE void shortRun(const A &a, const B &b, Address dst) {
     if constexpr (N >= kLanes<T>) {
         constexpr unsigned widest = kWidestOfShort<T, N>;
-        // Expected, so that a loop over objects goes on without a jump. On 32-bit x86 that gains nothing.
-        constexpr double likely = sizeof(Address) == 8 ? 0.9 : 0.5;
+        // Expected, so that a loop over objects goes on without a jump. Where registers are few that gains
+        // nothing.
+        constexpr double likely = kHasFewRegisters ? 0.5 : 0.9;
         if (__builtin_expect_with_probability(
                 !a.isCloselyBehind(dst, widest) && !b.isCloselyBehind(dst, widest), 1, likely)) {
             shortPacks<Op, Pack<T, widest>, N, 0>(a, b, dst);

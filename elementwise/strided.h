@@ -34,9 +34,6 @@ ZELM_INLINE Stored asUsed(const Transposed<Stored> &stored) {
     return used;
 }
 
-// Whether three addresses and their steps take all registers that there are.
-constexpr bool kHasFewRegisters = sizeof(Address) == 4;
-
 // ---- the rows of an object as the operation uses them, one after the other
 
 // Elements a step apart.

@@ -24,6 +24,9 @@ namespace zelm::frame {
 
 using Address = std::uintptr_t;
 
+// Whether three addresses and their steps take all registers that there are, as on 32-bit x86.
+constexpr bool kHasFewRegisters = sizeof(Address) == 4;
+
 // A signed count of bytes as the distance that it adds to an address.
 ZELM_INLINE constexpr Address distance(std::int32_t bytes) {
     return static_cast<Address>(static_cast<std::intptr_t>(bytes));

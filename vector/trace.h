@@ -64,9 +64,9 @@ ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::ui
         traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
     };
-    // 32-bit x86 has too few registers for the test in a loop over dense objects.
+    // A loop over dense objects gains nothing by the test where registers are few.
     constexpr bool isDense = kHasDenseObjects<S>;
-    if constexpr (S::isList && Size::fixed != 0 && !(isDense && sizeof(Address) == 4)) {
+    if constexpr (S::isList && Size::fixed != 0 && !(isDense && kHasFewRegisters)) {
         constexpr unsigned N = Size::fixed;
         const ObjectsApart isApart(s, N, N, results, 1, 1);
         const auto summed = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
