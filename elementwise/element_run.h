@@ -127,11 +127,8 @@ struct TransposedStream {
     template <typename V>
     ZELM_INLINE V pack(Address e, unsigned) const {
         return fromBlocks<V>([&](unsigned b) ZELM_INLINE_LAMBDA {
-            const Address at = e + b * kLanes<T>;
-            if constexpr (sizeof(T) == 4)
-                return _mm_setr_ps(element(at), element(at + 1), element(at + 2), element(at + 3));
-            else
-                return _mm_setr_pd(element(at), element(at + 1));
+            return packOf<T>([&](unsigned lane)
+                                 ZELM_INLINE_LAMBDA { return element(e + b * kLanes<T> + lane); });
         });
     }
     static constexpr bool isCloselyBehind(Address, Address) { return false; }

@@ -103,6 +103,15 @@ ZELM_INLINE void storePack(Address to, V value) {
         *reinterpret_cast<typename AnywherePack<V>::type *>(to) = (typename AnywherePack<V>::type)value;
 }
 
+// A block whose lanes are taken one by one.
+template <typename T, typename ElementOfLane>
+ZELM_INLINE Pack<T> packOf(ElementOfLane element) {
+    if constexpr (sizeof(T) == 4)
+        return _mm_setr_ps(element(0), element(1), element(2), element(3));
+    else
+        return _mm_setr_pd(element(0), element(1));
+}
+
 // ---- one value in all lanes, or in the first
 
 template <typename V>

@@ -75,14 +75,6 @@ ZELM_INLINE bool ascendingAreDisjoint(const Table<S> &s, const Table<D> &d) {
                        d.position(entries - 1) - d.position(0) + sizeof(D));
 }
 
-template <typename T, typename ElementOfLane>
-ZELM_INLINE Pack<T> packOf(ElementOfLane element) {
-    if constexpr (kLanes<T> == 4)
-        return _mm_setr_ps(element(0), element(1), element(2), element(3));
-    else
-        return _mm_setr_pd(element(0), element(1));
-}
-
 // Row by row in packs, where no partial sum can be seen. Lanes behind the last column hold it again.
 template <unsigned N, typename A, typename B, typename T>
 ZELM_INLINE void multiplyTablesApart(const A &a, const B &b, const Table<T> &d) {

@@ -19,10 +19,6 @@ constexpr unsigned kRowPacks = (N - kWideLanes<T, N>) / kLanes<T>;
 template <typename T, unsigned N>
 constexpr unsigned kRowRest = N % kLanes<T>;
 
-ZELM_INLINE Floats4 packOf(float a, float b, float c, float d) {
-    return _mm_setr_ps(a, b, c, d);
-}
-
 // An element that is used by itself and in all lanes is loaded once. The compiler would otherwise make the
 // load a part of every instruction that spreads it: there are more places to multiply than to load, and a 3x3
 // product of 64-bit float took 1.3 times as long.
@@ -42,11 +38,8 @@ ZELM_INLINE Pack<typename B::Element> packOfRow(const B &b, std::uint32_t row) {
     using T = typename B::Element;
     if constexpr (kHasRows<B>)
         return loadPack<T>(b.rowStart(row) + first * sizeof(T));
-    else if constexpr (sizeof(T) == 4)
-        return packOf(used(b, row, first, 0), used(b, row, first + 1, 0), used(b, row, first + 2, 0),
-                      used(b, row, first + 3, 0));
     else
-        return _mm_setr_pd(used(b, row, first, 0), used(b, row, first + 1, 0));
+        return packOf<T>([&](unsigned lane) ZELM_INLINE_LAMBDA { return used(b, row, first + lane, 0); });
 }
 
 template <typename T, unsigned N>
@@ -199,7 +192,7 @@ ZELM_INLINE Floats4 loadThree(Address from) {
 template <typename A>
 ZELM_INLINE Floats4 threeOfRow(const A &a, std::uint32_t row) {
     if constexpr (kIsTransposed<A>)
-        return packOf(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), used(a, row, 2, 0));
+        return _mm_setr_ps(used(a, row, 0, 0), used(a, row, 1, 0), used(a, row, 2, 0), used(a, row, 2, 0));
     else
         return loadThree(a.rowStart(row));
 }
