@@ -1,10 +1,10 @@
 // Transposes. The element (i, j) of src goes to (j, i) of dst, rows of src in ascending order.
 #pragma once
 
+#include "frame/apart.h"
 #include "frame/checks.h"
 #include "frame/groups.h"
 #include "frame/objects.h"
-#include "frame/overlap.h"
 #include "frame/plainest.h"
 #include "frame/shapes.h"
 #include "movement/planes.h"
@@ -127,40 +127,40 @@ ZELM_INLINE void transposeBlocks(const Dense<const T> &s, const Dense<T> &d, Sha
     }
 }
 
-// Whether blocks leave in every object what the order of elements leaves: asked once for the strides, and
-// then for each object.
-struct Blocks {
-    Extent source{}, target{};
-    bool possible, gapless = false;
-    template <typename S, typename D, typename Shape>
-    ZELM_INLINE Blocks(const S &s, const D &d, Shape shape) {
-        constexpr Address size = sizeof(typename D::Element);
-        if constexpr (Shape::columnsIfFixed == 3)
-            if (s.rowStride == 3 * size && d.rowStride == 3 * size) {
-                source = target = {0, 9 * size};
-                possible = gapless = true;
-                return;
-            }
-        possible = shape.rows() <= kMostInGroups && shape.columns() <= kMostInGroups;
-        if (!possible)
-            return;
-        source = extentOf(s, shape.rows(), shape.columns());
-        target = extentOf(d, shape.columns(), shape.rows());
-        possible = objectElementsAreApart(d, shape.columns(), shape.rows());
-    }
-    ZELM_INLINE bool suit(Address from, Address to) const {
-        return possible && areDisjoint(from + source.lowest, source.bytes, to + target.lowest, target.bytes);
-    }
-};
+// Where an object of dst isn't apart from src, or has elements on each other.
+template <typename T, typename Shape>
+ZELM_NOINLINE void transposeDenseInOrder(Address from, Address fromRow, Address to, Address toRow,
+                                         Shape shape) {
+    transposeInOrder(Dense<const T>(from, fromRow), Dense<T>(to, toRow), shape);
+}
 
-template <typename S, typename D, typename Shape>
-ZELM_INLINE void transposeObject(const S &s, const D &d, Shape shape, const Blocks &blocks) {
-    if (!blocks.suit(s.start, d.start))
-        return transposeInOrder(s, d, shape);
-    if constexpr (Shape::isFixed && Shape::columnsIfFixed == 3)
-        if (blocks.gapless)
-            return transposeThree(s, d);
-    transposeBlocks(s, d, shape);
+// Calls with(transpose), transpose(from, to) being what suits the strides of the dense objects.
+template <typename S, typename D, typename Shape, typename With>
+ZELM_INLINE auto withDenseTranspose(S s, D d, Shape shape, With with) {
+    using T = typename D::Element;
+    const auto through = [&](auto blocks) ZELM_INLINE_LAMBDA {
+        const bool possible = shape.rows() <= kMostInGroups && shape.columns() <= kMostInGroups;
+        const std::uint32_t rows = possible ? shape.rows() : 1, columns = possible ? shape.columns() : 1;
+        ObjectsApart areApart(s, rows, columns, d, columns, rows);
+        if (!possible || !objectElementsAreApart(d, columns, rows))
+            areApart.neverAgain();
+        return with([=](const Dense<const T> &from, const Dense<T> &to) ZELM_INLINE_LAMBDA {
+            if (areApart(from.start, to.start))
+                blocks(from, to);
+            else
+                transposeDenseInOrder<T>(from.start, s.rowStride, to.start, d.rowStride, shape);
+        });
+    };
+    if constexpr (Shape::isFixed && Shape::columnsIfFixed == 3) {
+        constexpr Address row = 3 * sizeof(T);
+        if (s.rowStride == row && d.rowStride == row) {
+            s.rowStride = d.rowStride = row; // constants, from here on
+            return through([](const auto &from, const auto &to)
+                               ZELM_INLINE_LAMBDA { transposeThree(from, to); });
+        }
+    }
+    return through([=](const auto &from, const auto &to)
+                       ZELM_INLINE_LAMBDA { transposeBlocks(from, to, shape); });
 }
 
 // ---- one matrix
@@ -181,7 +181,7 @@ ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
         });
         return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
     } else if constexpr (D::isDense) {
-        transposeObject(s, d, shape, Blocks(s, d, shape));
+        withDenseTranspose(s, d, shape, [&](auto transpose) ZELM_INLINE_LAMBDA { transpose(s, d); });
     } else {
         transposeInOrder(s, d, shape);
     }
@@ -203,18 +203,25 @@ ZELM_INLINE bool transposePlanes(const PackedTableArray<const T> &s, const Packe
     return true;
 }
 
+// One instance serves the layouts that come to dense operands.
+template <typename S, typename D, typename Shape>
+ZELM_NOINLINE ZelmStatus transposeDenseObjects(S s, D d, Shape shape, std::uint32_t count) {
+    return withDenseTranspose(s, d, shape, [&](auto transpose) ZELM_INLINE_LAMBDA {
+        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            transpose(s.object(k), d.object(k));
+            return ZELM_OK;
+        };
+        return forEachObject(count, one, s, d);
+    });
+}
+
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std::uint32_t count) {
     if constexpr (D::isSideBySide && Shape::isFixed)
         if (transposePlanes(s, d, shape, count))
             return ZELM_OK;
     if constexpr (kHasDenseObjects<D>) {
-        const Blocks blocks(s, d, shape);
-        const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-            transposeObject(s.object(k), d.object(k), shape, blocks);
-            return ZELM_OK;
-        };
-        return forEachObject(count, one, s, d);
+        return transposeDenseObjects(s, d, shape, count);
     } else {
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             transposeInOrder(s.object(k), d.object(k), shape);
