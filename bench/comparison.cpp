@@ -1,5 +1,6 @@
 #include "comparison.h"
 
+#include "instructions.h"
 #include "workload.h"
 
 #include <algorithm>
@@ -37,6 +38,39 @@ void run(const Peer &peer, const Problem &problem) {
     }
 }
 
+std::vector<Contender> contendersOf(const Row &row, const Workload &work, const Field &field) {
+    std::vector<Contender> contenders;
+    const auto add = [&](const std::string &name, AnyFunction function) {
+        contenders.push_back({name, [&work, function](std::size_t turn) { work.call(function, turn); }});
+    };
+    add(ownName, field.library.find(row.member->name));
+    if (field.beside != nullptr) {
+        add(besideName, field.beside->find(row.member->name));
+    }
+    for (const Peer *peer : field.peers.of(row.member->name)) {
+        contenders.push_back(
+            {peer->name, [&work, peer](std::size_t turn) { run(*peer, work.problem(turn)); }});
+    }
+    return contenders;
+}
+
+// The contenders that compute something else than the first. The peers are the last of them.
+std::vector<std::string> wrongOf(const Row &row, Workload &work, const std::vector<Contender> &contenders,
+                                 const Field &field) {
+    const std::vector<const Peer *> &peers = field.peers.of(row.member->name);
+    const std::size_t firstPeer = contenders.size() - peers.size();
+    const double tolerance = row.member->elementBytes == 4 ? 5e-3 : 1e-9;
+    const std::vector<double> expected = resultsOf(work, contenders.front());
+    std::vector<std::string> wrong;
+    for (std::size_t c = 1; c < contenders.size(); ++c) {
+        const bool isComparable = c < firstPeer || (peers[c - firstPeer]->comparable && !row.member->departs);
+        if (isComparable && !areClose(resultsOf(work, contenders[c]), expected, tolerance)) {
+            wrong.push_back(contenders[c].name);
+        }
+    }
+    return wrong;
+}
+
 } // namespace
 
 PeerTable::PeerTable(const Library *peers) {
@@ -53,44 +87,36 @@ const std::vector<const Peer *> &PeerTable::of(const std::string &member) const 
     return found != peers_.end() ? found->second : none_;
 }
 
-Figures measureRow(const Row &row, const Library &library, const Library *beside, const PeerTable &peers,
-                   const Effort &effort) {
+Figures measureRow(const Row &row, const Field &field, const Effort &effort) {
     Workload work(*row.member, row.count);
-    std::vector<Contender> contenders;
-    const auto add = [&](const std::string &name, AnyFunction function) {
-        contenders.push_back({name, [&work, function](std::size_t turn) { work.call(function, turn); }});
-    };
-    add(ownName, library.find(row.member->name));
-    if (beside != nullptr) {
-        add(besideName, beside->find(row.member->name));
-    }
-    std::vector<const Peer *> comparable(contenders.size(), nullptr);
-    for (const Peer *peer : peers.of(row.member->name)) {
-        contenders.push_back(
-            {peer->name, [&work, peer](std::size_t turn) { run(*peer, work.problem(turn)); }});
-        comparable.push_back(peer);
-    }
-
+    const std::vector<Contender> contenders = contendersOf(row, work, field);
     Figures figures;
-    const double tolerance = row.member->elementBytes == 4 ? 5e-3 : 1e-9;
-    const std::vector<double> expected = resultsOf(work, contenders.front());
-    for (std::size_t c = 1; c < contenders.size(); ++c) {
-        const bool isComparable =
-            comparable[c] == nullptr || (comparable[c]->comparable && !row.member->departs);
-        if (isComparable && !areClose(resultsOf(work, contenders[c]), expected, tolerance)) {
-            figures.wrong.push_back(contenders[c].name);
-        }
-    }
+    figures.wrong = wrongOf(row, work, contenders, field);
     std::vector<double> seconds = fastest(contenders, effort);
     const auto areSuspicious = [&] { return std::abs(seconds[0] / seconds[1] - 1) > suspicious; };
-    for (int retry = 0; beside != nullptr && retry < 3 && areSuspicious(); ++retry) {
+    for (int retry = 0; field.beside != nullptr && retry < 3 && areSuspicious(); ++retry) {
         const std::vector<double> again = fastest(contenders, thorough);
         std::transform(seconds.begin(), seconds.end(), again.begin(), seconds.begin(),
                        [](double one, double other) { return std::min(one, other); });
     }
     for (std::size_t c = 0; c < contenders.size(); ++c) {
-        figures.nanoseconds.emplace_back(contenders[c].name,
-                                         seconds[c] * 1e9 / static_cast<double>(work.count()));
+        figures.perObject.emplace_back(contenders[c].name,
+                                       seconds[c] * 1e9 / static_cast<double>(work.count()));
+    }
+    return figures;
+}
+
+Figures countRow(const Row &row, const Field &field) {
+    // Whole groups and whole stretches of lists, and whatever a call takes beside them drops out.
+    constexpr std::size_t objects = 128;
+    const Workload few(*row.member, objects), many(*row.member, 2 * objects);
+    const std::vector<Contender> withFew = contendersOf(row, few, field);
+    const std::vector<Contender> withMany = contendersOf(row, many, field);
+    Figures figures;
+    for (std::size_t c = 0; c < withFew.size(); ++c) {
+        const std::uint64_t more =
+            instructionsOf([&] { withMany[c].run(0); }) - instructionsOf([&] { withFew[c].run(0); });
+        figures.perObject.emplace_back(withFew[c].name, static_cast<double>(more) / objects);
     }
     return figures;
 }

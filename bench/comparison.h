@@ -1,4 +1,5 @@
-// One row, measured: the library beside another build of it and beside all peers that do the same work.
+// One row, measured or counted: the library beside another build of it and beside all peers that do the same
+// work.
 #pragma once
 
 #include "library.h"
@@ -25,12 +26,21 @@ private:
     std::vector<const Peer *> none_;
 };
 
-struct Figures {
-    std::vector<std::pair<std::string, double>> nanoseconds; // per object, the library's first
-    std::vector<std::string> wrong;                          // contenders that compute something else
+// Those who do the same work; `beside` may be null.
+struct Field {
+    const Library &library;
+    const Library *beside;
+    const PeerTable &peers;
 };
 
-Figures measureRow(const Row &row, const Library &library, const Library *beside, const PeerTable &peers,
-                   const Effort &effort);
+struct Figures {
+    std::vector<std::pair<std::string, double>> perObject; // nanoseconds or instructions, the library's first
+    std::vector<std::string> wrong;                        // contenders that compute something else
+};
+
+Figures measureRow(const Row &row, const Field &field, const Effort &effort);
+
+// Instructions: what one more object takes, or one more call of a single-object function.
+Figures countRow(const Row &row, const Field &field);
 
 } // namespace zelmbench

@@ -131,7 +131,7 @@ int run(bool isQuick, const std::string &json) {
     for (Pair &pair : arrays(f, d, sums, pivots)) {
         pairs.push_back(std::move(pair));
     }
-    zelmbench::Results results(json, "cpp", ZELM_BENCH_LIBRARY, "", "C");
+    zelmbench::Results results(json, "ns", "cpp", ZELM_BENCH_LIBRARY, "", "C");
     for (const Pair &pair : pairs) {
         zelmbench::Figures figures;
         std::vector<unsigned char> written[2];
@@ -152,8 +152,8 @@ int run(bool isQuick, const std::string &json) {
             {{"C++", [&](std::size_t) { pair.layer(); }}, {"C", [&](std::size_t) { pair.direct(); }}},
             isQuick ? zelmbench::quick : zelmbench::thorough);
         for (std::size_t way = 0; way < 2; ++way) {
-            figures.nanoseconds.emplace_back(way == 0 ? zelmbench::ownName : "C",
-                                             seconds[way] * 1e9 / static_cast<double>(pair.count));
+            figures.perObject.emplace_back(way == 0 ? zelmbench::ownName : "C",
+                                           seconds[way] * 1e9 / static_cast<double>(pair.count));
         }
         results.add({pair.name, nullptr, pair.count}, figures);
     }

@@ -19,8 +19,8 @@ namespace {
 using namespace zelmbench;
 
 constexpr const char *usage =
-    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--target NAME] [--filter REGEX] [--quick | --check]
-           [--json FILE] [--list]
+    R"(zelm_bench [--library FILE] [--beside FILE] [--peers FILE] [--target NAME] [--filter REGEX]
+           [--quick | --check | --instructions] [--json FILE] [--list]
 
   --library FILE  the library that is measured, instead of the one built beside this program
   --beside FILE   another build of it, measured in the same samples: own time over its time
@@ -29,6 +29,7 @@ constexpr const char *usage =
   --filter REGEX  rows that it is found in, like 'zelmMul_.*_P/'
   --quick         few short samples, and no rows of 1,000,000 objects
   --check         runs every contender once: does it compute what the library computes?
+  --instructions  counts what an object takes of them, in place of its time
   --json FILE     writes the figures
   --list          prints the names of the rows only
 )";
@@ -37,16 +38,21 @@ struct Options {
     std::string measured = ZELM_BENCH_LIBRARY, beside, peers = ZELM_BENCH_PEERS;
     std::string target = ZELM_BENCH_TARGET, filter = ".", json;
     Effort effort = thorough;
-    bool isList = false;
+    bool isList = false, isCount = false;
 };
 
 Options parse(int argc, char **argv) {
-    static const option known[] = {
-        {"library", required_argument, nullptr, 'l'}, {"beside", required_argument, nullptr, 'b'},
-        {"peers", required_argument, nullptr, 'p'},   {"target", required_argument, nullptr, 't'},
-        {"filter", required_argument, nullptr, 'f'},  {"json", required_argument, nullptr, 'j'},
-        {"quick", no_argument, nullptr, 'q'},         {"check", no_argument, nullptr, 'c'},
-        {"list", no_argument, nullptr, 'n'},          {}};
+    static const option known[] = {{"library", required_argument, nullptr, 'l'},
+                                   {"beside", required_argument, nullptr, 'b'},
+                                   {"peers", required_argument, nullptr, 'p'},
+                                   {"target", required_argument, nullptr, 't'},
+                                   {"filter", required_argument, nullptr, 'f'},
+                                   {"json", required_argument, nullptr, 'j'},
+                                   {"quick", no_argument, nullptr, 'q'},
+                                   {"check", no_argument, nullptr, 'c'},
+                                   {"list", no_argument, nullptr, 'n'},
+                                   {"instructions", no_argument, nullptr, 'i'},
+                                   {}};
     Options options;
     for (int letter = 0; (letter = getopt_long(argc, argv, "", known, nullptr)) != -1;) {
         switch (letter) {
@@ -77,6 +83,10 @@ Options parse(int argc, char **argv) {
         case 'n':
             options.isList = true;
             break;
+        case 'i':
+            options.isCount = true;
+            options.effort = quick;
+            break;
         default:
             throw std::runtime_error(usage);
         }
@@ -99,11 +109,13 @@ int run(const Options &options) {
     }
     const Library library(options.measured);
     const auto beside = options.beside.empty() ? nullptr : std::make_unique<Library>(options.beside);
-    Results results(options.json, options.target, options.measured, options.beside, options.peers);
+    Results results(options.json, options.isCount ? "instr" : "ns", options.target, options.measured,
+                    options.beside, options.peers);
     const auto peers = options.peers == "none" ? nullptr : std::make_unique<Library>(options.peers);
     const PeerTable table(peers.get());
+    const Field field{library, beside.get(), table};
     for (const Row &row : rows) {
-        results.add(row, measureRow(row, library, beside.get(), table, options.effort));
+        results.add(row, options.isCount ? countRow(row, field) : measureRow(row, field, options.effort));
     }
     return results.finish() && !rows.empty() ? 0 : 1;
 }

@@ -10,9 +10,9 @@ namespace zelmbench {
 
 class Results {
 public:
-    // `json` may be empty.
-    Results(const std::string &json, const std::string &target, const std::string &library,
-            const std::string &beside, const std::string &peers);
+    // `json` may be empty; `unit` is what the figures count for each object.
+    Results(const std::string &json, const std::string &unit, const std::string &target,
+            const std::string &library, const std::string &beside, const std::string &peers);
 
     void add(const Row &row, const Figures &figures);
     // Whether every peer computed what the library computed.
