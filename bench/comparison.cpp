@@ -108,7 +108,7 @@ Figures measureRow(const Row &row, const Field &field, const Effort &effort) {
 
 Figures countRow(const Row &row, const Field &field) {
     // Whole groups and whole stretches of lists, and whatever a call takes beside them drops out.
-    constexpr std::size_t objects = 128;
+    constexpr std::size_t objects = 64;
     const Workload few(*row.member, objects), many(*row.member, 2 * objects);
     const std::vector<Contender> withFew = contendersOf(row, few, field);
     const std::vector<Contender> withMany = contendersOf(row, many, field);
