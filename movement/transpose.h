@@ -34,6 +34,32 @@ ZELM_INLINE void transposeInOrder(const S &s, const D &d, Shape shape) {
     });
 }
 
+// Where registers are few: an address and a step in each of two objects with gaps between their elements,
+// which go on from row to row and from object to object. The compiler takes them as they are; it would form
+// the addresses of all elements ahead of the loop over objects.
+struct Walk {
+    Address from, to, fromStep, toStep;
+    ZELM_INLINE void go(Address inSource, Address inTarget) {
+        from += inSource, to += inTarget;
+        asm("" : "+r"(from), "+r"(to));
+    }
+    // An instruction reaches two steps on.
+    template <typename T, unsigned N>
+    ZELM_INLINE void row() {
+        Walk at = *this;
+        ZELM_UNROLL
+        for (unsigned j = 0, past = 0; j < N; ++j) {
+            if (j == past + 2 && j + 1 < N) {
+                at.go(2 * fromStep, 2 * toStep);
+                past = j;
+            } else if (j == past + 2) {
+                asm("" : "+r"(fromStep), "+r"(toStep));
+            }
+            copyElement<T>(at.to + (j - past) * toStep, at.from + (j - past) * fromStep);
+        }
+    }
+};
+
 ZELM_INLINE void transposeBlock(const Dense<const float> &s, const Dense<float> &d, std::uint32_t i,
                                 std::uint32_t j) {
     Floats4 rows[4];
@@ -215,6 +241,25 @@ ZELM_NOINLINE ZelmStatus transposeDenseObjects(S s, D d, Shape shape, std::uint3
     });
 }
 
+template <typename S, typename D, unsigned N>
+ZELM_INLINE ZelmStatus transposeByWalking(const S &s, const D &d, FixedShape<N, N>, std::uint32_t count) {
+    Walk walk = {s.object(0).start, d.object(0).start, s.elemStride, d.rowStride};
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        if constexpr (D::isList)
+            walk.from = s.object(k).start, walk.to = d.object(k).start;
+        walk.row<typename D::Element, N>();
+        ZELM_UNROLL
+        for (unsigned i = 1; i < N; ++i) {
+            walk.go(s.rowStride, d.elemStride);
+            walk.row<typename D::Element, N>();
+        }
+        if constexpr (!D::isList)
+            walk.go(s.objStride - (N - 1) * s.rowStride, d.objStride - (N - 1) * d.elemStride);
+        return ZELM_OK;
+    };
+    return forEachObject(count, one, s, d);
+}
+
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std::uint32_t count) {
     if constexpr (D::isSideBySide && Shape::isFixed)
@@ -222,6 +267,8 @@ ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std
             return ZELM_OK;
     if constexpr (kHasDenseObjects<D>) {
         return transposeDenseObjects(s, d, shape, count);
+    } else if constexpr (kHasFewRegisters && Shape::isFixed && !D::isTable) {
+        return transposeByWalking(s, d, shape, count);
     } else {
         const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             transposeInOrder(s.object(k), d.object(k), shape);
