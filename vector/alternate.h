@@ -12,8 +12,21 @@ using namespace zelm::frame;
 
 template <typename T>
 struct AlternateTableArray : TableArray<T> {
+    static constexpr Address objStride = 2 * sizeof(T);
     ZELM_INLINE explicit AlternateTableArray(const TableArray<T> &array) : TableArray<T>(array) {}
+    ZELM_INLINE Table<T> object(std::uint32_t k) const { return {this->table, this->shift + k * objStride}; }
 };
+
+} // namespace zelm::vector
+
+namespace zelm::frame {
+
+template <typename T>
+constexpr bool kAlternatesInGroups<vector::AlternateTableArray<T>> = true;
+
+} // namespace zelm::frame
+
+namespace zelm::vector {
 
 template <typename Operand>
 constexpr bool kIsAlternate = false;
@@ -38,6 +51,16 @@ ZELM_INLINE AlternateTableArray<T> asAlternate(const TableArray<T> &array) {
     return AlternateTableArray<T>(array);
 }
 
+// The array as its layout has it, of which the frame knows what it touches.
+template <typename Operand>
+ZELM_INLINE const Operand &asGiven(const Operand &operand) {
+    return operand;
+}
+template <typename T>
+ZELM_INLINE const TableArray<T> &asGiven(const AlternateTableArray<T> &array) {
+    return array;
+}
+
 template <typename Operand>
 constexpr bool kMayAlternate = false;
 template <typename T>
@@ -46,22 +69,10 @@ constexpr bool kMayAlternate<TableArray<T>> = true;
 // withPlainest, with alternate objects for a layout of their own where the size is fixed.
 template <bool isFixed, typename Use, typename First, typename... Rest>
 ZELM_INLINE auto withPlainestVectors(Use use, const First &first, const Rest &...rest) {
-    if constexpr (isFixed && kMayAlternate<First>)
+    if constexpr (isFixed && (kMayAlternate<First> || ... || kMayAlternate<Rest>))
         if (alternates(first) && (alternates(rest) && ...))
             return use(asAlternate(first), asAlternate(rest)...);
     return withPlainest(use, first, rest...);
-}
-
-// The elements of row i, which has N of them, of the objects from k on.
-template <unsigned N, typename V, typename S>
-ZELM_INLINE void loadElements(const S &s, std::uint32_t k, unsigned i, V *out) {
-    if constexpr (kIsAlternate<S> && kLanesOf<V> != 1) {
-        ZELM_UNROLL
-        for (unsigned j = 0; j < N; ++j)
-            out[j] = loadAlternate<V>(s.object(k).address(i, j, N));
-    } else {
-        loadRow<N>(s, k, i, out);
-    }
 }
 
 // The widths of short kernels over such an array too.

@@ -192,8 +192,8 @@ ZELM_NOINLINE ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
     } else if constexpr (D::isList) {
         return forEachObject(count, one, a, b, d);
     } else {
-        return forEachInGroups<groupingOf<D>(kShortKernels)>(count, NoBuffer(), group, one, writes(d, 1, 3),
-                                                             reads(a, 1, 3), reads(b, 1, 3));
+        return forEachInGroups<kVectorGrouping<D>>(count, NoBuffer(), group, one, writes(asGiven(d), 1, 3),
+                                                   reads(asGiven(a), 1, 3), reads(asGiven(b), 1, 3));
     }
 }
 
@@ -205,7 +205,7 @@ ZELM_INLINE ZelmStatus crossArray(const A &a, const B &b, const D &d, FixedShape
     if constexpr (kHasDenseObjects<D>)
         return crossDense(a, b, d, count);
     else
-        return withPlainest(
+        return withPlainestVectors<true>(
             [&](const auto &...plain) ZELM_INLINE_LAMBDA { return crossByLines(plain..., count); }, a, b, d);
 }
 

@@ -254,7 +254,7 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
     V elements[N][N], sum = {};
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-        loadElements<N>(s, k, i, elements[i]);
+        loadRow<N>(s, k, i, elements[i]);
     ZELM_UNROLL
     for (unsigned j = 0; j < N; ++j) {
         ZELM_UNROLL

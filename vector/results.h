@@ -27,7 +27,7 @@ struct Vectors {
     ZELM_INLINE explicit Vectors(const S &s) : operand(s) {}
     template <typename V>
     ZELM_INLINE void load(std::uint32_t k, V (&out)[N]) const {
-        loadElements<N>(operand, k, 0, out);
+        loadRow<N>(operand, k, 0, out);
     }
 };
 
