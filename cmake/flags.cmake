@@ -67,15 +67,13 @@ target_compile_options(zelm_library_flags INTERFACE
 if(ZELM_TARGET STREQUAL "t7")
   # Old callers come with a stack that is aligned to 4 bytes only; without this every kernel that spills vectors
   # would crash for them. Only functions that need it realign; what only calls others, which expect no more, doesn't.
+  # A frame on a boundary of 8 bytes, which 64-bit float on the stack would get, takes a register, and no instruction
+  # needs it: so it is said to be there. Who needs 16 bytes realigns the stack from either.
   # AddressSanitizer's frames lie on 32 bytes, and g++ puts them there only from a boundary of 16.
   target_compile_options(zelm_library_flags INTERFACE
-    $<$<CXX_COMPILER_ID:GNU>:-mincoming-stack-boundary=2>
+    $<$<CXX_COMPILER_ID:GNU>:-mincoming-stack-boundary=3>
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<BOOL:${ZELM_SANITIZE}>>>:-mpreferred-stack-boundary=2>
     $<$<CXX_COMPILER_ID:Clang>:-mstack-alignment=4>)
-  # For loops over elements with gaps, whose three addresses and three steps are all but one of the registers. What may
-  # hold 64-bit float on the stack would give up a register for a frame on a boundary of 8 bytes. No instruction needs
-  # it, so it is said to be there; who needs 16 bytes realigns the stack from either.
-  set(ZELM_STRIDED_OPTIONS "$<$<CXX_COMPILER_ID:GNU>:-mincoming-stack-boundary=3>")
 endif()
 # A sanitizer's runtime is a dependency, so the closed link holds in all builds but that one.
 if(NOT ZELM_SANITIZE)
