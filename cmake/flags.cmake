@@ -21,10 +21,10 @@ target_compile_options(zelm_quick_build INTERFACE -O0)
 if(ZELM_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
-  # What is the same with both sizes of pointers is checked on x64; without it t7's library compiles in about three
-  # quarters of the time.
+  # What is the same with both sizes of pointers is checked on x64; without it t7's library compiles in about half the
+  # time. Its addresses are unsigned integers, whose sums may wrap, and not pointers.
   if(ZELM_TARGET STREQUAL "t7")
-    add_compile_options(-fno-sanitize=null,object-size,alignment)
+    add_compile_options(-fno-sanitize=null,object-size,alignment,pointer-overflow)
   endif()
 endif()
 
@@ -75,8 +75,12 @@ if(ZELM_TARGET STREQUAL "t7")
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<BOOL:${ZELM_SANITIZE}>>>:-mpreferred-stack-boundary=2>
     $<$<CXX_COMPILER_ID:Clang>:-mstack-alignment=4>)
 endif()
-# A sanitizer's runtime is a dependency, so the closed link holds in all builds but that one.
-if(NOT ZELM_SANITIZE)
+if(ZELM_SANITIZE)
+  # AddressSanitizer's tests as calls: two thirds of the time to compile t7, four fifths for x64.
+  target_compile_options(zelm_library_flags INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:SHELL:--param asan-instrumentation-with-call-threshold=0>)
+else()
+  # A sanitizer's runtime is a dependency, so the link is closed in all builds but that one.
   target_link_options(zelm_library_flags INTERFACE
     -nostdlib -Wl,-z,defs -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now -Wl,-Bsymbolic -Wl,--build-id=sha1
     -Wl,--gc-sections
