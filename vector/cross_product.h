@@ -161,6 +161,13 @@ ZELM_INLINE ZelmStatus crossDense(const A &a, const B &b, const D &d, std::uint3
     }
 }
 
+// Vectors of lists that aren't apart: out of the way of the loop over objects.
+template <typename T>
+ZELM_NOINLINE void crossOverlapping(Address a, Address aStep, Address b, Address bStep, Address d,
+                                    Address dStep) {
+    crossLineByLine(Strided<const T>(a, 0, aStep), Strided<const T>(b, 0, bStep), Strided<T>(d, 0, dStep));
+}
+
 // All other forms: a line reads what it needs when the lines before it are stored.
 template <typename A, typename B, typename D>
 ZELM_NOINLINE ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
@@ -180,12 +187,15 @@ ZELM_NOINLINE ZelmStatus crossByLines(A a, B b, D d, std::uint32_t count) {
     };
     if constexpr (D::isList && kIsArray<A> && kIsArray<B>) {
         // Where both vectors may be read ahead, six loads are saved.
+        using T = typename D::Element;
         const ObjectsApart firstIsApart(a, 1, 3, d, 1, 3), secondIsApart(b, 1, 3, d, 1, 3);
         const auto oneOrGroup = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             const Address result = d.object(k).start;
-            if (!firstIsApart(a.object(k).start, result) || !secondIsApart(b.object(k).start, result))
-                return one(k);
-            group(As<typename D::Element>{}, k);
+            const Address from = a.object(k).start, other = b.object(k).start;
+            if (firstIsApart(from, result) && secondIsApart(other, result))
+                group(As<T>{}, k);
+            else
+                crossOverlapping<T>(from, a.elemStride, other, b.elemStride, result, d.elemStride);
             return ZELM_OK;
         };
         return forEachObject(count, oneOrGroup, a, b, d);
