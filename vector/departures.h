@@ -44,6 +44,7 @@ ZELM_INLINE ZelmStatus dotTestingAllFirst(const DenseList<const T> &a, const Den
     if (ZelmStatus status = checkArray(false, count, tested(a, 0), tested(b, 0), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
+#pragma GCC unroll 4
     for (std::uint32_t k = 0; k < count; ++k)
         if (a.entryIsNull(k))
             return ZELM_ERR_NULL_PTR;

@@ -22,9 +22,13 @@ ZELM_INLINE auto packOf(const Vectors<N, B> &b) {
     return Pack<typename B::Element>{b.get(0), b.get(1), b.get(2), b.get(3)};
 }
 
-template <Sum order, unsigned N, typename A, typename B>
+// `areListed`: each pair of vectors stands alone, and loads are what takes the time.
+template <Sum order, unsigned N, bool areListed = false, typename A, typename B>
 ZELM_INLINE auto dotOf(const A &a, const B &b) {
     using T = typename A::Element;
+    if constexpr (areListed && sizeof(T) == 8 && N == 3)
+        if constexpr (A::isDense)
+            return sumByPairs<Sum::EvenOddThenRest, N>(Products<T>{a.start, b.start});
     if constexpr (kSumsByPairs<order, T, N>)
         if constexpr (A::isDense && B::isDense)
             return sumByPairs<order, N>(Products<T>{a.start, b.start});
@@ -164,10 +168,12 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
+    constexpr bool areListed = A::isList && kIsArray<B>;
     const auto oneBy = [&](const auto &second) ZELM_INLINE_LAMBDA {
         return [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
             if constexpr (Shape::isFixed)
-                results.object(k).set(0, dotOf<order, Shape::columns()>(a.object(k), second.object(k)));
+                results.object(k).set(
+                    0, dotOf<order, Shape::columns(), areListed>(a.object(k), second.object(k)));
             else
                 results.object(k).set(0, dotOfLength(a.object(k), second.object(k), shape.columns()));
             return ZELM_OK;
