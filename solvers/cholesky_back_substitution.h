@@ -98,13 +98,9 @@ struct CholeskySystems {
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], NothingLeft &) const {
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
         choleskySolve(factors.a, x);
     }
-
-    template <typename>
-    using Left = NothingLeft;
-    ZELM_INLINE void leave(NothingLeft) const {}
 };
 
 // The systems of an array. An object at null is passed over.

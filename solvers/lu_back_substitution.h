@@ -137,13 +137,9 @@ struct LuSystems {
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], NothingLeft &) const {
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
         luSolve(factors.a, x);
     }
-
-    template <typename>
-    using Left = NothingLeft;
-    ZELM_INLINE void leave(NothingLeft) const {}
 };
 
 // How systems with a matrix each are taken in groups, and from which order on that is faster than one after

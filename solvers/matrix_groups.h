@@ -173,13 +173,6 @@ ZELM_INLINE std::uint32_t groupsFrom(std::uint32_t k, std::uint32_t end, Group g
     return k;
 }
 
-// What every group of a run overwrites is written in every round. Put off until after the loop, it takes the
-// addresses and values of all other stores of the last round along.
-template <typename T>
-ZELM_INLINE void overwriteNow(T &value) {
-    asm volatile("" : "+m"(value));
-}
-
 // ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
 // long code. Small matrices go without it and then need no memory.
 

@@ -36,18 +36,18 @@ ZELM_NOINLINE void qrSolveThroughScratch(const A &a, Address scratch, const B &b
     }
 }
 
-// One system of a fixed size in local copies, where the elements of d are distinct.
+// One system of a fixed size in local copies, where the elements of d are distinct. It needs no scratch,
+// whose contents are open afterwards.
 template <unsigned N, typename A, typename B, typename D>
-ZELM_INLINE void qrSolveInCopy(const A &a, Address scratch, const B &b, const D &d) {
+ZELM_INLINE void qrSolveInCopy(const A &a, const B &b, const D &d) {
     using T = typename D::Element;
-    T factors[N][N], scale[N], w[N], x[N];
+    T factors[N][N], scale[N], x[N];
     readMatrix(a, factors);
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
-        w[i] = b.get(i);
+        x[i] = b.get(i);
     qrScales(factors, scale);
-    qrSolve(factors, scale, w, x);
-    storeScratch(scratch, w);
+    qrSolve(factors, scale, x);
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         d.set(i, x[i]);
@@ -57,7 +57,7 @@ template <typename A, typename B, typename D, typename Shape>
 ZELM_INLINE void qrSolveObject(const A &a, Address scratch, const B &b, const D &d, Shape shape) {
     if constexpr (Shape::isFixed)
         if (resultIsDistinct<Shape::rows()>(d))
-            return qrSolveInCopy<Shape::rows()>(a, scratch, b, d);
+            return qrSolveInCopy<Shape::rows()>(a, b, d);
     qrSolveThroughScratch(aside(a), scratch, aside(b), aside(d), RunTimeShape{shape.rows(), shape.columns()});
 }
 
@@ -71,7 +71,6 @@ ZELM_NOINLINE void qrSolveAlone(const A &a, Address scratch, const B &b, const D
 template <unsigned N>
 struct QrSystems {
     static constexpr unsigned order = N;
-    Address scratch;
     template <typename F>
     struct Factors {
         F a[N][N], scale[N];
@@ -100,24 +99,9 @@ struct QrSystems {
         readRow<N>(b, k, 0, x);
     }
 
-    // What the reflectors make of b.
-    template <typename V>
-    struct Left {
-        V w[N];
-    };
-
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N], Left<V> &left) const {
-        ZELM_UNROLL
-        for (unsigned i = 0; i < N; ++i)
-            left.w[i] = x[i];
-        qrSolve(factors.a, factors.scale, left.w, x);
-        overwriteNow(left);
-    }
-
-    template <typename V>
-    ZELM_INLINE void leave(const Left<V> &left) const {
-        storeScratchOfGroup(scratch, left.w);
+    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
+        qrSolve(factors.a, factors.scale, x);
     }
 };
 
@@ -129,9 +113,7 @@ ZELM_NOINLINE ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, c
         qrSolveAlone(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
         return ZELM_OK;
     };
-    return solveSystems<kLongKernels>(QrSystems<N>{addressOf(scratch)},
-                                      writesForAll(scratch, N * sizeof(typename D::Element)), one, a, b,
-                                      InPlace::Yes, d, count);
+    return solveSystems<kLongKernels>(QrSystems<N>(), NoBuffer(), one, a, b, InPlace::Yes, d, count);
 }
 
 // ---- the exported rows

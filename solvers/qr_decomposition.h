@@ -62,41 +62,23 @@ ZELM_NOINLINE ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, S
     return ZELM_OK;
 }
 
-// What the reflectors leave in scratch: element i of the last one, a leading 1 for each column behind.
-template <unsigned N, typename T>
-ZELM_INLINE void storeScratch(Address scratch, const T (&v)[N]) {
-    ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        store(scratch + i * sizeof(T), v[i]);
-}
-
-// The same as the last object of a group leaves it.
-template <unsigned N, typename V>
-ZELM_INLINE void storeScratchOfGroup(Address scratch, const V (&v)[N]) {
-    using T = ElementOf<V>;
-    ZELM_UNROLL
-    for (unsigned i = 0; i < N; ++i)
-        copyElement<T>(scratch + i * sizeof(T), addressOf(&v[i]) + sizeof(V) - sizeof(T));
-}
-
-// One matrix of a fixed size in a local copy, where the elements of d are distinct.
+// One matrix of a fixed size in a local copy, where the elements of d are distinct. It needs no scratch,
+// whose contents are open afterwards.
 template <unsigned N, typename S, typename D>
-ZELM_INLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
+ZELM_INLINE ZelmStatus qrInCopy(const S &s, const D &d) {
     using T = typename D::Element;
-    T a[N][N], v[N];
+    T a[N][N];
     readMatrix(s, a);
-    const unsigned made = qrFactor(a, v);
+    const bool isMade = qrFactor(a);
     writeMatrix(d, a);
-    if (made != 0)
-        storeScratch(scratch, v);
-    return made == N - 1 ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
+    return isMade ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape shape) {
     if constexpr (Shape::isFixed)
         if (matrixIsDistinct<Shape::rows()>(d))
-            return qrInCopy<Shape::rows()>(s, scratch, d);
+            return qrInCopy<Shape::rows()>(s, d);
     return qrThroughDst(aside(s), scratch, aside(d), RunTimeShape{shape.rows(), shape.columns()});
 }
 
@@ -106,45 +88,37 @@ ZELM_NOINLINE ZelmStatus qrAlone(const S &s, Address scratch, const D &d, Shape 
     return qrObject(s, scratch, d, shape);
 }
 
+// The greatest order whose kernel is written out where it is called.
+template <typename Array>
+constexpr unsigned kQrHere = Array::isSideBySide || kWidestBytes == 64 ? 4 : 3;
+
 // Groups of matrices from k on, up to one where a column of a matrix fails.
 template <typename V, unsigned N, typename S, typename D>
-ZELM_NOINLINE std::uint32_t qrGroups(const S &s, Address scratch, const D &d, std::uint32_t k,
-                                     std::uint32_t end) {
-    V left[N];
-    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
-        V a[N][N], v[N];
+ZELM_NOINLINE std::uint32_t qrGroups(const S &s, const D &d, std::uint32_t k, std::uint32_t end) {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+        V a[N][N];
         loadMatrix(s, group, a);
         bool isMade;
-        if constexpr (N == 3)
-            isMade = qrFactorHere(a, v);
+        if constexpr (N <= kQrHere<S>)
+            isMade = qrFactorHere(a);
         else
-            isMade = qrFactorGroup(a, v);
-        if (!isMade)
-            return false;
-        storeMatrix(d, group, a);
-        ZELM_UNROLL
-        for (unsigned i = 0; i < N; ++i)
-            left[i] = v[i];
-        overwriteNow(left);
-        return true;
+            isMade = qrFactorGroup(a);
+        if (isMade)
+            storeMatrix(d, group, a);
+        return isMade;
     });
-    if (next != k)
-        storeScratchOfGroup(scratch, left);
-    return next;
 }
 
 // The matrices of an array, of a fixed size.
 template <unsigned N, typename S, typename D>
 ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::uint32_t count) {
-    const Address buffer = addressOf(scratch);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        return qrAlone(s.object(k), buffer, d.object(k), FixedShape<N, N>());
+        return qrAlone(s.object(k), addressOf(scratch), d.object(k), FixedShape<N, N>());
     };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
-        return qrGroups<typename decltype(pack)::Pack, N>(s, buffer, d, k, end);
+        return qrGroups<typename decltype(pack)::Pack, N>(s, d, k, end);
     };
-    return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)),
-                                         inRuns<S, D>(count, group), one, writes(d, N, N),
+    return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S, D>(count, group), one, writes(d, N, N),
                                          reads(s, N, N, InPlace::Yes));
 }
 

@@ -5,24 +5,24 @@
 namespace zelm::solvers {
 
 template <typename T, unsigned N>
-unsigned qrFactor(T (&a)[N][N], T (&v)[N]) {
+bool qrFactor(T (&a)[N][N]) {
     ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         const T q = sumOfSquares(a, k);
         if (!(q >= static_cast<T>(kQrThreshold)))
-            return k;
-        reflect(a, v, k, q);
+            return false;
+        reflect(a, k, q);
     }
-    return N - 1;
+    return true;
 }
 
 template <typename V, unsigned N>
-bool qrFactorGroup(V (&a)[N][N], V (&v)[N]) {
-    return qrFactorHere(a, v);
+bool qrFactorGroup(V (&a)[N][N]) {
+    return qrFactorHere(a);
 }
 
-#define ZELM_INSTANTIATE_ALONE(T, N) template unsigned qrFactor<T, N>(T(&)[N][N], T(&)[N]);
-#define ZELM_INSTANTIATE_GROUP(V, N) template bool qrFactorGroup<V, N>(V(&)[N][N], V(&)[N]);
+#define ZELM_INSTANTIATE_ALONE(T, N) template bool qrFactor<T, N>(T(&)[N][N]);
+#define ZELM_INSTANTIATE_GROUP(V, N) template bool qrFactorGroup<V, N>(V(&)[N][N]);
 ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
 ZELM_PACKS(ZELM_INSTANTIATE_GROUP)
 

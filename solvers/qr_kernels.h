@@ -11,11 +11,16 @@ using namespace zelm::frame;
 // The least sum of squares of a column that is reflected, in both element types.
 constexpr double kQrThreshold = 0x1p-23;
 
-// -s where not (a > 0). s is not zero, so the sign bit is all there is to it; a NaN stays one.
+// -s where not (a > 0). s is a root over the threshold, so the sign bit is all there is to it.
 template <typename V>
 ZELM_INLINE V negatedUnlessPositive(V s, V a) {
     const V zero = {};
-    return select(greater(a, zero), s, zero - s);
+    if constexpr (std::is_floating_point_v<V>)
+        return a > 0 ? s : zero - s;
+    else if constexpr (kMasksAreBits<V>)
+        return bitXor(s, select(greater(a, zero), zero, spread<V>(-0.0f)));
+    else
+        return bitXor(s, bitAnd(notGreater(a, zero).lanes, spread<V>(-0.0f)));
 }
 
 template <typename V, unsigned N>
@@ -28,55 +33,51 @@ ZELM_INLINE V sumOfSquares(const V (&a)[N][N], unsigned k) {
     return q;
 }
 
-// The reflector of column k, whose sum of squares is q, made and applied.
+// The reflector of column k, whose sum of squares is q, made and applied. Its vector takes the place of what
+// is below the diagonal.
 template <typename V, unsigned N>
-ZELM_INLINE void reflect(V (&a)[N][N], V (&v)[N], unsigned k, V q) {
+ZELM_INLINE void reflect(V (&a)[N][N], unsigned k, V q) {
     const V one = spread<V>(1);
     // The root of a 32-bit q in 64-bit float, rounded, is the root in 32-bit float.
-    const V s = negatedUnlessPositive(squareRoot(q), a[k][k]);
-    const V c = one / (a[k][k] + s);
-    v[k] = one;
-    V u = one;
+    const V c = one / (a[k][k] + negatedUnlessPositive(squareRoot(q), a[k][k]));
+    V u = one, t = a[k][k];
     ZELM_UNROLL
     for (unsigned i = k + 1; i < N; ++i) {
-        v[i] = a[i][k] * c;
-        u = u + v[i] * v[i];
+        const V v = a[i][k] * c;
+        u = u + v * v;
+        t = t + a[i][k] * v;
+        a[i][k] = v;
     }
     const V b = spread<V>(-2) / u;
+    a[k][k] = a[k][k] + t * b;
     ZELM_UNROLL
-    for (unsigned j = k; j < N; ++j) {
-        V t = a[k][j];
+    for (unsigned j = k + 1; j < N; ++j) {
+        t = a[k][j];
         ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
-            t = t + a[i][j] * v[i];
+            t = t + a[i][j] * a[i][k];
         t = t * b;
         a[k][j] = a[k][j] + t;
-        if (j == k)
-            continue; // the vector takes the place of what is below
         ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
-            a[i][j] = a[i][j] + v[i] * t;
+            a[i][j] = a[i][j] + a[i][k] * t;
     }
-    ZELM_UNROLL
-    for (unsigned i = k + 1; i < N; ++i)
-        a[i][k] = v[i];
 }
 
-// Factors a in place; v is the last reflector's vector. The number of reflectors made: N - 1, or fewer where
-// a column fails the threshold.
+// Factors a in place. False where a column fails the threshold: the reflectors before it are made.
 template <typename T, unsigned N>
-unsigned qrFactor(T (&a)[N][N], T (&v)[N]);
+bool qrFactor(T (&a)[N][N]);
 
 // The same for a group. False where a column of any lane fails: the contents are then of no use.
 template <typename V, unsigned N>
-ZELM_INLINE bool qrFactorHere(V (&a)[N][N], V (&v)[N]) {
+ZELM_INLINE bool qrFactorHere(V (&a)[N][N]) {
     const V threshold = spread<V>(static_cast<ElementOf<V>>(kQrThreshold));
     Mask<V> fails = noLane<V>();
     ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
         const V q = sumOfSquares(a, k);
         fails = fails | notGreaterEqual(q, threshold);
-        reflect(a, v, k, q);
+        reflect(a, k, q);
     }
     return !anyLane(fails);
 }
@@ -84,7 +85,7 @@ ZELM_INLINE bool qrFactorHere(V (&a)[N][N], V (&v)[N]) {
 // It as a real function, which is faster from order 4 on: written out where it is called, it spills more than
 // the call stores.
 template <typename V, unsigned N>
-bool qrFactorGroup(V (&a)[N][N], V (&v)[N]);
+bool qrFactorGroup(V (&a)[N][N]);
 
 // -2 / v.v of each reflector of the factors a.
 template <typename V, unsigned N>
@@ -99,24 +100,24 @@ ZELM_INLINE void qrScales(const V (&a)[N][N], V (&scale)[N]) {
     }
 }
 
-// Solves with the factors a and their scales: w comes as b and goes as what the reflectors make of it. F is
-// V, or a block whose lanes are all alike where one matrix serves all lanes.
+// Solves with the factors a and their scales: x comes as b. F is V, or a block whose lanes are all alike
+// where one matrix serves all lanes.
 template <typename V, typename F, unsigned N>
-ZELM_INLINE void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (&x)[N]) {
+ZELM_INLINE void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&x)[N]) {
     const auto factor = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return inLanes<V>(a[i][j]); };
     ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
-        V t = w[k];
+        V t = x[k];
         ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
-            t = t + w[i] * factor(i, k);
+            t = t + x[i] * factor(i, k);
         t = t * inLanes<V>(scale[k]);
-        w[k] = w[k] + t;
+        x[k] = x[k] + t;
         ZELM_UNROLL
         for (unsigned i = k + 1; i < N; ++i)
-            w[i] = w[i] + factor(i, k) * t;
+            x[i] = x[i] + factor(i, k) * t;
     }
-    x[N - 1] = w[N - 1] / factor(N - 1, N - 1);
+    x[N - 1] = x[N - 1] / factor(N - 1, N - 1);
     ZELM_UNROLL
     for (unsigned back = 2; back <= N; ++back) {
         const unsigned i = N - back;
@@ -124,7 +125,7 @@ ZELM_INLINE void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&w)[N], V (
         ZELM_UNROLL
         for (unsigned j = i + 1; j < N; ++j)
             sum = sum + factor(i, j) * x[j];
-        x[i] = (w[i] - sum) / factor(i, i);
+        x[i] = (x[i] - sum) / factor(i, i);
     }
 }
 

@@ -7,9 +7,7 @@
 //   so.
 // - hold(a, factors): reads the one matrix; false likewise.
 // - loadRight(b, k, x): reads the right sides of a group beside held factors.
-// - solve(factors, x, left): makes solutions of right sides.
-// - Left<V>, leave(left): what a group leaves in memory beside its results, and how; of many groups the last
-//   one's stays.
+// - solve(factors, x): makes solutions of right sides.
 #pragma once
 
 #include "solvers/matrix_groups.h"
@@ -24,41 +22,31 @@ template <unsigned N, typename Array>
 constexpr Grouping kShortSystems = {kGathersMost<N, Array> ? widestUpTo(32) : kLongKernels.bytes,
                                     kLongKernels.least, kLongKernels.leastInTables};
 
-// What most methods leave: nothing.
-struct NothingLeft {};
-
 // The groups from k on, as far as they go.
 template <typename V, typename Method, typename A, typename B, typename D>
 ZELM_NOINLINE std::uint32_t solveOwnGroups(const Method &method, const A &a, const B &b, const D &d,
                                            std::uint32_t k, std::uint32_t end) {
-    typename Method::template Left<V> left;
-    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
         typename Method::template Factors<V> factors;
         V x[Method::order];
         if (!method.loadGroup(a, b, group, factors, x))
             return false;
-        method.solve(factors, x, left);
+        method.solve(factors, x);
         writeRow<Method::order>(d, group, 0, x);
         return true;
     });
-    if (next != k)
-        method.leave(left);
-    return next;
 }
 
 template <typename V, typename Method, typename F, typename B, typename D>
 ZELM_NOINLINE std::uint32_t solveHeldGroups(const Method &method, const F &factors, const B &b, const D &d,
                                             std::uint32_t k, std::uint32_t end) {
-    typename Method::template Left<V> left;
-    const std::uint32_t next = groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
         V x[Method::order];
         method.loadRight(b, group, x);
-        method.solve(factors, x, left);
+        method.solve(factors, x);
         writeRow<Method::order>(d, group, 0, x);
         return true;
     });
-    method.leave(left);
-    return next;
 }
 
 // All systems: one(k) solves system k as the definition has it.
