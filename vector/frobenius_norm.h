@@ -21,10 +21,17 @@ ZELM_INLINE auto squaresByRows(const S &s, Shape shape) {
     return sum;
 }
 
-// Column by column: arrays.
-template <typename S, typename Shape>
+// Column by column: arrays. `isOnlyWay`: written out where the size is fixed.
+template <bool isOnlyWay, typename S, typename Shape>
 ZELM_INLINE auto squaresByColumns(const S &s, Shape shape) {
     typename S::Element sum = 0;
+    if constexpr (isOnlyWay && Shape::isFixed) {
+        constexpr std::uint32_t N = Shape::columns();
+        ZELM_UNROLL
+        for (std::uint32_t e = 0; e < N * N; ++e)
+            sum = sum + s.get(e % N, e / N, N) * s.get(e % N, e / N, N);
+        return sum;
+    }
     for (std::uint32_t j = 0; j < shape.columns(); ++j)
         for (std::uint32_t i = 0; i < shape.rows(); ++i)
             sum = sum + s.get(i, j, shape.columns()) * s.get(i, j, shape.columns());
@@ -266,9 +273,10 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
 
 // All other arrays.
 template <typename S, typename T, typename Shape>
-ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, DenseArray<T> results, Shape shape, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, T *dst, Shape shape, std::uint32_t count) {
+    const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        results.object(k).set(0, squareRoot(squaresByColumns(s.object(k), shape)));
+        results.object(k).set(0, squareRoot(squaresByColumns<!kGainsByGroups<S>>(s.object(k), shape)));
         return ZELM_OK;
     };
     if constexpr (Shape::isFixed && kGainsByGroups<S>) {
@@ -291,13 +299,12 @@ ZELM_INLINE ZelmStatus frobeniusArray(const S &s, T *dst, Shape shape, std::uint
             checkArray(shape.isZero(), count, tested(s, shape.elements()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
-    const DenseArray<T> results = resultsAt(dst);
     if constexpr (Shape::isFixed && kHasDenseObjects<S> && sizeof(T) == 4)
-        return frobeniusByTrees(s, results, shape, count);
+        return frobeniusByTrees(s, resultsAt(dst), shape, count);
     else
         return withPlainestVectors<Shape::isFixed>(
             [&](const auto &plain)
-                ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, results, shape, count); },
+                ZELM_INLINE_LAMBDA { return frobeniusByColumns(plain, dst, shape, count); },
             s);
 }
 

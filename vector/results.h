@@ -14,7 +14,8 @@ namespace zelm::vector {
 
 using namespace zelm::frame;
 
-// The results as an array of objects of one element.
+// The results as an array of objects of one element: formed where they are looped over, as a function that is
+// handed it doesn't know its stride.
 template <typename T>
 ZELM_INLINE DenseArray<T> resultsAt(T *dst) {
     return DenseArray<T>(dst, std::int32_t{sizeof(T)}, 0);

@@ -59,7 +59,8 @@ ZELM_INLINE V tracesOfGroup(const S &s, std::uint32_t k) {
 }
 
 template <typename S, typename T, typename Size>
-ZELM_NOINLINE ZelmStatus tracesOf(S s, DenseArray<T> results, Size size, std::uint32_t count) {
+ZELM_NOINLINE ZelmStatus tracesOf(S s, T *dst, Size size, std::uint32_t count) {
+    const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
         traceThroughResult(s.object(k), results.object(k), size, false);
         return ZELM_OK;
@@ -111,7 +112,6 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
             checkArray(size.isZero(), count, tested(s, size.value()), tested(Pointer(dst), 0));
         status != kProceed)
         return status;
-    const DenseArray<T> results = resultsAt(dst);
     // Only planes gain by being plain: the dense forms begin their sums in another way.
     if constexpr (kIsDenseArray<S> && Size::fixed != 0) {
         // Two a round: one alone takes longer where its loop begins at a place that the processor fetches
@@ -122,9 +122,9 @@ ZELM_INLINE ZelmStatus traceArray(const S &s, T *dst, Size size, std::uint32_t c
         return ZELM_OK;
     } else if constexpr (S::isTable)
         return withPlainestVectors<Size::fixed != 0>(
-            [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, results, size, count); }, s);
+            [&](const auto &plain) ZELM_INLINE_LAMBDA { return tracesOf(plain, dst, size, count); }, s);
     else
-        return tracesOf(s, results, size, count);
+        return tracesOf(s, dst, size, count);
 }
 
 } // namespace zelm::vector
