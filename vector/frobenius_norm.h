@@ -258,7 +258,27 @@ ZELM_INLINE ZelmStatus frobeniusByTrees(const S &s, const DenseArray<float> &res
 // The squares of a group, column by column.
 template <unsigned N, typename V, typename S>
 ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
-    V elements[N][N], sum = {};
+    V sum = {};
+    if constexpr (N == 4 && kHasDenseObjects<S> && sizeof(ElementOf<V>) == 8) {
+        // Two columns at a time, which few registers hold.
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; j += 2) {
+            V columns[N][2];
+            ZELM_UNROLL
+            for (unsigned i = 0; i < N; ++i) {
+                LaneAddresses<V> at;
+                ZELM_UNROLL
+                for (unsigned lane = 0; lane < kLanesOf<V>; ++lane)
+                    at[lane] = s.object(k + lane).address(i, j, N);
+                loadTwo(at, 0, columns[i]);
+            }
+            ZELM_UNROLL
+            for (unsigned e = 0; e < 2 * N; ++e)
+                sum = sum + columns[e % N][e / N] * columns[e % N][e / N];
+        }
+        return sum;
+    }
+    V elements[N][N];
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         loadRow<N>(s, k, i, elements[i]);
