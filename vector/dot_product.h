@@ -186,7 +186,9 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
     constexpr unsigned N = Shape::columnsIfFixed;
     constexpr bool isShort =
         byPairs ? A::isList || kIsArray<B> : A::isList && (N == 3 || (kLoadsInGroups<A> && kFillsPack<T, N>));
-    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || isShort) {
+    // One at a time, what is held is all that a group gains.
+    constexpr bool isAlone = kVectorGrouping<A>.bytes == 0 && kIsArray<B>;
+    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || isShort || isAlone) {
         if constexpr (isShort && !byPairs && !kIsArray<B>)
             if (isUntouched(b, 1, N, results, 1, 1, count))
                 return forEachObject(count, oneBy(Vectors<N, B>(b)), a);
