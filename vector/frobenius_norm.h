@@ -294,12 +294,15 @@ ZELM_INLINE V squaresOfGroup(const S &s, std::uint32_t k) {
 // All other arrays.
 template <typename S, typename T, typename Shape>
 ZELM_NOINLINE ZelmStatus frobeniusByColumns(S s, T *dst, Shape shape, std::uint32_t count) {
+    // A group of one has all its elements ahead of the sum, which takes more registers than some have.
+    constexpr bool inGroups =
+        Shape::isFixed && kGainsByGroups<S> && (kVectorGrouping<S>.bytes != 0 || !kHasFewRegisters);
     const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        results.object(k).set(0, squareRoot(squaresByColumns<!kGainsByGroups<S>>(s.object(k), shape)));
+        results.object(k).set(0, squareRoot(squaresByColumns<!inGroups>(s.object(k), shape)));
         return ZELM_OK;
     };
-    if constexpr (Shape::isFixed && kGainsByGroups<S>) {
+    if constexpr (inGroups) {
         constexpr unsigned N = Shape::columns();
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
