@@ -71,6 +71,7 @@ ZELM_NOINLINE void choleskySolveAlone(const A &a, const B &b, const D &d) {
 template <unsigned N>
 struct CholeskySystems {
     static constexpr unsigned order = N;
+    static constexpr bool heldInStages = kShortChainsInStages<N>, ownInStages = false;
     template <typename F>
     struct Factors {
         F a[N][N];
@@ -98,8 +99,12 @@ struct CholeskySystems {
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
-        choleskySolve(factors.a, x);
+    ZELM_INLINE void forward(const Factors<F> &factors, V (&x)[N]) const {
+        choleskyForward(factors.a, x);
+    }
+    template <typename F, typename V>
+    ZELM_INLINE void backward(const Factors<F> &factors, V (&x)[N]) const {
+        choleskyBackward(factors.a, x);
     }
 };
 

@@ -37,10 +37,10 @@ ZELM_INLINE bool choleskyFactor(V (&a)[N][N]) {
     return !anyLane(fails);
 }
 
-// x comes as b and goes as the solution. F is V, or a block whose lanes are all alike where one matrix serves
-// all lanes.
+// Solves with L and then with its transpose; x comes as b and goes as the solution. F is V, or a block whose
+// lanes are all alike where one matrix serves all lanes.
 template <typename V, typename F, unsigned N>
-ZELM_INLINE void choleskySolve(const F (&a)[N][N], V (&x)[N]) {
+ZELM_INLINE void choleskyForward(const F (&a)[N][N], V (&x)[N]) {
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i) {
         V sum = x[i];
@@ -49,6 +49,9 @@ ZELM_INLINE void choleskySolve(const F (&a)[N][N], V (&x)[N]) {
             sum = sum - inLanes<V>(a[i][k]) * x[k];
         x[i] = sum * inLanes<V>(a[i][i]);
     }
+}
+template <typename V, typename F, unsigned N>
+ZELM_INLINE void choleskyBackward(const F (&a)[N][N], V (&x)[N]) {
     ZELM_UNROLL
     for (unsigned back = 1; back <= N; ++back) {
         const unsigned i = N - back;

@@ -87,6 +87,7 @@ ZELM_INLINE bool rowsAreInside(Address pivots) {
 template <unsigned N>
 struct LuSystems {
     static constexpr unsigned order = N;
+    static constexpr bool heldInStages = kShortChainsInStages<N>, ownInStages = false;
     const std::uint32_t *pivotIndex;
     template <typename F>
     struct Factors {
@@ -137,8 +138,12 @@ struct LuSystems {
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
-        luSolve(factors.a, x);
+    ZELM_INLINE void forward(const Factors<F> &factors, V (&x)[N]) const {
+        luForward(factors.a, x);
+    }
+    template <typename F, typename V>
+    ZELM_INLINE void backward(const Factors<F> &factors, V (&x)[N]) const {
+        luBackward(factors.a, x);
     }
 };
 

@@ -38,10 +38,10 @@ bool luFactorAlone(T (&a)[N][N], std::uint32_t (&order)[N]);
 template <typename V, unsigned N>
 bool luFactor(V (&a)[N][N], V (&order)[N]);
 
-// Solves with the factors a, rows in pivot order; x comes as b in pivot order and goes as the solution. F is
-// V, or a block whose lanes are all alike where one matrix serves all lanes.
+// Solves with L and then with U of the factors a, rows in pivot order; x comes as b in pivot order and goes
+// as the solution. F is V, or a block whose lanes are all alike where one matrix serves all lanes.
 template <typename V, typename F, unsigned N>
-ZELM_INLINE void luSolve(const F (&a)[N][N], V (&x)[N]) {
+ZELM_INLINE void luForward(const F (&a)[N][N], V (&x)[N]) {
     ZELM_UNROLL
     for (unsigned i = 1; i < N; ++i) {
         V sum = {};
@@ -50,6 +50,9 @@ ZELM_INLINE void luSolve(const F (&a)[N][N], V (&x)[N]) {
             sum = sum + inLanes<V>(a[i][j]) * x[j];
         x[i] = x[i] - sum;
     }
+}
+template <typename V, typename F, unsigned N>
+ZELM_INLINE void luBackward(const F (&a)[N][N], V (&x)[N]) {
     x[N - 1] = x[N - 1] / inLanes<V>(a[N - 1][N - 1]);
     ZELM_UNROLL
     for (unsigned m = 0; m < N - 1; ++m) {

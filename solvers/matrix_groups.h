@@ -173,6 +173,21 @@ ZELM_INLINE std::uint32_t groupsFrom(std::uint32_t k, std::uint32_t end, Group g
     return k;
 }
 
+// The same where what is done with a group is a long chain of operations that wait for each other: a few
+// groups are taken through each stage of it before the next stage, so that fewer operations wait at a time.
+// stages(k, groups) says how many groups from k on it has done.
+template <typename V, unsigned most, typename Stages>
+ZELM_INLINE std::uint32_t groupsInStages(std::uint32_t k, std::uint32_t end, Stages stages) {
+    while (const std::uint32_t left = (end - k) / kLanesOf<V>) {
+        const unsigned groups = left < most ? left : most;
+        const unsigned done = stages(k, groups);
+        k += done * kLanesOf<V>;
+        if (done != groups)
+            break;
+    }
+    return k;
+}
+
 // ---- whole matrices. A loop over the rows where the elements of many lanes are gathered one by one: that is
 // long code. Small matrices go without it and then need no memory.
 
@@ -203,6 +218,16 @@ ZELM_INLINE void storeMatrix(const Array &array, std::uint32_t k, const V (&in)[
 #pragma GCC unroll 1
         for (unsigned i = 0; i < N; ++i)
             writeRow<N>(array, k, i, in[i]);
+    }
+}
+
+template <unsigned N, typename V>
+ZELM_INLINE void copyMatrix(const V (&from)[N][N], V (&to)[N][N]) {
+    ZELM_UNROLL
+    for (unsigned i = 0; i < N; ++i) {
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            to[i][j] = from[i][j];
     }
 }
 

@@ -47,7 +47,8 @@ ZELM_INLINE void qrSolveInCopy(const A &a, const B &b, const D &d) {
     for (unsigned i = 0; i < N; ++i)
         x[i] = b.get(i);
     qrScales(factors, scale);
-    qrSolve(factors, scale, x);
+    qrForward(factors, scale, x);
+    qrBackward(factors, x);
     ZELM_UNROLL
     for (unsigned i = 0; i < N; ++i)
         d.set(i, x[i]);
@@ -71,6 +72,7 @@ ZELM_NOINLINE void qrSolveAlone(const A &a, Address scratch, const B &b, const D
 template <unsigned N>
 struct QrSystems {
     static constexpr unsigned order = N;
+    static constexpr bool heldInStages = true, ownInStages = true;
     template <typename F>
     struct Factors {
         F a[N][N], scale[N];
@@ -100,8 +102,12 @@ struct QrSystems {
     }
 
     template <typename F, typename V>
-    ZELM_INLINE void solve(const Factors<F> &factors, V (&x)[N]) const {
-        qrSolve(factors.a, factors.scale, x);
+    ZELM_INLINE void forward(const Factors<F> &factors, V (&x)[N]) const {
+        qrForward(factors.a, factors.scale, x);
+    }
+    template <typename F, typename V>
+    ZELM_INLINE void backward(const Factors<F> &factors, V (&x)[N]) const {
+        qrBackward(factors.a, x);
     }
 };
 

@@ -88,25 +88,58 @@ ZELM_NOINLINE ZelmStatus qrAlone(const S &s, Address scratch, const D &d, Shape 
     return qrObject(s, scratch, d, shape);
 }
 
-// The greatest order whose kernel is written out where it is called.
-template <typename Array>
-constexpr unsigned kQrHere = Array::isSideBySide || kWidestBytes == 64 ? 4 : 3;
+// A few groups, column by column from K on, up to the first group where a column fails. The number of groups
+// made.
+template <unsigned K, typename V, unsigned N, unsigned most, typename S, typename D>
+ZELM_INLINE unsigned qrStages(const S &s, const D &d, std::uint32_t k, V (&kept)[most][N][N],
+                              unsigned groups) {
+    for (unsigned g = 0; g < groups; ++g) {
+        if constexpr (K > 0 && K < N - 2) {
+            if (!reflectTested(kept[g], K))
+                groups = g;
+        } else {
+            V a[N][N];
+            if constexpr (K == 0)
+                loadMatrix(s, k + g * kLanesOf<V>, a);
+            else
+                copyMatrix(kept[g], a);
+            if (!reflectTested(a, K))
+                groups = g;
+            else if constexpr (K == N - 2)
+                storeMatrix(d, k + g * kLanesOf<V>, a);
+            else
+                copyMatrix(a, kept[g]);
+        }
+    }
+    if constexpr (K < N - 2)
+        return qrStages<K + 1>(s, d, k, kept, groups);
+    else
+        return groups;
+}
 
 // Groups of matrices from k on, up to one where a column of a matrix fails.
 template <typename V, unsigned N, typename S, typename D>
 ZELM_NOINLINE std::uint32_t qrGroups(const S &s, const D &d, std::uint32_t k, std::uint32_t end) {
-    return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
-        V a[N][N];
-        loadMatrix(s, group, a);
-        bool isMade;
-        if constexpr (N <= kQrHere<S>)
-            isMade = qrFactorHere(a);
-        else
-            isMade = qrFactorGroup(a);
-        if (isMade)
-            storeMatrix(d, group, a);
-        return isMade;
-    });
+    if constexpr (S::isSideBySide && D::isSideBySide) {
+        constexpr unsigned most = N <= 4 ? 8 : 4; // not too much of the stack
+        V kept[most][N][N];
+        return groupsInStages<V, most>(k, end, [&](std::uint32_t first, unsigned groups) ZELM_INLINE_LAMBDA {
+            return qrStages<0>(s, d, first, kept, groups);
+        });
+    } else {
+        return groupsFrom<V>(k, end, [&](std::uint32_t group) ZELM_INLINE_LAMBDA {
+            V a[N][N];
+            loadMatrix(s, group, a);
+            bool isMade;
+            if constexpr (N <= (kWidestBytes == 64 ? 4 : 3))
+                isMade = qrFactorHere(a);
+            else
+                isMade = qrFactorGroup(a);
+            if (isMade)
+                storeMatrix(d, group, a);
+            return isMade;
+        });
+    }
 }
 
 // The matrices of an array, of a fixed size.

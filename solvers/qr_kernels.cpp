@@ -7,12 +7,9 @@ namespace zelm::solvers {
 template <typename T, unsigned N>
 bool qrFactor(T (&a)[N][N]) {
     ZELM_UNROLL
-    for (unsigned k = 0; k < N - 1; ++k) {
-        const T q = sumOfSquares(a, k);
-        if (!(q >= static_cast<T>(kQrThreshold)))
+    for (unsigned k = 0; k < N - 1; ++k)
+        if (!reflectTested(a, k))
             return false;
-        reflect(a, k, q);
-    }
     return true;
 }
 

@@ -64,6 +64,16 @@ ZELM_INLINE void reflect(V (&a)[N][N], unsigned k, V q) {
     }
 }
 
+// The same where the column passes the threshold, in all lanes.
+template <typename V, unsigned N>
+ZELM_INLINE bool reflectTested(V (&a)[N][N], unsigned k) {
+    const V q = sumOfSquares(a, k);
+    if (anyLane(notGreaterEqual(q, spread<V>(static_cast<ElementOf<V>>(kQrThreshold)))))
+        return false;
+    reflect(a, k, q);
+    return true;
+}
+
 // Factors a in place. False where a column fails the threshold: the reflectors before it are made.
 template <typename T, unsigned N>
 bool qrFactor(T (&a)[N][N]);
@@ -100,10 +110,10 @@ ZELM_INLINE void qrScales(const V (&a)[N][N], V (&scale)[N]) {
     }
 }
 
-// Solves with the factors a and their scales: x comes as b. F is V, or a block whose lanes are all alike
-// where one matrix serves all lanes.
+// Applies the reflectors of the factors a with their scales to x. F is V, or a block whose lanes are all
+// alike where one matrix serves all lanes.
 template <typename V, typename F, unsigned N>
-ZELM_INLINE void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&x)[N]) {
+ZELM_INLINE void qrForward(const F (&a)[N][N], const F (&scale)[N], V (&x)[N]) {
     const auto factor = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return inLanes<V>(a[i][j]); };
     ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k) {
@@ -117,6 +127,12 @@ ZELM_INLINE void qrSolve(const F (&a)[N][N], const F (&scale)[N], V (&x)[N]) {
         for (unsigned i = k + 1; i < N; ++i)
             x[i] = x[i] + factor(i, k) * t;
     }
+}
+
+// Solves with R.
+template <typename V, typename F, unsigned N>
+ZELM_INLINE void qrBackward(const F (&a)[N][N], V (&x)[N]) {
+    const auto factor = [&a](unsigned i, unsigned j) ZELM_INLINE_LAMBDA { return inLanes<V>(a[i][j]); };
     x[N - 1] = x[N - 1] / factor(N - 1, N - 1);
     ZELM_UNROLL
     for (unsigned back = 2; back <= N; ++back) {
