@@ -67,54 +67,50 @@ ZELM_INLINE ZelmStatus l2NormSingle(const S &s, T *dst, Shape shape) {
     return ZELM_OK;
 }
 
-// isDense: whether the called form is one of the standard and L layouts, which have a root of their own.
-template <bool isDense, typename S, typename T, typename Shape>
-ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, Shape shape, std::uint32_t count) {
+// Vectors of a length known at run time.
+template <typename S, typename T, typename Shape>
+ZELM_NOINLINE ZelmStatus lengthsOfRunTime(S s, T *dst, Shape shape, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
     const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        if constexpr (Shape::isFixed)
-            results.object(k).set(0, fixedLength<isDense, true, Shape::columns()>(s.object(k)));
-        else
-            results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
+        results.object(k).set(0, lengthOfRunTime(s.object(k), shape.columns()));
         return ZELM_OK;
     };
-    if constexpr (!Shape::isFixed) {
-        if constexpr (kHasPlanesOfRunTime<S, Shape::isFixed>) {
-            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-                using V = typename decltype(pack)::Pack;
-                V sum = {};
-                for (std::uint32_t j = 0; j < shape.columns(); ++j) {
-                    const V elements = elementsAt<V>(s, k, j);
-                    sum = sum + elements * elements;
-                }
-                storePack(results.object(k).start, squareRoot(sum));
-                return true;
-            };
-            if (shape.columns() <= kMostPositions)
-                return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                                      reads(s, 1, shape.columns()));
-        }
-        return forEachObject(count, one, s);
-    } else {
-        constexpr unsigned N = Shape::columns();
-        // A root takes longer than gathering the elements of several objects does.
-        constexpr Grouping grouping =
-            kLoadsInGroups<S> || kIsAlternate<S> ? kShortKernels : kGatheredProducts;
-        const Vectors<N, S> vectors(s);
+    if constexpr (kHasPlanesOfRunTime<S, false>) {
         const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
             using V = typename decltype(pack)::Pack;
-            V elements[N], squares[N];
-            vectors.load(k, elements);
-            ZELM_UNROLL
-            for (unsigned j = 0; j < N; ++j)
-                squares[j] = elements[j] * elements[j];
-            const V sum = sumOf<kSquaresOrder<T, isDense, true, N>>(squares);
-            storePack(results.object(k).start, lengthOf<isDense>(sum));
+            storePack(results.object(k).start, squareRoot(sumOverPlanes<V>(s, s, k, shape.columns())));
             return true;
         };
-        return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                         reads(s, 1, N));
+        if (shape.columns() <= kMostPositions)
+            return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                  reads(s, 1, shape.columns()));
     }
+    return forEachObject(count, one, s);
+}
+
+// isDense: whether the called form is one of the standard and L layouts, which have a root of their own.
+template <bool isDense, unsigned N, typename S, typename T>
+ZELM_NOINLINE ZelmStatus lengthsOf(S s, T *dst, std::uint32_t count) {
+    const DenseArray<T> results = resultsAt(dst);
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        results.object(k).set(0, fixedLength<isDense, true, N>(s.object(k)));
+        return ZELM_OK;
+    };
+    // A root takes longer than gathering the elements of several objects does.
+    constexpr Grouping grouping = kLoadsInGroups<S> || kIsAlternate<S> ? kShortKernels : kGatheredProducts;
+    const Vectors<N, S> vectors(s);
+    const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+        using V = typename decltype(pack)::Pack;
+        V elements[N], squares[N];
+        vectors.load(k, elements);
+        ZELM_UNROLL
+        for (unsigned j = 0; j < N; ++j)
+            squares[j] = elements[j] * elements[j];
+        const V sum = sumOf<kSquaresOrder<T, isDense, true, N>>(squares);
+        storePack(results.object(k).start, lengthOf<isDense>(sum));
+        return true;
+    };
+    return forEachInGroups<grouping>(count, NoBuffer(), group, one, writes(results, 1, 1), reads(s, 1, N));
 }
 
 template <typename S, typename T, typename Shape>
@@ -125,7 +121,12 @@ ZELM_INLINE ZelmStatus l2NormArray(const S &s, T *dst, Shape shape, std::uint32_
         return status;
     constexpr bool isDense = kHasDenseObjects<S>;
     return withPlainestVectors<Shape::isFixed>(
-        [&](const auto &plain) ZELM_INLINE_LAMBDA { return lengthsOf<isDense>(plain, dst, shape, count); },
+        [&](const auto &plain) ZELM_INLINE_LAMBDA {
+            if constexpr (Shape::isFixed)
+                return lengthsOf<isDense, Shape::columns()>(plain, dst, count);
+            else
+                return lengthsOfRunTime(plain, dst, shape, count);
+        },
         s);
 }
 

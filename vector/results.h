@@ -69,4 +69,13 @@ ZELM_INLINE V elementsAt(const S &s, std::uint32_t k, Address entry) {
         return spread<V>(load<ElementOf<V>>(s.position(entry)));
 }
 
+// The sums of the products of vectors, of the objects from k on.
+template <typename V, typename A, typename B>
+ZELM_INLINE V sumOverPlanes(const A &a, const B &b, std::uint32_t k, std::uint32_t length) {
+    V sum = {};
+    for (std::uint32_t j = 0; j < length; ++j)
+        sum = sum + elementsAt<V>(a, k, j) * elementsAt<V>(b, k, j);
+    return sum;
+}
+
 } // namespace zelm::vector
