@@ -62,23 +62,36 @@ ZELM_NOINLINE ZelmStatus qrThroughDst(const S &s, Address scratch, const D &d, S
     return ZELM_OK;
 }
 
-// One matrix of a fixed size in a local copy, where the elements of d are distinct. It needs no scratch,
-// whose contents are open afterwards.
+// What is in scratch after the first `made` reflectors of d: the vector of the last behind the ones that
+// those before it begin with. The kernels have no use for scratch.
+template <unsigned N, typename D>
+ZELM_INLINE void leaveReflector(const D &d, Address scratch, unsigned made) {
+    using T = typename D::Element;
+    if (made == 0)
+        return;
+    for (unsigned i = 0; i < made; ++i)
+        store(scratch + i * sizeof(T), T{1});
+    for (unsigned i = made; i < N; ++i)
+        copyElement<T>(scratch + i * sizeof(T), d.address(i, made - 1, N));
+}
+
+// One matrix of a fixed size in a local copy, where the elements of d are distinct.
 template <unsigned N, typename S, typename D>
-ZELM_INLINE ZelmStatus qrInCopy(const S &s, const D &d) {
+ZELM_INLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
     using T = typename D::Element;
     T a[N][N];
     readMatrix(s, a);
-    const bool isMade = qrFactor(a);
+    const unsigned made = qrFactor(a);
     writeMatrix(d, a);
-    return isMade ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
+    leaveReflector<N>(d, scratch, made);
+    return made == N - 1 ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
 }
 
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus qrObject(const S &s, Address scratch, const D &d, Shape shape) {
     if constexpr (Shape::isFixed)
         if (matrixIsDistinct<Shape::rows()>(d))
-            return qrInCopy<Shape::rows()>(s, d);
+            return qrInCopy<Shape::rows()>(s, scratch, d);
     return qrThroughDst(aside(s), scratch, aside(d), RunTimeShape{shape.rows(), shape.columns()});
 }
 
@@ -149,9 +162,13 @@ ZELM_NOINLINE ZelmStatus qrObjects(const S &s, void *scratch, const D &d, std::u
         return qrAlone(s.object(k), addressOf(scratch), d.object(k), FixedShape<N, N>());
     };
     const auto group = [&](auto pack, std::uint32_t k, std::uint32_t end) ZELM_INLINE_LAMBDA {
-        return qrGroups<typename decltype(pack)::Pack, N>(s, d, k, end);
+        const std::uint32_t next = qrGroups<typename decltype(pack)::Pack, N>(s, d, k, end);
+        if (next != k)
+            leaveReflector<N>(d.object(next - 1), addressOf(scratch), N - 1);
+        return next;
     };
-    return forEachInGroups<kLongKernels>(count, NoBuffer(), inRuns<S, D>(count, group), one, writes(d, N, N),
+    return forEachInGroups<kLongKernels>(count, writesForAll(scratch, N * sizeof(typename D::Element)),
+                                         inRuns<S, D>(count, group), one, writes(d, N, N),
                                          reads(s, N, N, InPlace::Yes));
 }
 

@@ -5,12 +5,12 @@
 namespace zelm::solvers {
 
 template <typename T, unsigned N>
-bool qrFactor(T (&a)[N][N]) {
+unsigned qrFactor(T (&a)[N][N]) {
     ZELM_UNROLL
     for (unsigned k = 0; k < N - 1; ++k)
         if (!reflectTested(a, k))
-            return false;
-    return true;
+            return k;
+    return N - 1;
 }
 
 template <typename V, unsigned N>
@@ -18,7 +18,7 @@ bool qrFactorGroup(V (&a)[N][N]) {
     return qrFactorHere(a);
 }
 
-#define ZELM_INSTANTIATE_ALONE(T, N) template bool qrFactor<T, N>(T(&)[N][N]);
+#define ZELM_INSTANTIATE_ALONE(T, N) template unsigned qrFactor<T, N>(T(&)[N][N]);
 #define ZELM_INSTANTIATE_GROUP(V, N) template bool qrFactorGroup<V, N>(V(&)[N][N]);
 ZELM_ELEMENTS(ZELM_INSTANTIATE_ALONE)
 ZELM_PACKS(ZELM_INSTANTIATE_GROUP)

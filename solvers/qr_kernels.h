@@ -74,9 +74,9 @@ ZELM_INLINE bool reflectTested(V (&a)[N][N], unsigned k) {
     return true;
 }
 
-// Factors a in place. False where a column fails the threshold: the reflectors before it are made.
+// Factors a in place. The number of reflectors made: N - 1, or fewer where a column fails the threshold.
 template <typename T, unsigned N>
-bool qrFactor(T (&a)[N][N]);
+unsigned qrFactor(T (&a)[N][N]);
 
 // The same for a group. False where a column of any lane fails: the contents are then of no use.
 template <typename V, unsigned N>

@@ -49,6 +49,43 @@ TEST(QrDecomp, TheIdentityHasTwoSignsTurned) {
     EXPECT_EQ(result, expected);
 }
 
+// The vectors (1, 0, 0) and (0, 1, 0.5), of which scratch keeps the 1 of the first.
+constexpr std::array<double, 9> twoReflectors = {1, 0, 0, 0, 3, 0, 0, 4, 0};
+// (1, 0.5, 0), then a column of zeros.
+constexpr std::array<double, 9> oneReflector = {3, 0, 0, 4, 0, 0, 0, 0, 0};
+
+TEST(QrDecomp, ScratchHoldsTheLastReflectorThatWasMade) {
+    using Scratch = std::array<double, 3>;
+    const auto both = [](const std::array<double, 9> &source, ZelmStatus status, const Scratch &expected) {
+        std::array<double, 9> result;
+        Scratch scratch{};
+        EXPECT_EQ(zelmQRDecomp_m_64f_3x3(source.data(), 3 * d, scratch.data(), result.data(), 3 * d), status);
+        EXPECT_EQ(scratch, expected);
+        scratch = {};
+        EXPECT_EQ(zelmQRDecomp_m_64f(source.data(), 3 * d, scratch.data(), result.data(), 3 * d, 3, 3),
+                  status);
+        EXPECT_EQ(scratch, expected);
+    };
+    both(twoReflectors, ZELM_OK, {1, 1, 0.5});
+    both(oneReflector, ZELM_ERR_DIV_BY_ZERO, {1, 0.5, 0});
+}
+
+TEST(QrDecomp, ScratchHoldsTheLastReflectorOfAnArray) {
+    constexpr std::uint32_t count = 37;
+    for (const std::uint32_t failing : {0u, 1u, 16u, 36u, count}) {
+        std::array<std::array<double, 9>, count> sources, results;
+        sources.fill(twoReflectors);
+        if (failing < count)
+            sources[failing] = oneReflector;
+        std::array<double, 3> scratch{};
+        const ZelmStatus status = zelmQRDecomp_ma_64f_3x3(sources[0].data(), 9 * d, 3 * d, scratch.data(),
+                                                          results[0].data(), 9 * d, 3 * d, count);
+        EXPECT_EQ(status, failing < count ? ZELM_ERR_DIV_BY_ZERO : ZELM_OK);
+        EXPECT_EQ(scratch, (failing < count ? std::array{1.0, 0.5, 0.0} : std::array{1.0, 1.0, 0.5}))
+            << failing;
+    }
+}
+
 TEST(QrDecomp, ZeroAndNegativeCountAsNegative) {
     double result[2], scratch[2];
     const auto diagonal = [&](double first, double second) {
