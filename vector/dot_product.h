@@ -164,49 +164,50 @@ ZELM_INLINE ZelmStatus dotSingle(const A &a, const B &b, T *dst, Shape shape) {
 
 // ---- arrays
 
+// Vectors of a length known at run time.
+template <typename A, typename B, typename T, typename Shape>
+ZELM_NOINLINE ZelmStatus dotsOfRunTime(A a, B b, T *dst, Shape shape, std::uint32_t count) {
+    const DenseArray<T> results = resultsAt(dst);
+    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+        results.object(k).set(0, dotOfLength(a.object(k), b.object(k), shape.columns()));
+        return ZELM_OK;
+    };
+    if constexpr (kHasPlanesOfRunTime<A, false>) {
+        const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
+            using V = typename decltype(pack)::Pack;
+            storePack(results.object(k).start, sumOverPlanes<V>(a, b, k, shape.columns()));
+            return true;
+        };
+        if (shape.columns() <= kMostPositions)
+            return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
+                                                  reads(a, 1, shape.columns()), reads(b, 1, shape.columns()));
+    }
+    return forEachObject(count, one, a, b);
+}
+
 // One instance serves the layouts that come to the same operands and the same order.
-template <Sum order, typename A, typename B, typename T, typename Shape>
-ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t count) {
+template <Sum order, unsigned N, typename A, typename B, typename T>
+ZELM_NOINLINE ZelmStatus dotsInOrder(A a, B b, T *dst, std::uint32_t count) {
     const DenseArray<T> results = resultsAt(dst);
     constexpr bool areListed = A::isList && kIsArray<B>;
     const auto oneBy = [&](const auto &second) ZELM_INLINE_LAMBDA {
         return [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-            if constexpr (Shape::isFixed)
-                results.object(k).set(
-                    0, dotOf<order, Shape::columns(), areListed>(a.object(k), second.object(k)));
-            else
-                results.object(k).set(0, dotOfLength(a.object(k), second.object(k), shape.columns()));
+            results.object(k).set(0, dotOf<order, N, areListed>(a.object(k), second.object(k)));
             return ZELM_OK;
         };
     };
-    const auto one = oneBy(b);
     // Pairs of arrays whose sums are ones of pairs, and short lists: the null tests and the sum cost less
     // than collecting the objects does.
-    constexpr bool byPairs = kSumsByPairs<order, T, Shape::columnsIfFixed>;
-    constexpr unsigned N = Shape::columnsIfFixed;
+    constexpr bool byPairs = kSumsByPairs<order, T, N>;
     constexpr bool isShort =
         byPairs ? A::isList || kIsArray<B> : A::isList && (N == 3 || (kLoadsInGroups<A> && kFillsPack<T, N>));
     // One at a time, what is held is all that a group gains.
     constexpr bool isAlone = kVectorGrouping<A>.bytes == 0 && kIsArray<B>;
-    if constexpr (!Shape::isFixed || !kGainsByGroups<A> || isShort || isAlone) {
+    if constexpr (!kGainsByGroups<A> || isShort || isAlone) {
         if constexpr (isShort && !byPairs && !kIsArray<B>)
             if (isUntouched(b, 1, N, results, 1, 1, count))
                 return forEachObject(count, oneBy(Vectors<N, B>(b)), a);
-        if constexpr (kHasPlanesOfRunTime<A, Shape::isFixed>) {
-            const auto group = [&](auto pack, std::uint32_t k) ZELM_INLINE_LAMBDA {
-                using V = typename decltype(pack)::Pack;
-                V sum = {};
-                for (std::uint32_t j = 0; j < shape.columns(); ++j)
-                    sum = sum + elementsAt<V>(a, k, j) * elementsAt<V>(b, k, j);
-                storePack(results.object(k).start, sum);
-                return true;
-            };
-            if (shape.columns() <= kMostPositions)
-                return forEachInGroups<kShortKernels>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                                      reads(a, 1, shape.columns()),
-                                                      reads(b, 1, shape.columns()));
-        }
-        return forEachObject(count, one, a, b);
+        return forEachObject(count, oneBy(b), a, b);
     } else {
         const auto run = [&](const auto &first, const auto &second) ZELM_INLINE_LAMBDA {
             const Vectors<N, std::remove_cvref_t<decltype(first)>> firsts(first);
@@ -217,8 +218,8 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
                 storePack(results.object(k).start, sumOf<order>(products));
                 return true;
             };
-            return forEachInGroups<kVectorGrouping<A>>(count, NoBuffer(), group, one, writes(results, 1, 1),
-                                                       reads(a, 1, N), reads(b, 1, N));
+            return forEachInGroups<kVectorGrouping<A>>(count, NoBuffer(), group, oneBy(b),
+                                                       writes(results, 1, 1), reads(a, 1, N), reads(b, 1, N));
         };
         return withThrees<N>(run, a, b);
     }
@@ -227,8 +228,12 @@ ZELM_NOINLINE ZelmStatus dotInOrder(A a, B b, T *dst, Shape shape, std::uint32_t
 template <Sum order, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus dotObjects(const A &a, const B &b, T *dst, Shape shape, std::uint32_t count) {
     return withPlainestVectors<Shape::isFixed>(
-        [&](const auto &first, const auto &second)
-            ZELM_INLINE_LAMBDA { return dotInOrder<order>(first, second, dst, shape, count); },
+        [&](const auto &first, const auto &second) ZELM_INLINE_LAMBDA {
+            if constexpr (Shape::isFixed)
+                return dotsInOrder<order, Shape::columns()>(first, second, dst, count);
+            else
+                return dotsOfRunTime(first, second, dst, shape, count);
+        },
         a, b);
 }
 
