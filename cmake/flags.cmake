@@ -78,7 +78,7 @@ endif()
 if(ZELM_SANITIZE)
   # AddressSanitizer's tests as calls: two thirds of the time to compile t7, four fifths for x64.
   target_compile_options(zelm_library_flags INTERFACE
-    $<$<CXX_COMPILER_ID:GNU>:SHELL:--param asan-instrumentation-with-call-threshold=0>)
+    $<$<CXX_COMPILER_ID:GNU>:--param=asan-instrumentation-with-call-threshold=0>)
 else()
   # A sanitizer's runtime is a dependency, so the link is closed in all builds but that one.
   target_link_options(zelm_library_flags INTERFACE
