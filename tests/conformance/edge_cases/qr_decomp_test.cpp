@@ -71,18 +71,20 @@ TEST(QrDecomp, ScratchHoldsTheLastReflectorThatWasMade) {
 }
 
 TEST(QrDecomp, ScratchHoldsTheLastReflectorOfAnArray) {
-    constexpr std::uint32_t count = 37;
-    for (const std::uint32_t failing : {0u, 1u, 16u, 36u, count}) {
-        std::array<std::array<double, 9>, count> sources, results;
-        sources.fill(twoReflectors);
-        if (failing < count)
-            sources[failing] = oneReflector;
-        std::array<double, 3> scratch{};
-        const ZelmStatus status = zelmQRDecomp_ma_64f_3x3(sources[0].data(), 9 * d, 3 * d, scratch.data(),
-                                                          results[0].data(), 9 * d, 3 * d, count);
-        EXPECT_EQ(status, failing < count ? ZELM_ERR_DIV_BY_ZERO : ZELM_OK);
-        EXPECT_EQ(scratch, (failing < count ? std::array{1.0, 0.5, 0.0} : std::array{1.0, 1.0, 0.5}))
-            << failing;
+    for (const std::uint32_t count : {37u, 48u}) { // with and without objects that no group takes
+        for (const std::uint32_t failing : {0u, 1u, 16u, 36u, count}) {
+            std::array<std::array<double, 9>, 48> sources, results;
+            sources.fill(twoReflectors);
+            sources[count - 1][7] = -4;
+            if (failing < count)
+                sources[failing] = oneReflector;
+            std::array<double, 3> scratch{};
+            const ZelmStatus status = zelmQRDecomp_ma_64f_3x3(sources[0].data(), 9 * d, 3 * d, scratch.data(),
+                                                              results[0].data(), 9 * d, 3 * d, count);
+            EXPECT_EQ(status, failing < count ? ZELM_ERR_DIV_BY_ZERO : ZELM_OK);
+            EXPECT_EQ(scratch, (failing < count ? std::array{1.0, 0.5, 0.0} : std::array{1.0, 1.0, -0.5}))
+                << failing << " of " << count;
+        }
     }
 }
 
