@@ -216,16 +216,16 @@ ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
 
 // ---- arrays
 
-template <typename T, typename Shape>
-ZELM_INLINE bool transposePlanes(const PackedTableArray<const T> &s, const PackedTableArray<T> &d,
-                                 Shape shape, std::uint32_t count) {
-    if (!planesMayMove(s, d, shape.elements(), count))
+// Square matrices. One instance serves all sizes.
+template <typename S, typename D>
+ZELM_NOINLINE bool transposePlanes(S s, D d, std::uint32_t n, std::uint32_t count) {
+    if (n > kPlanesElements || !planesMayMove(s, d, Address{n} * n, count))
         return false;
     const auto from = s.object(0);
     const auto to = d.object(0);
-    for (std::uint32_t i = 0; i < shape.rows(); ++i)
-        for (std::uint32_t j = 0; j < shape.columns(); ++j)
-            moveRun<T>(to.address(j, i, shape.rows()), from.address(i, j, shape.columns()), count);
+    for (std::uint32_t i = 0; i < n; ++i)
+        for (std::uint32_t j = 0; j < n; ++j)
+            movePlane(s, d, from.address(i, j, n), to.address(j, i, n), count);
     return true;
 }
 
@@ -262,8 +262,8 @@ ZELM_INLINE ZelmStatus transposeByWalking(const S &s, const D &d, FixedShape<N, 
 
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus transposeObjects(const S &s, const D &d, Shape shape, std::uint32_t count) {
-    if constexpr (D::isSideBySide && Shape::isFixed)
-        if (transposePlanes(s, d, shape, count))
+    if constexpr (D::isTable)
+        if (shape.rows() == shape.columns() && transposePlanes(s, d, shape.rows(), count))
             return ZELM_OK;
     if constexpr (kHasDenseObjects<D>) {
         return transposeDenseObjects(s, d, shape, count);
