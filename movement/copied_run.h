@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/shuffles.h"
+#include "frame/widths.h"
 
 namespace zelm::movement {
 
@@ -15,20 +16,22 @@ ZELM_INLINE void moveString(Address to, Address from, Address bytes) {
 }
 
 // Up to four packs, without a loop: the last ones may cover elements of those before them once more.
-template <typename T>
+template <typename V>
 ZELM_INLINE void moveShortRun(Address to, Address from, Address bytes) {
-    constexpr Address pack = kBlockBytes;
+    constexpr Address pack = sizeof(V);
     if (bytes > 2 * pack) {
-        const Pack<T> packs[4] = {loadPack<T>(from), loadPack<T>(from + pack),
-                                  loadPack<T>(from + bytes - 2 * pack), loadPack<T>(from + bytes - pack)};
+        const V packs[4] = {loadAs<V>(from), loadAs<V>(from + pack), loadAs<V>(from + bytes - 2 * pack),
+                            loadAs<V>(from + bytes - pack)};
         storePack(to, packs[0]);
         storePack(to + pack, packs[1]);
         storePack(to + bytes - 2 * pack, packs[2]);
         storePack(to + bytes - pack, packs[3]);
     } else if (bytes >= pack) {
-        const Pack<T> first = loadPack<T>(from), last = loadPack<T>(from + bytes - pack);
+        const V first = loadAs<V>(from), last = loadAs<V>(from + bytes - pack);
         storePack(to, first);
         storePack(to + bytes - pack, last);
+    } else if constexpr (pack > kBlockBytes) {
+        moveShortRun<Pack<ElementOf<V>, pack / 2>>(to, from, bytes);
     } else {
         const bool half = bytes >= pack / 2;
         if (half)
@@ -39,30 +42,31 @@ ZELM_INLINE void moveShortRun(Address to, Address from, Address bytes) {
     }
 }
 
-template <typename T>
+template <typename V>
 ZELM_INLINE void moveFourPacks(Address to, Address from) {
-    Pack<T> packs[4];
+    V packs[4];
     ZELM_UNROLL
     for (unsigned p = 0; p < 4; ++p)
-        packs[p] = loadPack<T>(from + p * kBlockBytes);
+        packs[p] = loadAs<V>(from + p * sizeof(V));
     ZELM_UNROLL
     for (unsigned p = 0; p < 4; ++p)
-        storePack(to + p * kBlockBytes, packs[p]);
+        storePack(to + p * sizeof(V), packs[p]);
 }
 
 // The destination must be apart from the source, or be the source.
 template <typename T>
 ZELM_INLINE void moveRun(Address to, Address from, Address elements) {
-    constexpr Address fourPacks = 4 * kBlockBytes;
+    using V = Pack<T, kShortRunBytes>;
+    constexpr Address fourPacks = 4 * sizeof(V);
     const Address bytes = elements * sizeof(T);
     if (bytes <= fourPacks)
-        return moveShortRun<T>(to, from, bytes);
+        return moveShortRun<V>(to, from, bytes);
     if (bytes >= kStringBytes)
         return moveString(to, from, bytes);
     Address at = 0;
     for (; bytes - at > fourPacks; at += fourPacks)
-        moveFourPacks<T>(to + at, from + at);
-    moveFourPacks<T>(to + bytes - fourPacks, from + bytes - fourPacks);
+        moveFourPacks<V>(to + at, from + at);
+    moveFourPacks<V>(to + bytes - fourPacks, from + bytes - fourPacks);
 }
 
 } // namespace zelm::movement

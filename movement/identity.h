@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/checks.h"
-#include "frame/pack.h"
+#include "frame/widths.h"
 
 namespace zelm::movement {
 
@@ -45,6 +45,17 @@ ZELM_INLINE Address position(const Table<T> &d, std::uint32_t row, std::uint32_t
     return addressOf(load<T *>(addressOf(d.table) + entry * sizeof(T *))) + d.shift;
 }
 
+template <typename V>
+ZELM_INLINE void zeroRun(Address at, Address elements) {
+    for (; elements >= kLanesOf<V>; elements -= kLanesOf<V>, at += sizeof(V))
+        storePack(at, V{});
+    if constexpr (sizeof(V) > kBlockBytes)
+        zeroRun<Pack<ElementOf<V>>>(at, elements);
+    else
+        for (; elements != 0; --elements, at += sizeof(ElementOf<V>))
+            store(at, ElementOf<V>{0});
+}
+
 // A matrix without gaps whose ones all lie in their own rows. False where it isn't one.
 template <typename D>
 ZELM_INLINE bool fillGapless(const D &d, std::uint32_t rows, std::uint32_t columns, std::uint32_t diagonal) {
@@ -55,12 +66,7 @@ ZELM_INLINE bool fillGapless(const D &d, std::uint32_t rows, std::uint32_t colum
         if (d.elemStride != sizeof(T) || d.rowStride != columns * sizeof(T) || rows > columns ||
             diagonal > columns - rows)
             return false;
-        const Address elements = Address{rows} * columns;
-        Address e = 0;
-        for (; elements - e >= kLanes<T>; e += kLanes<T>)
-            storePack(d.start + e * sizeof(T), Pack<T>{});
-        for (; e < elements; ++e)
-            store(d.start + e * sizeof(T), T{0});
+        zeroRun<Pack<T, kRunBytes>>(d.start, Address{rows} * columns);
         for (std::uint32_t i = 0; i < rows; ++i)
             store(d.start + (Address{i} * (Address{columns} + 1) + diagonal) * sizeof(T), T{1});
         return true;
@@ -70,13 +76,10 @@ ZELM_INLINE bool fillGapless(const D &d, std::uint32_t rows, std::uint32_t colum
 template <typename D>
 ZELM_INLINE void zeroRow(const D &d, std::uint32_t row, std::uint32_t columns, std::int32_t width) {
     using T = typename D::Element;
-    std::uint32_t c = 0;
-    if constexpr (!D::isTable) {
+    if constexpr (!D::isTable)
         if (d.elemStride == sizeof(T))
-            for (; columns - c >= kLanes<T>; c += kLanes<T>)
-                storePack(position(d, row, c, width), Pack<T>{});
-    }
-    for (; c < columns; ++c)
+            return zeroRun<Pack<T, kRunBytes>>(d.rowStart(row), columns);
+    for (std::uint32_t c = 0; c < columns; ++c)
         store(position(d, row, c, width), T{0});
 }
 
