@@ -112,26 +112,36 @@ struct CholeskySystems {
 template <typename A, typename B, typename D, typename Size>
 ZELM_NOINLINE ZelmStatus choleskySolveObjects(const A &a, const B &b, const D &d, Size size,
                                               std::uint32_t count) {
-    const auto one = [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
-        const auto matrix = a.object(k);
-        const auto right = b.object(k);
-        const auto target = d.object(k);
-        if (matrix.isNull() || right.isNull() || target.isNull())
+    const auto each = [&](auto solve) ZELM_INLINE_LAMBDA {
+        return [&a, &b, &d, solve](std::uint32_t k) ZELM_INLINE_LAMBDA {
+            const auto matrix = a.object(k);
+            const auto right = b.object(k);
+            const auto target = d.object(k);
+            if (!matrix.isNull() && !right.isNull() && !target.isNull())
+                solve(matrix, right, target);
             return ZELM_OK;
-        if constexpr (Size::fixed != 0)
-            choleskySolveAlone<Size::fixed>(matrix, right, target);
-        else
-            choleskySolveThroughDst(matrix, right, target, size.value());
-        return ZELM_OK;
+        };
     };
     if constexpr (Size::fixed != 0) {
         constexpr unsigned N = Size::fixed;
-        if (hasNoNullObject(a, N, N, count) && hasNoNullObject(b, 1, N, count) &&
-            hasNoNullObject(d, 1, N, count))
+        const auto one =
+            each([](const auto &...object) ZELM_INLINE_LAMBDA { choleskySolveAlone<N>(object...); });
+        if constexpr (kSolvesAlone<N, A, D>) {
+            if (resultIsDistinct<N>(d))
+                return forEachObject(count, each([](const auto &...object) ZELM_INLINE_LAMBDA {
+                                         choleskySolveInRegisters<N>(object...);
+                                     }));
+        } else if (hasNoNullObject(a, N, N, count) && hasNoNullObject(b, 1, N, count) &&
+                   hasNoNullObject(d, 1, N, count)) {
             return solveSystems<kShortSystems<N, D>>(CholeskySystems<N>(), NoBuffer(), one, a, b,
                                                      InPlace::Yes, d, count);
+        }
+        return forEachObject(count, one);
+    } else {
+        return forEachObject(count, each([size](const auto &...object) ZELM_INLINE_LAMBDA {
+                                 choleskySolveThroughDst(object..., size.value());
+                             }));
     }
-    return forEachObject(count, one);
 }
 
 // ---- the exported rows. n and count are signed, and below zero nothing is done.

@@ -177,7 +177,7 @@ ZELM_NOINLINE ZelmStatus luBackSubstObjects(const A &a, const std::uint32_t *piv
                                   b.object(k), d.object(k));
         return ZELM_OK;
     };
-    if constexpr (kIsArray<A> && N < kLeastOrderOfOwnGroups<A>) {
+    if constexpr (kIsArray<A> ? N < kLeastOrderOfOwnGroups<A> : kSolvesAlone<N, A, D>) {
         return forEachObject(count, one, a, b, d);
     } else {
         const Buffer pivots =

@@ -119,6 +119,17 @@ ZELM_NOINLINE ZelmStatus qrSolveObjects(const A &a, void *scratch, const B &b, c
         qrSolveAlone(a.object(k), addressOf(scratch), b.object(k), d.object(k), FixedShape<N, N>());
         return ZELM_OK;
     };
+    // Rows of adjacent elements take less gathering.
+    constexpr bool isEasilyGathered = kHasDenseObjects<D> && !kHasFewRegisters;
+    if constexpr (kIsArray<A> && kSolvesAlone<N + isEasilyGathered, A, D>)
+        if (resultIsDistinct<N>(d))
+            return forEachObject(
+                count,
+                [&](std::uint32_t k) ZELM_INLINE_LAMBDA {
+                    qrSolveInCopy<N>(a.object(k), b.object(k), d.object(k));
+                    return ZELM_OK;
+                },
+                a, b, d);
     return solveSystems<kLongKernels>(QrSystems<N>(), NoBuffer(), one, a, b, InPlace::Yes, d, count);
 }
 

@@ -25,6 +25,15 @@ template <unsigned N, typename Array>
 constexpr Grouping kShortSystems = {kGathersMost<N, Array> ? widestUpTo(32) : kLongKernels.bytes,
                                     kLongKernels.least, kLongKernels.leastInTables};
 
+// Of a list's smallest systems one after the other takes fewer instructions: narrow packs don't save what
+// gathering and its tests take. (Four lanes do, where few registers hold one matrix and all strides.)
+template <typename A, typename D>
+constexpr unsigned kMostAlone = sizeof(typename D::Element) == 8                           ? 4
+                                : kHasFewRegisters && !kIsArray<A> && !kHasDenseObjects<D> ? 2
+                                                                                           : 3;
+template <unsigned N, typename A, typename D>
+constexpr bool kSolvesAlone = D::isList &&kWidestBytes == kBlockBytes && (N <= kMostAlone<A, D>);
+
 // For methods whose two stages are no longer than sums and a division or none.
 template <unsigned N>
 constexpr bool kShortChainsInStages = !kHasFewRegisters && N > (kWidestBytes == 64 ? 4 : 3);
