@@ -437,14 +437,42 @@ ZELM_INLINE std::uint32_t runGroups(std::uint32_t k, std::uint32_t end, Group gr
         return k;
 }
 
+// Whether groups of planes are counted in the width of an address: what is added to the start of each plane
+// is the count itself then, which no round widens. Dot products of planes take half of their time so; packs
+// of 64 bytes have too few rounds to gain.
+template <typename V, typename... Operands>
+constexpr bool kCountsInAddresses = !kHasFewRegisters && sizeof(V) <= 32 && (Operands::isSideBySide || ...);
+
+template <typename V, typename Group>
+ZELM_INLINE Address runPlanes(Address k, Address end, Group group) {
+    if (end - k >= kLanesOf<V>) {
+        const Address last = end - kLanesOf<V>;
+        do {
+            if (k > ~std::uint32_t{})
+                __builtin_unreachable();
+            if (!group(As<V>{}, static_cast<std::uint32_t>(k)))
+                break;
+            k += kLanesOf<V>;
+        } while (k <= last);
+    }
+    if constexpr (sizeof(V) > kBlockBytes)
+        return runPlanes<Pack<ElementOf<V>, sizeof(V) / 2>>(k, end, group);
+    else
+        return k;
+}
+
 // The objects from k to before end; `operands` are those whose entries are tested.
-template <typename V, typename Group, typename One, typename... Operands>
+template <typename V, bool countsInAddresses, typename Group, typename One, typename... Operands>
 ZELM_INLINE ZelmStatus runObjects(std::uint32_t k, std::uint32_t end, bool grouped, Group group, One one,
                                   const Operands &...operands) {
     constexpr std::uint32_t least = sizeof(V) < kBlockBytes ? 1 : kLanesOf<Pack<ElementOf<V>>>;
     while (k < end) {
-        if (grouped)
+        if constexpr (countsInAddresses) {
+            if (grouped)
+                k = static_cast<std::uint32_t>(runPlanes<V>(k, end, group));
+        } else if (grouped) {
             k = runGroups<V>(k, end, group);
+        }
         const std::uint32_t stop = grouped && end - k > least ? k + least : end;
         for (; k < stop; ++k) {
             if ((operands.entryIsNull(k) || ...))
@@ -473,7 +501,8 @@ ZELM_INLINE ZelmStatus runStretches(std::uint32_t count, const Memory &buffer, G
             return (stretch.ascends || resultsAreApart<lanes>(d, k, stretch.isNear)) &&
                    (stretch.isApart || groupIsApart<lanes>(k, buffer, d, s...)) && group(pack, k);
         };
-        if (ZelmStatus status = runObjects<V>(first, last, grouped, guarded, one, s.operand..., d.operand);
+        if (ZelmStatus status =
+                runObjects<V, false>(first, last, grouped, guarded, one, s.operand..., d.operand);
             status != ZELM_OK)
             return status;
         first = last;
@@ -492,7 +521,7 @@ ZELM_INLINE ZelmStatus forEachInGroups(std::uint32_t count, const Memory &buffer
     } else {
         constexpr std::uint32_t least = D::isTable ? grouping.leastInTables : grouping.least;
         const bool grouped = count >= least && mayGroupAll(count, buffer, d, s...);
-        return runObjects<V>(0, count, grouped, group, one);
+        return runObjects<V, kCountsInAddresses<V, D, S...>>(0, count, grouped, group, one);
     }
 }
 
