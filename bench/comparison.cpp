@@ -71,6 +71,12 @@ std::vector<std::string> wrongOf(const Row &row, Workload &work, const std::vect
     return wrong;
 }
 
+// Whole groups and whole stretches of lists, so that what a call takes beside them drops out; of calls for
+// one object a few, and of the largest matrices no more than the widest group.
+std::size_t countedObjects(const Row &row) {
+    return !row.member->isArray ? 4 : row.count < 1000 ? 16 : 64;
+}
+
 } // namespace
 
 PeerTable::PeerTable(const Library *peers) {
@@ -107,8 +113,7 @@ Figures measureRow(const Row &row, const Field &field, const Effort &effort) {
 }
 
 Figures countRow(const Row &row, const Field &field) {
-    // Whole groups and whole stretches of lists, and whatever a call takes beside them drops out.
-    constexpr std::size_t objects = 64;
+    const std::size_t objects = countedObjects(row);
     const Workload few(*row.member, objects), many(*row.member, 2 * objects);
     const std::vector<Contender> withFew = contendersOf(row, few, field);
     const std::vector<Contender> withMany = contendersOf(row, many, field);
@@ -116,7 +121,8 @@ Figures countRow(const Row &row, const Field &field) {
     for (std::size_t c = 0; c < withFew.size(); ++c) {
         const std::uint64_t more =
             instructionsOf([&] { withMany[c].run(0); }) - instructionsOf([&] { withFew[c].run(0); });
-        figures.perObject.emplace_back(withFew[c].name, static_cast<double>(more) / objects);
+        figures.perObject.emplace_back(withFew[c].name,
+                                       static_cast<double>(more) / static_cast<double>(objects));
     }
     return figures;
 }

@@ -1,9 +1,6 @@
 #include "instructions.h"
 
-#include <sched.h>
-#include <sys/ptrace.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <x86intrin.h>
 
 #include <csignal>
 #include <stdexcept>
@@ -11,57 +8,36 @@
 namespace zelmbench {
 namespace {
 
-// Handing over to a process on the same processor takes a fraction of the time.
-void stayOnThisProcessor() {
-    cpu_set_t here;
-    CPU_ZERO(&here);
-    CPU_SET(sched_getcpu(), &here);
-    sched_setaffinity(0, sizeof here, &here);
-}
+// With this flag set the processor traps behind each instruction; a handler runs without it.
+constexpr auto trapFlag = decltype(__readeflags()){0x100};
 
-// Stops before the work and behind it.
-[[noreturn]] void workFollowed(const std::function<void()> &work) {
-    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-    raise(SIGSTOP);
-    work();
-    raise(SIGSTOP);
-    _exit(0);
-}
+volatile std::uint64_t steps;
 
-// The signal that the process has stopped with.
-int stopOf(pid_t process) {
-    int status = 0;
-    if (waitpid(process, &status, 0) != process || !WIFSTOPPED(status)) {
-        throw std::runtime_error("the process whose instructions are counted has ended");
-    }
-    return WSTOPSIG(status);
+void countStep(int /*signal*/) {
+    steps = steps + 1;
 }
 
 std::uint64_t stepsOf(const std::function<void()> &work) {
-    const pid_t process = fork();
-    if (process == 0) {
-        workFollowed(work);
-    }
-    if (process < 0 || stopOf(process) != SIGSTOP) {
-        throw std::runtime_error("instructions can't be counted: no process may be followed here");
-    }
-    std::uint64_t steps = 0;
-    do {
-        ++steps;
-        ptrace(PTRACE_SINGLESTEP, process, nullptr, nullptr);
-    } while (stopOf(process) == SIGTRAP);
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    steps = 0;
+    __writeeflags(__readeflags() | trapFlag);
+    work();
+    __writeeflags(__readeflags() & ~trapFlag);
     return steps;
+}
+
+std::uint64_t stepsOfNothing() {
+    struct sigaction action {};
+    action.sa_handler = countStep;
+    if (sigaction(SIGTRAP, &action, nullptr) != 0) {
+        throw std::runtime_error("instructions can't be counted: no handler for SIGTRAP");
+    }
+    return stepsOf([] {});
 }
 
 } // namespace
 
 std::uint64_t instructionsOf(const std::function<void()> &work) {
-    static const std::uint64_t ofNothing = [] {
-        stayOnThisProcessor();
-        return stepsOf([] {});
-    }();
+    static const std::uint64_t ofNothing = stepsOfNothing();
     return stepsOf(work) - ofNothing;
 }
 

@@ -6,7 +6,7 @@
 
 namespace zelmbench {
 
-// Counted one by one in a process of its own, which this one follows; what the work changes stays there.
+// Counted one by one: the processor stops behind each, which takes microseconds.
 std::uint64_t instructionsOf(const std::function<void()> &work);
 
 } // namespace zelmbench

@@ -6,7 +6,7 @@ import re
 from itertools import groupby
 from pathlib import Path
 
-OWN, BESIDE = "zelm", "beside"
+OWN, BESIDE, COUNTS = "zelm", "beside", "instructions"
 SLOWER, SLOWER_SINGLE = 1.05, 1.15
 NAME = re.compile(r"zelm([A-Za-z0-9]+)_([a-zA-Z]+)_(?:32f|64f)(?:_\dx\d)?(?:_(\w+))?(?:/(\d+x\d+))?/(single|\d+)$")
 SOLVERS = {
@@ -22,10 +22,12 @@ LAYOUTS = ("standard", "S2", "P", "PS2", "L", "LS2")
 class Row:
     def __init__(self, name, nanoseconds):
         self.name, self.own, self.beside = name, nanoseconds[OWN], nanoseconds.get(BESIDE)
-        self.peers = {peer: ns for peer, ns in nanoseconds.items() if peer not in (OWN, BESIDE)}
+        self.peers = {peer: ns for peer, ns in nanoseconds.items() if peer not in (OWN, BESIDE, COUNTS)}
         self.peer = min(self.peers, key=self.peers.get) if self.peers else None
         self.peer_ns = self.peers.get(self.peer)
-        self.ratio = self.own / self.peer_ns if self.peer else None
+        self.ratio = self.own / self.peer_ns if self.peer_ns else None
+        # What one more object takes of them: the library, and the peer that is the fastest.
+        self.instructions, self.peer_instructions = nanoseconds.get(COUNTS, (None, None))
         self.operation, self.descriptor, layout, size, objects = NAME.match(name).groups()
         self.is_single, self.is_run_time = objects == "single", size is not None
         self.is_large = not self.is_single and int(objects) > 10000
@@ -37,6 +39,10 @@ class Row:
     def limit(self):
         """The ratio that a row should not be above."""
         return SLOWER_SINGLE if self.is_single else SLOWER
+
+    @property
+    def is_behind(self):
+        return self.ratio is not None and not self.is_large and self.ratio > self.limit
 
     @property
     def subject(self):
@@ -113,16 +119,28 @@ def groups(rows):
 
 
 def read(path):
-    results = json.loads(Path(path).read_text())
+    results = {"unit": "ns", **json.loads(Path(path).read_text())}
     results["rows"] = [Row(name, ns) for name, ns in results["rows"].items()]
     return results
 
 
+def add_instructions(rows, counted):
+    """Takes the instructions of rows from results whose figures are counts."""
+    counts = {row.name: row for row in counted}
+    for row in rows:
+        if found := counts.get(row.name):
+            row.instructions, row.peer_instructions = found.own, found.peers[row.peer]
+
+
 def write(results, path):
-    """The library's time and that of its fastest peer, one line for each row of the catalogue."""
+    """The library's time and that of its fastest peer, with their instructions where these were counted; one line for
+    each row of the catalogue."""
 
     def text(row):
-        return json.dumps(row.name) + ": " + json.dumps({OWN: round(row.own, 3), row.peer: round(row.peer_ns, 3)})
+        figures = {OWN: round(row.own, 3), row.peer: round(row.peer_ns, 3)}
+        if row.instructions:
+            figures[COUNTS] = [round(row.instructions, 1), round(row.peer_instructions, 1)]
+        return json.dumps(row.name) + ": " + json.dumps(figures)
 
     lines = [
         ", ".join(map(text, members))
