@@ -81,10 +81,18 @@ ZELM_INLINE ZelmStatus qrInCopy(const S &s, Address scratch, const D &d) {
     using T = typename D::Element;
     T a[N][N];
     readMatrix(s, a);
-    const unsigned made = qrFactor(a);
+    unsigned made;
+    if constexpr (N <= 4)
+        made = qrFactorInRegisters(a);
+    else
+        made = qrFactor(a);
     writeMatrix(d, a);
+    if (made == N - 1) {
+        leaveReflector<N>(d, scratch, N - 1);
+        return ZELM_OK;
+    }
     leaveReflector<N>(d, scratch, made);
-    return made == N - 1 ? ZELM_OK : ZELM_ERR_DIV_BY_ZERO;
+    return ZELM_ERR_DIV_BY_ZERO;
 }
 
 template <typename S, typename D, typename Shape>

@@ -6,11 +6,7 @@ namespace zelm::solvers {
 
 template <typename T, unsigned N>
 unsigned qrFactor(T (&a)[N][N]) {
-    ZELM_UNROLL
-    for (unsigned k = 0; k < N - 1; ++k)
-        if (!reflectTested(a, k))
-            return k;
-    return N - 1;
+    return qrFactorInRegisters(a);
 }
 
 template <typename V, unsigned N>

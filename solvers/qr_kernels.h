@@ -76,6 +76,16 @@ ZELM_INLINE bool reflectTested(V (&a)[N][N], unsigned k) {
 
 // Factors a in place. The number of reflectors made: N - 1, or fewer where a column fails the threshold.
 template <typename T, unsigned N>
+ZELM_INLINE unsigned qrFactorInRegisters(T (&a)[N][N]) {
+    ZELM_UNROLL
+    for (unsigned k = 0; k < N - 1; ++k)
+        if (!reflectTested(a, k))
+            return k;
+    return N - 1;
+}
+
+// It as a real function, where the elements are more than registers hold.
+template <typename T, unsigned N>
 unsigned qrFactor(T (&a)[N][N]);
 
 // The same for a group. False where a column of any lane fails: the contents are then of no use.
