@@ -56,7 +56,7 @@ ZELM_INLINE void planeInOrder(const A &a, const B &b, const Rows<T> &d, std::uin
     if constexpr (kHasFewRegisters)
         stridedRun<Op>(a, b, d, count);
     else
-        elementsOfRow<Op>(a, b, d, count);
+        elementsOfArray<Op>(a, b, d, count);
 }
 
 // The bytes of one position of an array, an invariant's being one element. Strides that don't ascend have
