@@ -71,16 +71,17 @@ ZELM_INLINE void loadTransposed(const Dense<const double> &s, Doubles2 (&rows)[8
 
 // Where the rows of dst lie over each other: in the order of elements.
 template <typename T>
-ZELM_NOINLINE void transposeThroughCopy(Dense<const T> s, Dense<T> d) {
+ZELM_NOINLINE ZelmStatus transposeThroughCopy(Dense<const T> s, Dense<T> d) {
     T whole[16];
     for (std::uint32_t e = 0; e < 16; ++e)
         copyElement<T>(addressOf(whole + e), s.address(e / 4, e % 4, 4));
     for (std::uint32_t e = 0; e < 16; ++e)
         copyElement<T>(d.address(e % 4, e / 4, 4), addressOf(whole + e));
+    return ZELM_OK;
 }
 
 template <typename T>
-ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, FixedShape<4, 4>, bool apart) {
+ZELM_INLINE ZelmStatus transposeWhole(const Dense<const T> &s, const Dense<T> &d, bool apart) {
     if (!apart)
         return transposeThroughCopy(s, d);
     constexpr unsigned packs = sizeof(T);
@@ -89,25 +90,33 @@ ZELM_INLINE void transposeWhole(const Dense<const T> &s, const Dense<T> &d, Fixe
     ZELM_UNROLL
     for (unsigned p = 0; p < packs; ++p)
         storePack(d.rowStart(p * 4 / packs) + p % (packs / 4) * kBlockBytes, rows[p]);
-}
-
-template <typename T>
-ZELM_INLINE ZelmStatus transposeSingleWhole(const Dense<const T> &s, const Dense<T> &d,
-                                            FixedShape<4, 4> shape) {
-    if (ZelmStatus status = checkSingle(false, s, d); status != kProceed)
-        return status;
-    transposeWhole(s, d, shape, objectElementsAreApart(d, 4, 4));
     return ZELM_OK;
 }
 
 template <typename T>
+ZELM_INLINE ZelmStatus transposeSingleWhole(const Dense<const T> &s, const Dense<T> &d, FixedShape<4, 4>) {
+    if (ZelmStatus status = checkSingle(false, s, d); status != kProceed)
+        return status;
+    // Rows behind each other, and far from where an address would wrap. Others take the longer way, to the
+    // same.
+    constexpr Address row = 4 * sizeof(T), most = Address{1} << (8 * sizeof(Address) - 4);
+    return transposeWhole(s, d, d.rowStride - row < most);
+}
+
+template <typename T>
 ZELM_INLINE ZelmStatus transposeArrayWhole(const DenseArray<const T> &s, const DenseArray<T> &d,
-                                           FixedShape<4, 4> shape, std::uint32_t count) {
+                                           FixedShape<4, 4>, std::uint32_t count) {
     if (ZelmStatus status = checkArray(false, count, tested(s, 0), tested(d, 0)); status != kProceed)
         return status;
-    const bool apart = objectElementsAreApart(d, 4, 4);
-    for (std::uint32_t k = 0; k < count; ++k)
-        transposeWhole(s.object(k), d.object(k), shape, apart);
+    if (!objectElementsAreApart(d, 4, 4)) {
+        for (std::uint32_t k = 0; k < count; ++k)
+            transposeThroughCopy(s.object(k), d.object(k));
+        return ZELM_OK;
+    }
+    Dense<const T> from = s.object(0);
+    Dense<T> to = d.object(0);
+    for (; count != 0; --count, from.start += s.objStride, to.start += d.objStride)
+        transposeWhole(from, to, true);
     return ZELM_OK;
 }
 

@@ -191,6 +191,13 @@ ZELM_INLINE auto withDenseTranspose(S s, D d, Shape shape, With with) {
 
 // ---- one matrix
 
+// Its arguments are those of the call that ends in it.
+template <typename Shape, typename S, typename D>
+ZELM_NOINLINE ZelmStatus transposeDense(S s, D d) {
+    withDenseTranspose(s, d, Shape(), [&](auto transpose) ZELM_INLINE_LAMBDA { transpose(s, d); });
+    return ZELM_OK;
+}
+
 template <typename S, typename D, typename Shape>
 ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
     if (ZelmStatus status = checkSingle(shape.isZero(), s, d); status != kProceed)
@@ -207,7 +214,15 @@ ZELM_INLINE ZelmStatus transposeSingle(const S &s, const D &d, Shape shape) {
         });
         return complete ? ZELM_OK : ZELM_ERR_NULL_PTR;
     } else if constexpr (D::isDense) {
-        withDenseTranspose(s, d, shape, [&](auto transpose) ZELM_INLINE_LAMBDA { transpose(s, d); });
+        if constexpr (Shape::isFixed && Shape::columnsIfFixed == 3) {
+            // Most calls: no gaps, and the matrices apart. What asks for more memory stands elsewhere.
+            constexpr Address row = 3 * sizeof(typename D::Element), bytes = 3 * row;
+            if (s.rowStride != row || d.rowStride != row || !areDisjoint(s.start, bytes, d.start, bytes))
+                return transposeDense<Shape>(s, d);
+            transposeThree(s, d);
+        } else {
+            withDenseTranspose(s, d, shape, [&](auto transpose) ZELM_INLINE_LAMBDA { transpose(s, d); });
+        }
     } else {
         transposeInOrder(s, d, shape);
     }
