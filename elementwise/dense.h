@@ -112,7 +112,7 @@ ZELM_INLINE bool isGapless(const Operand &operand, Shape shape) {
 
 // ---- one object
 
-template <typename Op, typename A, typename B, typename T, typename Shape>
+template <typename Op, bool asTwo = true, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape shape) {
     if constexpr (kMayBeNine<A, B, T, Shape>)
         if (isNineWhereTransposed(a) && isNineWhereTransposed(b))
@@ -120,7 +120,7 @@ ZELM_INLINE void gaplessObject(const A &a, const B &b, const Dense<T> &d, Shape 
     if constexpr (Shape::isFixed)
         shortRun<Op, T, shape.elements()>(inputOf<Shape>(a), inputOf<Shape>(b), d.start);
     else
-        run<Op, T>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
+        run<Op, T, asTwo>(inputRow(a, 0), inputRow(b, 0), d.start, shape.elements());
 }
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
@@ -209,10 +209,13 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
         };
         return forEach<Shape>(count, one, a, b, d);
     };
+    // Where registers are few, two packs in place of a loop are worth their test in lists of one source.
+    constexpr bool asTwo = !kHasFewRegisters || (D::isList && !(A::isList && B::isList));
     if constexpr (kRunsGapless<A, B, Shape>)
         if (areGapless(a, b, d, shape))
-            return objects([&](const auto &first, const auto &second, const Dense<T> &result)
-                               ZELM_INLINE_LAMBDA { gaplessObject<Op>(first, second, result, shape); });
+            return objects(
+                [&](const auto &first, const auto &second, const Dense<T> &result)
+                    ZELM_INLINE_LAMBDA { gaplessObject<Op, asTwo>(first, second, result, shape); });
     return objects([&](const auto &first, const auto &second, const Dense<T> &result)
                        ZELM_INLINE_LAMBDA { objectByRows<Op>(first, second, result, shape); });
 }

@@ -298,12 +298,11 @@ ZELM_INLINE bool runAsTwo(const A &a, const B &b, Address dst, Address length) {
 
 // A run over one row. Short ones are done in two packs; where packs are wide, longer ones stand apart, so
 // that a loop over short rows keeps its addresses in registers.
-template <typename Op, typename T, typename A, typename B>
+template <typename Op, typename T, bool asTwo = !kHasFewRegisters, typename A, typename B>
 ZELM_INLINE void run(const A &a, const B &b, Address dst, Address length) {
     if constexpr (kRunBytes == kBlockBytes) {
-        // Of 64-bit float two packs are but four elements; there, and where registers are few, the loop would
-        // be the slower for the test.
-        if constexpr (sizeof(T) == 4 && !kHasFewRegisters)
+        // Of 64-bit float two packs are but four elements: the loop would be the slower for the test.
+        if constexpr (sizeof(T) == 4 && asTwo)
             if (length - kLanes<T> <= kLanes<T> && runAsTwo<Op, Pack<T>>(a, b, dst, length))
                 return;
         runFrom<Op, Pack<T>, kPacksOfRow>(a, b, dst, length);
