@@ -14,8 +14,7 @@ ZELM_INLINE ZelmStatus multiplyByTranspose(const Dense<const T> &a, const Transp
     using B = Transposed<Dense<const T>>;
     if (ZelmStatus status = checkSingle(isWrongSize<Dense<const T>, B>(sizes), a, b, d); status != kProceed)
         return status;
-    accumulateMatrix(a, b, d, Bounds{sizes.height1, sizes.height2, sizes.width2}, Pitches{0, 0, 0});
-    return ZELM_OK;
+    return accumulateSingle(a, b, d, Bounds{sizes.height1, sizes.height2, sizes.width2}, Pitches{0, 0, 0});
 }
 
 // zelmMul_{mama,maTma,mamaT,maTmaT}_64f_{3x3,4x4,5x5,6x6}: where src2, its row stride, dst and its strides

@@ -138,11 +138,16 @@ constexpr InPlaceOf kInPlace = inPlaceOf(formOf<D>(), kIsArray<D>, kIsArray<A>, 
 
 template <typename A, typename B, typename D>
 ZELM_INLINE ZelmStatus accumulateSingle(const A &a, const B &b, const D &d, Bounds bounds, Pitches pitches) {
+    // Too small for packs, the tests take more than they gain.
+    const bool isSmall = !kHasRows<B> && bounds.rows < kLeastTurned && bounds.columns < kLeastTurned;
     if constexpr (D::isTable) {
-        return accumulateTested(a, b, d, bounds, pitches);
+        if (isSmall || !tablesMiss(a, b, d, bounds, pitches))
+            return accumulateTested(a, b, d, bounds, pitches);
+        multiplyAsUsed(a, b, d, bounds, pitches);
+        return ZELM_OK;
     } else {
-        if (productIsApart(a, b, d, bounds, pitches))
-            multiplyApart(a, b, d, bounds, pitches);
+        if (!isSmall && productIsApart(a, b, d, bounds, pitches))
+            multiplyAsUsed(a, b, d, bounds, pitches);
         else
             accumulateMatrix(a, b, d, bounds, pitches);
         return ZELM_OK;
