@@ -2,6 +2,7 @@
 #pragma once
 
 #include "elementwise/invariant.h"
+#include "elementwise/transposed.h"
 
 namespace zelm::elementwise {
 
@@ -211,11 +212,19 @@ ZELM_INLINE ZelmStatus denseArray(const A &a, const B &b, const D &d, Shape shap
     };
     // Where registers are few, two packs in place of a loop are worth their test in lists of one source.
     constexpr bool asTwo = !kHasFewRegisters || (D::isList && !(A::isList && B::isList));
+    // Of 64-bit float that gains nothing in arrays on 32-bit x86, nor where one permutation takes two packs.
+    constexpr bool isCombined = kIsCombinedTransposed<A, B, Shape> &&
+                                (sizeof(T) == 4 || (kHasFewRegisters ? D::isList : kWidestBytes < 64));
+    const auto gapless = [&](const auto &first, const auto &second, const Dense<T> &result)
+                             ZELM_INLINE_LAMBDA {
+                                 if constexpr (isCombined)
+                                     if (combinedTransposed<Op>(first, second, result))
+                                         return;
+                                 gaplessObject<Op, asTwo>(first, second, result, shape);
+                             };
     if constexpr (kRunsGapless<A, B, Shape>)
         if (areGapless(a, b, d, shape))
-            return objects(
-                [&](const auto &first, const auto &second, const Dense<T> &result)
-                    ZELM_INLINE_LAMBDA { gaplessObject<Op, asTwo>(first, second, result, shape); });
+            return objects(gapless);
     return objects([&](const auto &first, const auto &second, const Dense<T> &result)
                        ZELM_INLINE_LAMBDA { objectByRows<Op>(first, second, result, shape); });
 }

@@ -4,7 +4,6 @@
 
 #include "elementwise/dense.h"
 #include "elementwise/per_position.h"
-#include "elementwise/transposed.h"
 #include "frame/plainest.h"
 
 namespace zelm::elementwise {
@@ -34,7 +33,7 @@ struct Multiplication {
 
 template <typename Op, typename A, typename B, typename T, typename Shape>
 ZELM_INLINE ZelmStatus object(const A &a, const B &b, const Dense<T> &d, Shape shape) {
-    if constexpr (std::is_same_v<Shape, FixedShape<4, 4>> && kIsTransposed<A> && kIsTransposed<B>)
+    if constexpr (kIsCombinedTransposed<A, B, Shape>)
         if (combinedTransposed<Op>(a, b, d))
             return ZELM_OK;
     return denseObject<Op>(a, b, d, shape);

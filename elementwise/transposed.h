@@ -48,6 +48,10 @@ ZELM_INLINE void combineTransposed(const Dense<const double> &a, const Dense<con
     }
 }
 
+template <typename A, typename B, typename Shape>
+constexpr bool kIsCombinedTransposed =
+    std::is_same_v<Shape, FixedShape<4, 4>> &&kIsTransposed<A> &&kIsTransposed<B>;
+
 // Where the rows of dst have no gaps: both matrices are read before any of it is written, as two of
 // TransposedFour are, or it lies apart from them. False elsewhere.
 template <typename Op, typename S, typename T>
