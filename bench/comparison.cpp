@@ -71,10 +71,10 @@ std::vector<std::string> wrongOf(const Row &row, Workload &work, const std::vect
     return wrong;
 }
 
-// Whole groups and whole stretches of lists, so that what a call takes beside them drops out; of calls for
-// one object a few, and of the largest matrices no more than the widest group.
+// Whole rounds of eight packs of 16, and whole stretches of lists, so that what a call takes beside them
+// drops out; of calls for one object a few, and of the largest matrices no more than the widest group.
 std::size_t countedObjects(const Row &row) {
-    return !row.member->isArray ? 4 : row.count < 1000 ? 16 : 64;
+    return !row.member->isArray ? 4 : row.count < 1000 ? 16 : 128;
 }
 
 } // namespace
