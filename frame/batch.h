@@ -438,8 +438,8 @@ ZELM_INLINE std::uint32_t runGroups(std::uint32_t k, std::uint32_t end, Group gr
 }
 
 // Whether groups of planes are counted in the width of an address: what is added to the start of each plane
-// is the count itself then, which no round widens. Dot products of planes take half of their time so; packs
-// of 64 bytes have too few rounds to gain.
+// is the count itself then, which no round widens. Dot products of planes take down to half of their time so;
+// packs of 64 bytes have too few rounds to gain.
 template <typename V, typename... Operands>
 constexpr bool kCountsInAddresses = !kHasFewRegisters && sizeof(V) <= 32 && (Operands::isSideBySide || ...);
 
@@ -448,7 +448,7 @@ ZELM_INLINE Address runPlanes(Address k, Address end, Group group) {
     if (end - k >= kLanesOf<V>) {
         const Address last = end - kLanesOf<V>;
         do {
-            if (k > ~std::uint32_t{})
+            if (k > ~std::uint32_t{}) // no count is; narrowing it for the group then costs nothing
                 __builtin_unreachable();
             if (!group(As<V>{}, static_cast<std::uint32_t>(k)))
                 break;
